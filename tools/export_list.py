@@ -10,6 +10,17 @@ DATA = re.compile(r"^extern [^;]*?(\w+)(?:\[[^;]*\])*;", re.M)
 SERVICE = re.compile(r"^[A-Za-z][\w ]*?[ *]+(get_\w+)\(", re.M)
 
 
+def public_names(headers):
+    """The routines that the headers declare, and the other names: data and services."""
+    routines, others = set(), set()
+    for header in headers:
+        with open(header, encoding="utf-8") as file:
+            text = file.read()
+        routines.update(ROUTINE.findall(text))
+        others.update(DATA.findall(text) + SERVICE.findall(text))
+    return routines, others
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--map", help="version script for the linker")
@@ -17,12 +28,7 @@ def main():
     parser.add_argument("headers", nargs="+")
     arguments = parser.parse_args()
 
-    routines, others = set(), set()
-    for header in arguments.headers:
-        with open(header, encoding="utf-8") as file:
-            text = file.read()
-        routines.update(ROUTINE.findall(text))
-        others.update(DATA.findall(text) + SERVICE.findall(text))
+    routines, others = public_names(arguments.headers)
 
     if arguments.map:
         with open(arguments.map, "w", encoding="utf-8") as file:

@@ -1,0 +1,11 @@
+/// \file all.h
+/// Every chapter of the library.
+#ifndef KOR_ALL_H
+#define KOR_ALL_H
+
+#include <kor/c05.h>
+#include <kor/p01.h>
+#include <kor/x02.h>
+#include <kor/x04.h>
+
+#endif
