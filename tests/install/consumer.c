@@ -18,7 +18,8 @@ int main(void)
     if (fail.code != NE_NOERROR || fabs(x - sqrt(2.0)) > 1e-14) return 1;
 
     c05adc(0.0, 2.0, &x, square_less_two, -1.0, 0.0, &fail);
-    if (fail.code != NE_REAL_ARG_LE || strncmp(fail.message, kor_errlist[fail.code], strlen("NE_REAL_ARG_LE:")) != 0) return 2;
+    if (fail.code != NE_REAL_ARG_LE || strncmp(fail.message, kor_errlist[fail.code], strlen("NE_REAL_ARG_LE:")) != 0)
+        return 2;
 
     if (!(1.0 + 2.0 * x02ajc() > 1.0)) return 3;
     puts("C99: ok");

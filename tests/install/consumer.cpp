@@ -12,7 +12,9 @@ double zero(double a, double b, Function function)
 {
     KorError fail{};
     double x = 0.0;
-    c05sdc(a, b, &x, [](double t, void *self) { return (*static_cast<Function *>(self))(t); }, 1e-14, 0.0, &function, &fail);
+    c05sdc(
+        a, b, &x, [](double t, void *self) { return (*static_cast<Function *>(self))(t); }, 1e-14, 0.0, &function,
+        &fail);
     return fail.code == NE_NOERROR ? x : NAN;
 }
 
