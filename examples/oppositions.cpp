@@ -107,7 +107,7 @@ try {
         const double before = ahead(date), after = ahead(date + step);
         if (!(before < 0.0 && after >= 0.0 && after - before < 180.0)) continue;
         const double opposition = zero(date, date + step, 1e-9, ahead);
-        std::printf("%s %15.2f %20.8f\n", calendar(opposition).c_str(), opposition, ahead(opposition));
+        std::printf("%s %15.2f %20.8f\n", calendar(opposition).c_str(), opposition, std::fabs(ahead(opposition)));
     }
 } catch (const std::exception &error) {
     std::puts(error.what());

@@ -1,6 +1,6 @@
 /// \file kor.h
 /// The types that every user of the library needs: integers, truth values, complex numbers, the error record, the error
-/// codes and the enumerators. The routines themselves are declared chapter by chapter in kor/<chapter>.h.
+/// codes and the enumerators. The routines themselves are declared chapter by chapter: kor/c05.h and its like.
 #ifndef KOR_H
 #define KOR_H
 

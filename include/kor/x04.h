@@ -12,6 +12,10 @@ KOR_BEGIN_DECLS
 /// \return the block, not cleared; null if there is no such memory
 /// \par Thread safety
 /// Safe.
+/// \par Example
+/// \code{.c}
+/// double *work = x04bbc(n * sizeof *work);
+/// \endcode
 void *x04bbc(size_t size);
 
 /// \brief Changes the size of a block: what realloc gives.
@@ -20,6 +24,11 @@ void *x04bbc(size_t size);
 /// \return the block, moved if need be; null on failure, and then the old block stands
 /// \par Thread safety
 /// Safe.
+/// \par Example
+/// \code{.c}
+/// double *longer = x04bcc(work, 2 * n * sizeof *work);
+/// if (longer != NULL) work = longer;
+/// \endcode
 void *x04bcc(void *p, size_t size);
 
 /// \brief Frees a block and clears the pointer to it.
@@ -28,11 +37,17 @@ void *x04bcc(void *p, size_t size);
 /// \param[in,out] pp address of the pointer to a block, or to null, which is harmless; null on return
 /// \par Thread safety
 /// Safe.
+/// \par Example
+/// \code{.c}
+/// x04bdc((void **)&work);   // work is null now
+/// \endcode
 void x04bdc(void **pp);
 
 /// \brief Value of an enumerator by its name.
 /// \param[in] name such as "Kor_Ascending", in the case of the header
 /// \return the value, 1 to 519; -5438 if there is no such name
+/// \par Thread safety
+/// Safe.
 /// \par Example
 /// \code{.c}
 /// Integer order = x04mac("Kor_Ascending");   // 507
@@ -44,6 +59,8 @@ Integer x04mac(const char *name);
 /// Two keys differ from the catalogue's: code 635 is found as "NE_ARIMA_INPUT_NPAR", and "NE_S21_CONV" is not found.
 /// \param[in] name such as "NE_ALLOC_FAIL"
 /// \return the code, 0 to 699; -5438 if there is no such key
+/// \par Thread safety
+/// Safe.
 /// \par Example
 /// \code{.c}
 /// Integer code = x04mbc("NE_ALLOC_FAIL");    // 73
