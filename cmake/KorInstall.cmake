@@ -1,4 +1,4 @@
-# What `cmake --install` lays down, and the .deb packages that CPack makes of it, one a component.
+# What `cmake --install` lays down. The components are the Debian packages that cmake/KorPackages.cmake makes of it.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS korc EXPORT korcTargets
@@ -24,4 +24,8 @@ install(FILES "${PROJECT_BINARY_DIR}/korc.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR
 if(KOR_BUILD_DOCS)
   install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/man/man3" DESTINATION ${CMAKE_INSTALL_MANDIR} COMPONENT libkorc-dev)
   install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/html" DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT korc-doc)
+endif()
+
+if(KOR_PACKAGES)
+  include(KorPackages)
 endif()
