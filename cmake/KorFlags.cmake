@@ -19,3 +19,9 @@ if(KOR_SANITIZE)
   add_link_options(-fsanitize=${KOR_SANITIZE})
   add_compile_definitions(KOR_SANITIZED=1)
 endif()
+
+# Every object carries the counters that guide the fuzz targets.
+if(KOR_BUILD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_link_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -47,10 +47,13 @@ function(kor_library)
   target_include_directories(korc PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_options(korc PRIVATE
-    "LINKER:--version-script=${exports}" LINKER:-Bsymbolic-functions LINKER:--no-undefined LINKER:--as-needed)
+    "LINKER:--version-script=${exports}" LINKER:-Bsymbolic-functions LINKER:--as-needed)
   target_link_libraries(korc PRIVATE LAPACK::LAPACK BLAS::BLAS Threads::Threads)
   if(KOR_SANITIZE)
+    # The run-time library of a sanitizer may come with the program alone.
     set_property(TARGET korc APPEND PROPERTY LINK_OPTIONS LINKER:--undefined-version)
+  else()
+    set_property(TARGET korc APPEND PROPERTY LINK_OPTIONS LINKER:--no-undefined)
   endif()
 
   add_library(korc_internal STATIC EXCLUDE_FROM_ALL ${objects})

@@ -16,8 +16,12 @@ install(FILES "${PROJECT_BINARY_DIR}/korcConfig.cmake" "${PROJECT_BINARY_DIR}/ko
   DESTINATION ${package_dir} COMPONENT libkorc-dev)
 
 # pkg-config korc. The library names BLAS and LAPACK itself, so a program links to nothing else. The prefix is told from
-# the place of the file, so that an installed tree can be moved.
-file(RELATIVE_PATH KOR_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+# the place of the file, so that an installed tree can be moved; in /usr it is named, and pkg-config then leaves it out.
+set(KOR_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+if(NOT KOR_PC_PREFIX STREQUAL "/usr")
+  file(RELATIVE_PATH up "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+  set(KOR_PC_PREFIX "\${pcfiledir}/${up}")
+endif()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/korc.pc.in" "${PROJECT_BINARY_DIR}/korc.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/korc.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT libkorc-dev)
 
