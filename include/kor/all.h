@@ -4,6 +4,7 @@
 #define KOR_ALL_H
 
 #include <kor/c05.h>
+#include <kor/m01.h>
 #include <kor/p01.h>
 #include <kor/x02.h>
 #include <kor/x04.h>

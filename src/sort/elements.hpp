@@ -1,0 +1,89 @@
+// Arrays of elements of any size, a stride apart.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+
+#include <kor.h>
+
+namespace kor::sort {
+
+struct Elements {
+    unsigned char *first;
+    std::ptrdiff_t stride; // in bytes, negative to walk backwards
+
+    // The arguments of a routine; what it may not change it does not change.
+    Elements(const void *vec, Integer stride_in_bytes)
+        : first{static_cast<unsigned char *>(const_cast<void *>(vec))}, stride{stride_in_bytes}
+    {
+    }
+    unsigned char *operator[](std::ptrdiff_t i) const { return first + i * stride; }
+    Elements reversed(std::ptrdiff_t n) const
+    {
+        Elements backwards = *this;
+        backwards.first = (*this)[n - 1];
+        backwards.stride = -stride;
+        return backwards;
+    }
+};
+
+using Comparator = Integer (*)(const void *, const void *);
+
+// What a comparison of a with b says of a in the order wanted.
+template <bool descending>
+constexpr bool sorts_after(Integer comparison)
+{
+    return descending ? comparison < 0 : comparison > 0;
+}
+
+// The size of an element: one that the compiler knows, so that a copy is one or two moves, or any other.
+template <std::size_t bytes>
+struct FixedWidth {
+    static constexpr std::size_t size() { return bytes; }
+};
+struct AnyWidth {
+    std::size_t bytes;
+    std::size_t size() const { return bytes; }
+};
+
+// Calls work(width) with the kind of width that suits the size.
+template <class Work>
+auto with_width(std::size_t size, Work &&work)
+{
+    switch (size) {
+    case 4:
+        return work(FixedWidth<4>{});
+    case 8:
+        return work(FixedWidth<8>{});
+    case 16:
+        return work(FixedWidth<16>{});
+    default:
+        return work(AnyWidth{size});
+    }
+}
+
+template <class Width>
+void copy_element(Width width, unsigned char *to, const unsigned char *from)
+{
+    std::memcpy(to, from, width.size());
+}
+
+template <std::size_t bytes>
+void swap_elements(FixedWidth<bytes>, unsigned char *a, unsigned char *b)
+{
+    unsigned char x[bytes], y[bytes];
+    std::memcpy(x, a, bytes);
+    std::memcpy(y, b, bytes);
+    std::memcpy(a, y, bytes);
+    std::memcpy(b, x, bytes);
+}
+
+inline void swap_elements(AnyWidth width, unsigned char *a, unsigned char *b)
+{
+    std::size_t left = width.size();
+    for (; left >= 16; left -= 16, a += 16, b += 16) swap_elements(FixedWidth<16>{}, a, b);
+    for (; left >= 4; left -= 4, a += 4, b += 4) swap_elements(FixedWidth<4>{}, a, b);
+    for (; left > 0; --left, ++a, ++b) swap_elements(FixedWidth<1>{}, a, b);
+}
+
+} // namespace kor::sort
