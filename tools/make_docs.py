@@ -5,7 +5,6 @@ Doxygen reads the headers twice: first as XML, from which come one manual page a
 and by error key; then, with the guides and these indices, as HTML. What Doxygen finds undocumented or half documented
 fails the build, and so does a parameter without its direction, a routine without its sections, and an unknown error key."""
 import argparse
-import html
 import os
 import re
 import shutil
@@ -22,7 +21,7 @@ BLOCKS = {"para", "simplesect", "parameterlist", "itemizedlist", "orderedlist", 
           "table", "sect1", "sect2"}
 MOST_SIBLINGS = 12  # of a routine's chapter that its manual page names
 # Words that name no task.
-COMMON_WORDS = set("""about above after again also among another around because been before being below between both cannot
+COMMON_WORDS = set("""about above after again against also among another around because been before being below between both cannot
 each either every from given gives have into itself less like made make makes many more most much must need needs only other
 others over same several some such than that their them then there these they this those through under until upon used
 uses using very what when where whether which while whose will with within without zero's one's all and are can first for
@@ -328,7 +327,7 @@ def error_index(chapters, catalogue):
            "receives them.\n\n"]
     for key in sorted(catalogue):
         code, text = catalogue[key]
-        out.append(f"## {key} {{#error_{key}}}\n\nCode {code}.\n\n<pre>{html.escape(text).replace('%', '&#37;').replace('@', '&#64;')}</pre>\n\n")
+        out.append(f"## {key} {{#error_{key}}}\n\nCode {code}.\n\n\\verbatim\n{text}\n\\endverbatim\n\n")
         out += [f"- \\ref {routine.name} &nbsp; {cell(cause)}\n" for routine, cause in reports.get(key, [])] + ["\n"]
     return "".join(out)
 
