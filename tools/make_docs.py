@@ -282,11 +282,13 @@ def cell(text):
 
 
 def chapter_index(chapters, guides):
+    """Each chapter with its routines and with the guides that speak of them; guides: texts by name."""
     out = ["# Routines by chapter {#index_chapters}\n\n"]
     for chapter in chapters:
+        names = {r.name for r in chapter.routines}
         out.append(f"## {chapter.name}: {cell(chapter.title)} {{#chapter_{chapter.name}}}\n\n")
-        if chapter.name in guides:
-            out.append(f"\\ref guide_{chapter.name}\n\n")
+        own = [chapter.name] if chapter.name in guides else [name for name in guides if names & set(ROUTINE_NAME.findall(guides[name]))]
+        out += [f"Guide: \\ref guide_{name}\n\n" for name in own]
         out.append("| Routine | Purpose |\n| --- | --- |\n")
         out += [f"| \\ref {r.name} | {cell(r.brief)} |\n" for r in chapter.routines] + ["\n"]
     return "".join(out)
@@ -381,10 +383,12 @@ def main():
     write(os.path.join(man, "man3", "kor.3"), man_overview(chapters, a.version))
 
     known = {r.name for chapter in chapters for r in chapter.routines}
-    guides = sorted(name[:-3] for name in os.listdir(os.path.join(ROOT, "docs", "guide")) if name.endswith(".md"))
-    for name in guides:
-        with open(os.path.join(ROOT, "docs", "guide", name + ".md"), encoding="utf-8") as file:
-            write(os.path.join(pages, f"guide_{name}.md"), guide_page(name, file.read(), known))
+    guides = {}
+    for name in sorted(os.listdir(os.path.join(ROOT, "docs", "guide"))):
+        with open(os.path.join(ROOT, "docs", "guide", name), encoding="utf-8") as file:
+            guides[name.removesuffix(".md")] = file.read()
+    for name, text in guides.items():
+        write(os.path.join(pages, f"guide_{name}.md"), guide_page(name, text, known))
     write(os.path.join(pages, "index_chapters.md"), chapter_index(chapters, guides))
     write(os.path.join(pages, "index_tasks.md"), task_index(chapters))
     write(os.path.join(pages, "index_errors.md"), error_index(chapters, catalogue))
