@@ -115,6 +115,235 @@ void c05sdc(double a, double b, double *x, double (*f)(double x, void *comm), do
 /// \endcode
 void c05azc(double *x, double *y, double *fx, double xtol, Integer ir, double c[], Integer *ind, KorError *fail);
 
+/// \brief A zero of n functions of n variables, without derivatives.
+///
+/// Finds x with f_i(x) = 0, i = 1..n, from a starting point. Scale the unknowns so that their expected values are of
+/// similar size: the trust region is a ball.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  fcn  computes the n values f(x) in `fvec`; called on this thread. A negative value in `*userflag` stops the
+///                  routine
+/// \param[in,out] x n elements: the starting point; on exit the best point reached
+/// \param[out] fvec n elements: f at that point
+/// \param[in]  xtol accuracy wanted of x, relative, at least 0; 0 asks for all that can be had, and ends with
+///                  NE_XTOL_TOO_SMALL unless an exact zero is met
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LE: `n` is less than 1.
+/// - NE_REAL_ARG_LT: `xtol` is less than 0.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_USER_STOP: `fcn` has set `*userflag` negative; `fail->errnum` holds its value.
+/// - NE_TOO_MANY_FUNC_EVAL: 200(n+1) evaluations were not enough. The search may be continued from the point reached.
+/// - NE_XTOL_TOO_SMALL: no better approximation is possible.
+/// - NE_NO_IMPROVEMENT: the last ten steps, or the last five Jacobians, brought no good progress: there may be no zero
+///   near the starting point.
+///
+/// After each of these from NE_USER_STOP on `x` and `fvec` hold the best point reached; the others leave them untouched.
+/// \par Accuracy
+/// The last trust region is at most `xtol` times the norm of x: about -log10(xtol) digits of the larger unknowns.
+/// \par Method
+/// Powell's hybrid method: a dogleg between the Gauss-Newton step and steepest descent within a trust region, on a
+/// Jacobian that is corrected after each step by Broyden's formula and formed anew only after two failures in a row.
+/// M. J. D. Powell, in P. Rabinowitz (ed.), Numerical Methods for Nonlinear Algebraic Equations (1970).
+/// Derivatives are forward differences, n evaluations for each Jacobian.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// c05tbc() passes data to fcn; c05pbc() takes the Jacobian.
+/// \par Example
+/// \code{.c}
+/// static void circle_and_line(Integer n, const double x[], double fvec[], Integer *userflag)
+/// {
+///     fvec[0] = x[0] * x[0] + x[1] * x[1] - 1.0;
+///     fvec[1] = x[0] - x[1];
+/// }
+/// ...
+/// double x[2] = {1.0, 0.5}, fvec[2];
+/// c05nbc(2, circle_and_line, x, fvec, 1e-10, &fail);   // x = (0.707107, 0.707107)
+/// \endcode
+void c05nbc(Integer n, void (*fcn)(Integer n, const double x[], double fvec[], Integer *userflag), double x[],
+            double fvec[], double xtol, KorError *fail);
+
+/// \brief A zero of n functions of n variables, without derivatives, as c05nbc(), with a pointer to the caller's data.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  fcn  computes the n values f(x) in `fvec`; called on this thread. A negative value in `*userflag` stops the
+///                  routine; `comm` is its last argument
+/// \param[in,out] x n elements: the starting point; on exit the best point reached
+/// \param[out] fvec n elements: f at that point
+/// \param[in]  xtol accuracy wanted of x, relative, at least 0; 0 asks for all that can be had, and ends with
+///                  NE_XTOL_TOO_SMALL unless an exact zero is met
+/// \param[in]  comm passed to fcn as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// As c05nbc().
+/// \par Method
+/// As c05nbc().
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static void circle_and_line(Integer n, const double x[], double fvec[], Integer *userflag, void *comm)
+/// {
+///     const double radius = *(const double *)comm;
+///     fvec[0] = x[0] * x[0] + x[1] * x[1] - radius * radius;
+///     fvec[1] = x[0] - x[1];
+/// }
+/// ...
+/// double radius = 2.0, x[2] = {1.0, 0.5}, fvec[2];
+/// c05tbc(2, circle_and_line, x, fvec, 1e-10, &radius, &fail);   // x = (1.414214, 1.414214)
+/// \endcode
+void c05tbc(Integer n, void (*fcn)(Integer n, const double x[], double fvec[], Integer *userflag, void *comm),
+            double x[], double fvec[], double xtol, void *comm, KorError *fail);
+
+/// \brief A zero of n functions of n variables, from their Jacobian.
+///
+/// As c05nbc(), with derivatives from the caller: check them with c05zbc() first.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  fcn  with `*userflag` 1 computes the n values f(x) in `fvec` and must leave `fjac` alone; with 2 computes
+///                  the Jacobian, element (i, j) = df_i/dx_j in `fjac[i * tdfjac + j]`, and must leave `fvec` alone. A
+///                  negative value in `*userflag` stops the routine
+/// \param[in,out] x n elements: the starting point; on exit the best point reached
+/// \param[out] fvec n elements: f at that point
+/// \param[out] fjac n by n, row-major: the orthogonal factor Q of the last approximation of the Jacobian
+/// \param[in]  tdfjac trailing dimension of `fjac`, at least n
+/// \param[in]  xtol accuracy wanted of x, relative, at least 0
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LE: `n` is less than 1.
+/// - NE_2_INT_ARG_LT: `tdfjac` is less than `n`.
+/// - NE_REAL_ARG_LT: `xtol` is less than 0.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_USER_STOP: `fcn` has set `*userflag` negative; `fail->errnum` holds its value.
+/// - NE_TOO_MANY_FUNC_EVAL: 100(n+1) evaluations were not enough. The search may be continued from the point reached.
+/// - NE_XTOL_TOO_SMALL: no better approximation is possible.
+/// - NE_NO_IMPROVEMENT: the last ten steps, or the last five Jacobians, brought no good progress: there may be no zero
+///   near the starting point.
+///
+/// After each of these from NE_USER_STOP on `x` and `fvec` hold the best point reached; the others leave them untouched.
+/// \par Accuracy
+/// As c05nbc().
+/// \par Method
+/// Powell's hybrid method: a dogleg between the Gauss-Newton step and steepest descent within a trust region, on a
+/// Jacobian that is corrected after each step by Broyden's formula and formed anew only after two failures in a row.
+/// M. J. D. Powell, in P. Rabinowitz (ed.), Numerical Methods for Nonlinear Algebraic Equations (1970).
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static void circle_and_line(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac, Integer *userflag)
+/// {
+///     if (*userflag == 1) {
+///         fvec[0] = x[0] * x[0] + x[1] * x[1] - 1.0;
+///         fvec[1] = x[0] - x[1];
+///     } else {
+///         fjac[0] = 2.0 * x[0];      fjac[1] = 2.0 * x[1];
+///         fjac[tdfjac] = 1.0;        fjac[tdfjac + 1] = -1.0;
+///     }
+/// }
+/// ...
+/// double x[2] = {1.0, 0.5}, fvec[2], fjac[4];
+/// c05pbc(2, circle_and_line, x, fvec, fjac, 2, 1e-10, &fail);
+/// \endcode
+void c05pbc(Integer n,
+            void (*fcn)(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac, Integer *userflag),
+            double x[], double fvec[], double fjac[], Integer tdfjac, double xtol, KorError *fail);
+
+/// \brief A zero of n functions of n variables, from their Jacobian, as c05pbc(), with a pointer to the caller's data.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  fcn  with `*userflag` 1 computes the n values f(x) in `fvec` and must leave `fjac` alone; with 2 computes
+///                  the Jacobian, element (i, j) = df_i/dx_j in `fjac[i * tdfjac + j]`, and must leave `fvec` alone. A
+///                  negative value in `*userflag` stops the routine; `comm` is its last argument
+/// \param[in,out] x n elements: the starting point; on exit the best point reached
+/// \param[out] fvec n elements: f at that point
+/// \param[out] fjac n by n, row-major: the orthogonal factor Q of the last approximation of the Jacobian
+/// \param[in]  tdfjac trailing dimension of `fjac`, at least n
+/// \param[in]  xtol accuracy wanted of x, relative, at least 0
+/// \param[in]  comm passed to fcn as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// As c05pbc().
+/// \par Method
+/// As c05pbc().
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// // fcn is that of c05pbc() with a last argument `void *comm`
+/// double radius = 2.0, x[2] = {1.0, 0.5}, fvec[2], fjac[4];
+/// c05ubc(2, circle_and_line, x, fvec, fjac, 2, 1e-10, &radius, &fail);
+/// \endcode
+void c05ubc(Integer n,
+            void (*fcn)(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac, Integer *userflag,
+                        void *comm),
+            double x[], double fvec[], double fjac[], Integer tdfjac, double xtol, void *comm, KorError *fail);
+
+/// \brief Does a Jacobian fit its function? A check for functions to be passed to c05pbc().
+///
+/// Along two fixed directions each row's product with the direction is compared with a forward difference of f. It passes
+/// when the two agree to about four digits, in the scale of the row's terms.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  x    n elements: the point; choose one that is not special, or errors may stay hidden
+/// \param[out] fvec n elements: f(x)
+/// \param[out] fjac n by n, row-major: the Jacobian at x, as fcn gives it
+/// \param[in]  tdfjac trailing dimension of `fjac`, at least n
+/// \param[in]  fcn  the function under test, as in c05pbc()
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LE: `n` is less than 1.
+/// - NE_2_INT_ARG_LT: `tdfjac` is less than `n`.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_USER_STOP: `fcn` has set `*userflag` negative; `fail->errnum` holds its value.
+/// - NE_DERIV_ERRORS: the Jacobian does not fit; `fvec` and `fjac` hold what fcn computed.
+/// \par Accuracy
+/// A wrong element is found if its error is more than about 1/1000 of the largest term of its row. Functions with huge
+/// second derivatives, or that are computed to less than eight digits, may fail although their Jacobian is right.
+/// \par Method
+/// Directional differences with step sqrt(x02ajc()) relative to each unknown; three evaluations of f, two for n = 1.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// c05zbc(2, x, fvec, fjac, 2, circle_and_line, &fail);   // fail.code == NE_DERIV_ERRORS: look at fjac
+/// \endcode
+void c05zbc(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac,
+            void (*fcn)(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac, Integer *userflag),
+            KorError *fail);
+
+/// \brief Does a Jacobian fit its function? As c05zbc(), with a pointer to the caller's data.
+///
+/// \param[in]  n    number of equations and of unknowns, at least 1
+/// \param[in]  x    n elements: the point; choose one that is not special, or errors may stay hidden
+/// \param[out] fvec n elements: f(x)
+/// \param[out] fjac n by n, row-major: the Jacobian at x, as fcn gives it
+/// \param[in]  tdfjac trailing dimension of `fjac`, at least n
+/// \param[in]  fcn  the function under test, as in c05pbc(); `comm` is its last argument
+/// \param[in]  comm passed to fcn as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// As c05zbc().
+/// \par Method
+/// As c05zbc().
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// c05zcc(2, x, fvec, fjac, 2, circle_and_line, &radius, &fail);   // fail.code == NE_DERIV_ERRORS: look at fjac
+/// \endcode
+void c05zcc(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac,
+            void (*fcn)(Integer n, const double x[], double fvec[], double fjac[], Integer tdfjac, Integer *userflag,
+                        void *comm),
+            void *comm, KorError *fail);
+
 KOR_END_DECLS
 
 #endif

@@ -12,13 +12,19 @@ Integer status_of(ZeroStatus outcome)
 {
     switch (outcome) {
     case ZeroStatus::evaluate:
-    case ZeroStatus::found: return 0;
-    case ZeroStatus::same_sign: return 1;
-    case ZeroStatus::bad_ind: return 2;
+    case ZeroStatus::found:
+        return 0;
+    case ZeroStatus::same_sign:
+        return 1;
+    case ZeroStatus::bad_ind:
+        return 2;
     case ZeroStatus::bad_xtol:
-    case ZeroStatus::bad_ir: return 3;
-    case ZeroStatus::pole: return 4;
-    case ZeroStatus::no_progress: return 5;
+    case ZeroStatus::bad_ir:
+        return 3;
+    case ZeroStatus::pole:
+        return 4;
+    case ZeroStatus::no_progress:
+        return 5;
     }
     return 5;
 }

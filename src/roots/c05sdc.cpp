@@ -6,5 +6,6 @@
 void c05sdc(double a, double b, double *x, double (*f)(double x, void *comm), double xtol, double ftol, void *comm,
             KorError *fail)
 {
-    kor::roots::zero_in_interval({"c05sdc", fail}, a, b, x, [=](double t) { return f(t, comm); }, xtol, ftol);
+    kor::roots::zero_in_interval(
+        {"c05sdc", fail}, a, b, x, [=](double t) { return f(t, comm); }, xtol, ftol);
 }

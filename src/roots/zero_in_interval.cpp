@@ -54,14 +54,19 @@ void zero_in_interval(const Report &report, double a, double b, double *x, Funct
     *x = outcome.status == ZeroStatus::same_sign ? b : outcome.x;
 
     switch (outcome.status) {
-    case ZeroStatus::found: return report.success();
-    case ZeroStatus::same_sign: return report.error<NE_FUNC_END_VAL>("a", "b", "a");
-    case ZeroStatus::pole: return report.error<NE_PROBABLE_POLE>("[a,b]");
-    case ZeroStatus::no_progress: return report.error<NE_XTOL_TOO_SMALL>(xtol);
+    case ZeroStatus::found:
+        return report.success();
+    case ZeroStatus::same_sign:
+        return report.error<NE_FUNC_END_VAL>("a", "b", "a");
+    case ZeroStatus::pole:
+        return report.error<NE_PROBABLE_POLE>("[a,b]");
+    case ZeroStatus::no_progress:
+        return report.error<NE_XTOL_TOO_SMALL>(xtol);
     case ZeroStatus::evaluate:
     case ZeroStatus::bad_ind:
     case ZeroStatus::bad_xtol:
-    case ZeroStatus::bad_ir: break;
+    case ZeroStatus::bad_ir:
+        break;
     }
     report.error<NE_INTERNAL_ERROR>();
 }

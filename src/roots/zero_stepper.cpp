@@ -18,22 +18,22 @@ namespace {
 // The caller's array by names; the order of the elements is part of the interface.
 struct State {
     double *c;
-    double &u() { return c[0]; }     // the opposite end of the bracket,
-    double &fu() { return c[1]; }    // and f there
-    double &b() { return c[2]; }     // the best point so far
+    double &u() { return c[0]; }  // the opposite end of the bracket,
+    double &fu() { return c[1]; } // and f there
+    double &b() { return c[2]; }  // the best point so far
     double &fb() { return c[3]; }
-    double &p() { return c[4]; }     // the best point before
+    double &p() { return c[4]; } // the best point before
     double &fp() { return c[5]; }
-    double &d() { return c[6]; }     // the one before that
+    double &d() { return c[6]; } // the one before that
     double &fd() { return c[7]; }
-    double &f1() { return c[8]; }    // divided differences of the last quadratic step
+    double &f1() { return c[8]; } // divided differences of the last quadratic step
     double &f2() { return c[9]; }
     double &step() { return c[10]; } // the last step
     double &m() { return c[11]; }    // half the bracket, signed
     double &root_precision() { return c[12]; }
-    double &tiny() { return c[13]; } // a numerator below this counts as zero
-    double &fmax() { return c[14]; } // the larger |f| of the two starting points, never raised
-    double &pole() { return c[15]; } // 0; 1 after one value beyond the watch; -1 after two in a row
+    double &tiny() { return c[13]; }  // a numerator below this counts as zero
+    double &fmax() { return c[14]; }  // the larger |f| of the two starting points, never raised
+    double &pole() { return c[15]; }  // 0; 1 after one value beyond the watch; -1 after two in a row
     double &count() { return c[16]; } // interpolation steps since the last bisection
 };
 
@@ -224,8 +224,10 @@ ZeroStatus zero_step(double &x, double &y, double fx, double xtol, Integer ir, d
         take_first_value(s, x, y, fx);
         return take_second_value(s, x, y, second_value, xtol, ir, ind);
     }
-    case 3: return take_second_value(s, x, y, fx, xtol, ir, ind);
-    default: return take_new_value(s, x, y, fx, xtol, ir, ind);
+    case 3:
+        return take_second_value(s, x, y, fx, xtol, ir, ind);
+    default:
+        return take_new_value(s, x, y, fx, xtol, ir, ind);
     }
 }
 

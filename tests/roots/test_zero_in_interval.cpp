@@ -43,8 +43,9 @@ const Problem kProblems[] = {
     {"cubic of Wallis", [](double x) { return x * x * x - 2.0 * x - 5.0; }, 2.0, 3.0, 2.0945514815423266},
     {"steep exponential", [](double x) { return std::expm1(50.0 * (x - 0.3)); }, -1.0, 4.0, 0.3},
     {"ninth power", [](double x) { return std::pow(x - 0.25, 9.0); }, -1.0, 4.0, 0.25},
-    {"flat exponential", [](double x) { return x == 0.75 ? 0.0 : std::copysign(std::exp(-1.0 / std::fabs(x - 0.75)), x - 0.75); },
-     0.5, 2.0, 0.75},
+    {"flat exponential",
+     [](double x) { return x == 0.75 ? 0.0 : std::copysign(std::exp(-1.0 / std::fabs(x - 0.75)), x - 0.75); }, 0.5, 2.0,
+     0.75},
     {"backwards", [](double x) { return std::log(x); }, 7.0, 0.1, 1.0},
     {"step", [](double x) { return x < 0.625 ? -1.0 : 1.0; }, 0.0, 1.0, 0.625},
 };
@@ -133,7 +134,8 @@ TEST(ZeroInInterval, TellsAPoleFromAZero)
     c05adc(0.0, 2.0001, &x, pole, 1e-5, 0.0, &fail);
     EXPECT_SUCCESS(fail);
     // Infinite right at the pole, on either side of it.
-    c05adc(0.0, 2.0, &x, [](double t) { return t == 1.0 ? INFINITY : 1.0 / (t - 1.0); }, 1e-10, 0.0, &fail);
+    c05adc(
+        0.0, 2.0, &x, [](double t) { return t == 1.0 ? INFINITY : 1.0 / (t - 1.0); }, 1e-10, 0.0, &fail);
     EXPECT_EQ(fail.code, NE_PROBABLE_POLE);
 }
 
@@ -141,7 +143,8 @@ TEST(ZeroInInterval, ToleranceBelowTheSpacingOfDoubles)
 {
     Record fail;
     double x;
-    c05adc(0.0, 2.0, &x, [](double t) { return t * t - 2.0; }, 1e-300, 0.0, &fail);
+    c05adc(
+        0.0, 2.0, &x, [](double t) { return t * t - 2.0; }, 1e-300, 0.0, &fail);
     EXPECT_REPORT(fail, NE_XTOL_TOO_SMALL, 1e-300);
     EXPECT_NEAR(x, std::sqrt(2.0), 4e-16);
 }
@@ -150,13 +153,15 @@ TEST(ZeroInInterval, NanIsNeverAZeroAndNeverHangs)
 {
     Record fail;
     double x = kUntouched;
-    c05adc(0.0, 1.0, &x, [](double) { return kNan; }, 1e-10, 1e300, &fail);
+    c05adc(
+        0.0, 1.0, &x, [](double) { return kNan; }, 1e-10, 1e300, &fail);
     EXPECT_EQ(fail.code, NE_FUNC_END_VAL) << "a NaN counts as negative at the ends";
     Counted hole{[](double t) { return t > 0.3 && t < 0.7 ? kNan : t - 0.5; }};
     c05sdc(0.0, 1.0, &x, Counted::call, 1e-10, 0.0, &hole, &fail);
     EXPECT_LT(hole.calls, 10000);
     // A long bracket.
-    c05adc(-1.5e150, 1.7e150, &x, [](double t) { return t - 1.0; }, 1e-10, 0.0, &fail);
+    c05adc(
+        -1.5e150, 1.7e150, &x, [](double t) { return t - 1.0; }, 1e-10, 0.0, &fail);
     EXPECT_SUCCESS(fail);
     EXPECT_NEAR(x, 1.0, 1e-10);
 }
