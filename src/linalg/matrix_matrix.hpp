@@ -2,11 +2,21 @@
 // returns, then BLAS in row-major order. `routine` is the name that a report of an illegal argument carries.
 #pragma once
 
+#include "frame/views.hpp"
 #include "linalg/arguments.hpp"
 #include "linalg/blas.hpp"
 #include "linalg/scalar.hpp"
 
 namespace kor::linalg {
+
+// C := beta C; with beta = 0 C is cleared, whatever it holds.
+template <Scalar T>
+void scale_rows(Integer m, Integer n, T beta, T *c, Integer tdc)
+{
+    const RowMajor<T> C{c, tdc};
+    for (Integer i = 0; i < m; ++i)
+        for (Integer j = 0; j < n; ++j) C(i, j) = beta == T{} ? T{} : beta * C(i, j);
+}
 
 // C := alpha op(A) op(B) + beta C
 template <Scalar T>
@@ -18,6 +28,8 @@ void gemm(const char *routine, Integer transa, Integer transb, Integer m, Intege
                   argument(10, row_fits(tdb, transb == NoTranspose ? n : k)), argument(13, row_fits(tdc, n))))
         return;
     if (m == 0 || n == 0 || ((k == 0 || alpha == T{}) && beta == one<T>())) return;
+    // Kernels for small matrices multiply by alpha = 0, and a NaN in A or B would show.
+    if (alpha == T{}) return scale_rows(m, n, beta, c, tdc);
     blas::gemm(blas::kRowMajor, transa, transb, m, n, k, alpha, a, tda, b, tdb, beta, c, tdc);
 }
 

@@ -31,7 +31,7 @@ struct Sum {
         low += (high - (sum - part)) + (term - part);
         high = sum;
     }
-    double value() const { return high + low; }
+    double value() const { return std::isfinite(high) ? high + low : high; } // low is NaN beside an infinity
 };
 
 // Adds the squares of x[i] factor.
@@ -174,8 +174,7 @@ double euclidean_norm_of(Integer n, const T *x, Integer incx)
     if (plain > kLeastSquare && plain <= kLargest) return std::sqrt(plain);
 
     const double greatest = greatest_part(n, x, incx, 0.0);
-    if (greatest == 0.0) return plain; // all zero, or NaN
-    if (std::isinf(greatest)) return std::isnan(sum_of_squares(n, x, incx, 0x1p-600)) ? plain : greatest;
+    if (greatest == 0.0 || std::isinf(greatest)) return plain; // 0, infinity, or NaN
     const double factor = scaling_of(greatest);
     return std::sqrt(sum_of_squares(n, x, incx, factor)) / factor;
 }
