@@ -1,0 +1,20 @@
+// The kernels for x86-64-v3: registers of four doubles.
+#include "transforms/generations.hpp"
+#include "transforms/kernel_headers.hpp"
+
+#if defined(KOR_TRANSFORM_GENERATIONS)
+
+#pragma GCC target("arch=x86-64-v3")
+#define KOR_LANES 4
+
+namespace kor::transforms {
+
+namespace v3 {
+#include "transforms/kernels.inl"
+} // namespace v3
+
+const Kernels &kernels_for_v3() { return v3::kKernels; }
+
+} // namespace kor::transforms
+
+#endif

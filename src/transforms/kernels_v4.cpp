@@ -1,0 +1,20 @@
+// The kernels for x86-64-v4: registers of eight doubles.
+#include "transforms/generations.hpp"
+#include "transforms/kernel_headers.hpp"
+
+#if defined(KOR_TRANSFORM_GENERATIONS)
+
+#pragma GCC target("arch=x86-64-v4")
+#define KOR_LANES 8
+
+namespace kor::transforms {
+
+namespace v4 {
+#include "transforms/kernels.inl"
+} // namespace v4
+
+const Kernels &kernels_for_v4() { return v4::kKernels; }
+
+} // namespace kor::transforms
+
+#endif

@@ -1,0 +1,44 @@
+// Transforms of a large prime length, by convolution.
+#pragma once
+
+#include "frame/workspace.hpp"
+#include "transforms/stages.hpp"
+
+namespace kor::transforms {
+
+// The discrete transform of p points, from input() to output(), where complex numbers stand as pairs re, im.
+//
+// Rader (1968): with a generator g of the residues modulo p, x_{g^q} and X_{g^-q} are related by a cyclic convolution of
+// length p - 1 with w^{g^-q}, w = exp(-2 pi i / p). The halves of that kernel are conjugates, so that its cosines repeat and
+// its sines change sign after (p - 1)/2 places: convolving with their *sum*, which is real, keeps the two apart, and a
+// real sequence needs real arithmetic only. The convolution is done by transforms of a smooth length.
+class PrimeTransform {
+  public:
+    PrimeTransform() = default;
+
+    // Sets up for the prime p; root k = 1..p-1 of unity stands at cosines[(k-1) * step], -sine at sines[(k-1) * step].
+    // False when there is no memory.
+    bool prepare(Index p, const double *cosines, const double *sines, Index step);
+
+    double *input() const { return input_; }
+    double *output() const { return output_; }
+
+    // p complex numbers to p complex numbers.
+    void run_complex() const;
+    // p real numbers to the first p/2 + 1 complex numbers.
+    void run_real() const;
+
+  private:
+    Index p_ = 0;
+    Index length_ = 0;          // of the convolution: p - 1, or at least 2(p - 1) - 1
+    Workspace<double> memory_;
+    Workspace<Integer> powers_; // g^q modulo p, q = 0..p-2
+    double *input_ = nullptr;
+    double *output_ = nullptr;
+    double *table_ = nullptr;   // of roots for length_
+    double *kernel_ = nullptr;  // packed transform of the kernel, divided by length_
+    double *signal_ = nullptr;  // the sequences that are convolved: real parts, then imaginary parts
+    double *work_ = nullptr;
+};
+
+} // namespace kor::transforms

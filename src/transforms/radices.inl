@@ -1,0 +1,148 @@
+// The kinds of radix that a pass can be built on: a fixed butterfly, an odd prime, a large prime. Part of kernels.inl.
+//
+// Each offers: `radix`; cover(), how the elements of a pass are dealt out to its butterflies; Points, the arrays of a
+// butterfly's inputs x and outputs y; run() for complex or real inputs; run_to_real() for Hermitian inputs, which may
+// leave the imaginary parts of y unset.
+
+#define KOR_UNROLL _Pragma("GCC unroll 8")
+
+template <int p>
+struct Fixed {
+    static constexpr Index radix = p;
+    static constexpr bool kRootsInTable = false;
+
+    explicit Fixed(const Stage &) {}
+    static One single() { return {}; }
+    template <class Body>
+    KOR_INLINE static void cover(Index count, Body body) { cover_by_registers(count, body); }
+
+    template <class X, class V>
+    struct Points {
+        X x[p];
+        Pair<V> y[p];
+        KOR_INLINE explicit Points(const Fixed &) {}
+    };
+
+    template <class Points>
+    KOR_INLINE void run(Points &points) const { Butterfly<p>::run(points.x, points.y); }
+    template <class Points>
+    KOR_INLINE void run_to_real(Points &points) const { Butterfly<p>::run(points.x, points.y); }
+};
+
+// By the definition, from sums and differences of mirrored elements: quadratic in p.
+struct Prime {
+    static constexpr bool kRootsInTable = true;
+
+    explicit Prime(const Stage &stage) : radix{stage.radix}
+    {
+        if (radix <= kLargestFixedRadix) __builtin_unreachable();
+        cosine[0] = 1.0;
+        sine[0] = 0.0;
+        for (Index t = 1; t < radix; ++t) {
+            cosine[t] = stage.cosines[(t - 1) * stage.after];
+            sine[t] = stage.sines[(t - 1) * stage.after];
+        }
+    }
+    static Few single() { return {1}; }
+    template <class Body>
+    KOR_INLINE static void cover(Index count, Body body) { cover_by_registers(count, body); }
+
+    template <class X, class V>
+    struct Points {
+        X x[kLargestDirectPrime];
+        Pair<V> y[kLargestDirectPrime];
+        explicit Points(const Prime &) {}
+    };
+
+    template <class X>
+    void run(Points<X, Lanes> &points) const
+    {
+        fold(points.x);
+        points.y[0] = complex(total(points.x));
+        for (Index k = 1; k <= radix / 2; ++k) {
+            const auto [even, odd] = sums(points.x, k);
+            points.y[k] = plus_i(even, odd);
+            points.y[radix - k] = minus_i(even, odd);
+        }
+    }
+
+    void run_to_real(Points<Pair<Lanes>, Lanes> &points) const
+    {
+        // Sums of conjugates are real, differences imaginary.
+        Lanes folded[kLargestDirectPrime];
+        fold(points.x);
+        folded[0] = points.x[0].re;
+        for (Index l = 1; l < radix; ++l) folded[l] = l <= radix / 2 ? points.x[l].re : points.x[l].im;
+        points.y[0].re = total(folded);
+        for (Index k = 1; k <= radix / 2; ++k) {
+            const auto [even, odd] = sums(folded, k);
+            points.y[k].re = even - odd;
+            points.y[radix - k].re = even + odd;
+        }
+    }
+
+    const Index radix;
+
+  private:
+    // Leaves x[l] + x[radix-l] at l and x[l] - x[radix-l] at radix-l, for l = 1..(radix-1)/2.
+    template <class X>
+    void fold(X *x) const
+    {
+        for (Index l = 1; l <= radix / 2; ++l) {
+            const X sum = x[l] + x[radix - l];
+            x[radix - l] = x[l] - x[radix - l];
+            x[l] = sum;
+        }
+    }
+    template <class X>
+    X total(const X *folded) const
+    {
+        X sum = folded[0];
+        for (Index l = 1; l <= radix / 2; ++l) sum = sum + folded[l];
+        return sum;
+    }
+    // The parts of y[k] that are even and odd in k, the odd one still to be multiplied by i.
+    template <class X>
+    KOR_INLINE std::pair<X, X> sums(const X *folded, Index k) const
+    {
+        X even = folded[0] + cosine[k] * folded[1], odd = sine[k] * folded[radix - 1];
+        for (Index l = 2, t = 2 * k; l <= radix / 2; ++l, t += k) {
+            if (t >= radix) t -= radix;
+            even = even + cosine[t] * folded[l];
+            odd = odd + sine[t] * folded[radix - l];
+        }
+        return {even, odd};
+    }
+
+    double cosine[kLargestDirectPrime], sine[kLargestDirectPrime];
+};
+
+// By convolution, one sequence at a time.
+struct LargePrime {
+    static constexpr bool kRootsInTable = true;
+
+    explicit LargePrime(const Stage &stage) : radix{stage.radix}, prime{*stage.prime} {}
+    static One single() { return {}; }
+    template <class Body>
+    KOR_INLINE static void cover(Index count, Body body)
+    {
+        for (Index i = 0; i < count; ++i) body(One{}, i);
+    }
+
+    template <class X, class V>
+    struct Points {
+        X *x;
+        Pair<V> *y;
+        explicit Points(const LargePrime &large)
+            : x{reinterpret_cast<X *>(large.prime.input())}, y{reinterpret_cast<Pair<V> *>(large.prime.output())}
+        {
+        }
+    };
+
+    void run(Points<Pair<double>, double> &) const { prime.run_complex(); }
+    void run(Points<double, double> &) const { prime.run_real(); }
+    void run_to_real(Points<Pair<double>, double> &) const { prime.run_complex(); }
+
+    const Index radix;
+    PrimeTransform &prime;
+};

@@ -1,0 +1,193 @@
+// Passes of real-to-Hermitian and Hermitian-to-real transforms. Part of kernels.inl.
+//
+// A Hermitian sequence of length n is packed in n doubles: Re z_f at f, Im z_f at n - f, for 0 <= f <= n/2. A real pass
+// joins `radix` sequences of length r into one of length radix * r; frequency f of the short sequences contributes to
+// f + r k of the long one, k = 0..radix-1, of which the upper half is stored as conjugates of the lower. A Hermitian pass
+// is its transpose.
+
+// An element (f, l) of the short sequences stands at short_step * f + row_step * l, an element g of the long one at
+// long_step * g. Butterflies get pointers to the elements with f = 0 and g = 0.
+struct PackedLayout {
+    Index short_step, row_step, long_step;
+};
+
+template <class Radix, class Access>
+KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const PackedLayout &layout, Index r,
+                                       const double *in, double *out, double scale)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<V, V> points{radix};
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] = access.load(in + l * layout.row_step);
+    radix.run(points);
+    KOR_UNROLL for (Index k = 0; k <= radix.radix / 2; ++k) {
+        access.store(out + k * r * layout.long_step, scale * points.y[k].re);
+        if (k > 0 && 2 * k < radix.radix)
+            access.store(out + (radix.radix - k) * r * layout.long_step, scale * points.y[k].im);
+    }
+}
+
+// `shift` leads from f = 0 to the first lane's f; the mirror of f is r - f.
+template <class Radix, class Access, class Twiddle>
+KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLayout &layout, Index r, Index f,
+                               const double *in, double *out, Twiddle twiddle)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<Pair<V>, V> points{radix};
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) {
+        const double *row = in + l * layout.row_step;
+        points.x[l] = twiddle(l, Pair<V>{access.load(row + f * layout.short_step),
+                                         access.load_mirrored(row + (r - f) * layout.short_step)});
+    }
+    radix.run(points);
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) {
+        double *const here = out + (f + r * k) * layout.long_step;
+        double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
+        const Pair<V> y = points.y[k];
+        if (2 * k < radix.radix) {
+            access.store(here, y.re);
+            access.store_mirrored(mirror, y.im);
+        } else {
+            access.store_mirrored(mirror, y.re);
+            access.store(here, -y.im);
+        }
+    }
+}
+
+// f = r/2, where the short sequences are real.
+template <class Radix, class Access, class Twiddle>
+KOR_INLINE void real_butterfly_at_half(const Radix &radix, Access access, const PackedLayout &layout, Index r,
+                                       const double *in, double *out, Twiddle twiddle)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<Pair<V>, V> points{radix};
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
+        points.x[l] = twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
+    radix.run(points);
+    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k) {
+        access.store(out + (r / 2 + r * k) * layout.long_step, points.y[k].re);
+        if (2 * k + 1 < radix.radix)
+            access.store(out + (r * (radix.radix - k) - r / 2) * layout.long_step, points.y[k].im);
+    }
+}
+
+template <class Radix, class Access>
+KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, const PackedLayout &layout, Index r,
+                                            const double *in, double *out, double scale)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<Pair<V>, V> points{radix};
+    points.x[0] = {access.load(in), V{}};
+    KOR_UNROLL for (Index k = 1; 2 * k <= radix.radix; ++k) {
+        const V re = access.load(in + k * r * layout.long_step);
+        if (2 * k == radix.radix) {
+            points.x[k] = {re, V{}};
+        } else {
+            const V im = access.load(in + (radix.radix - k) * r * layout.long_step);
+            points.x[k] = {re, im};
+            points.x[radix.radix - k] = {re, -im};
+        }
+    }
+    radix.run_to_real(points);
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
+        access.store(out + l * layout.row_step, scale * points.y[l].re);
+}
+
+template <class Radix, class Access, class Twiddle>
+KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const PackedLayout &layout, Index r, Index f,
+                                    const double *in, double *out, Twiddle twiddle)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<Pair<V>, V> points{radix};
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) {
+        const double *const here = in + (f + r * k) * layout.long_step;
+        const double *const mirror = in + (r * (radix.radix - k) - f) * layout.long_step;
+        if (2 * k < radix.radix)
+            points.x[k] = {access.load(here), access.load_mirrored(mirror)};
+        else
+            points.x[k] = {access.load_mirrored(mirror), -access.load(here)};
+    }
+    radix.run(points);
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) {
+        const Pair<V> y = twiddle(l, points.y[l]);
+        double *const row = out + l * layout.row_step;
+        access.store(row + f * layout.short_step, y.re);
+        access.store_mirrored(row + (r - f) * layout.short_step, y.im);
+    }
+}
+
+template <class Radix, class Access, class Twiddle>
+KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, const PackedLayout &layout, Index r,
+                                            const double *in, double *out, Twiddle twiddle)
+{
+    using V = typename Access::Value;
+    typename Radix::template Points<Pair<V>, V> points{radix};
+    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k) {
+        const V re = access.load(in + (r / 2 + r * k) * layout.long_step);
+        if (2 * k + 1 == radix.radix) {
+            points.x[k] = {re, V{}};
+        } else {
+            const V im = access.load(in + (r * (radix.radix - k) - r / 2) * layout.long_step);
+            points.x[k] = {re, im};
+            points.x[radix.radix - 1 - k] = {re, -im};
+        }
+    }
+    radix.run(points);
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
+        access.store(out + l * layout.row_step + r / 2 * layout.short_step, twiddle(l, points.y[l]).re);
+}
+
+// The two directions, for the loops that they share.
+struct RealDirection {
+    template <class... Args>
+    KOR_INLINE static void at_zero(const Args &...args) { real_butterfly_at_zero(args...); }
+    template <class... Args>
+    KOR_INLINE static void between(const Args &...args) { real_butterfly(args...); }
+    template <class... Args>
+    KOR_INLINE static void at_half(const Args &...args) { real_butterfly_at_half(args...); }
+    static constexpr bool kToLong = true;
+};
+struct HermitianDirection {
+    template <class... Args>
+    KOR_INLINE static void at_zero(const Args &...args) { hermitian_butterfly_at_zero(args...); }
+    template <class... Args>
+    KOR_INLINE static void between(const Args &...args) { hermitian_butterfly(args...); }
+    template <class... Args>
+    KOR_INLINE static void at_half(const Args &...args) { hermitian_butterfly_at_half(args...); }
+    static constexpr bool kToLong = false;
+};
+
+template <class Radix, class Direction>
+void packed_across_pass(const Stage &stage, Index batch, const double *in, double *out, double scale)
+{
+    const Radix radix{stage};
+    const Index width = stage.before * batch, r = stage.after;
+    const PackedLayout layout{radix.radix * width, width, width};
+    Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
+        Direction::at_zero(radix, SideBySide{access}, layout, r, in + b, out + b, scale);
+    });
+    for (Index f = 1; 2 * f < r; ++f)
+        Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
+            Direction::between(radix, SideBySide{access}, layout, r, f, in + b, out + b, SameForAll{stage, f});
+        });
+    if (r % 2 == 0)
+        Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
+            Direction::at_half(radix, SideBySide{access}, layout, r, in + b, out + b, SameForAll{stage, r / 2});
+        });
+}
+
+template <class Radix, class Direction>
+void packed_along_pass(const Stage &stage, const double *in, double *out)
+{
+    const Radix radix{stage};
+    const Index r = stage.after;
+    const PackedLayout layout{1, r, 1};
+    const auto single = Radix::single();
+    for (Index block = 0; block < stage.before; ++block, in += radix.radix * r, out += radix.radix * r) {
+        Direction::at_zero(radix, single, layout, r, in, out, 1.0);
+        Radix::cover((r - 1) / 2, [&](auto access, Index i) __attribute__((always_inline)) {
+            Direction::between(radix, access, layout, r, i + 1, in, out,
+                               OneForEach<decltype(access), false>{access, stage, i + 1});
+        });
+        if (r % 2 == 0) Direction::at_half(radix, single, layout, r, in, out, SameForAll{stage, r / 2});
+    }
+}

@@ -1,0 +1,13 @@
+// Transpositions: of an array, and between the rows and the columns of a transform.
+#pragma once
+
+#include "transforms/stages.hpp"
+
+namespace kor::transforms {
+
+// Rows of n / R elements, R the product of the first `lead` radices. Row (..(l1 * p2 + l2) * p3 + ..) of one array is
+// column l1 + p1 l2 + p1 p2 l3 + .. of the other: the digits turn round.
+void rows_to_columns(const Stage *stages, int lead, Index n, const double *rows, double *columns);
+void columns_to_rows(const Stage *stages, int lead, Index n, const double *columns, double *rows);
+
+} // namespace kor::transforms

@@ -1,0 +1,91 @@
+// Roots of unity: exp(-2 pi i t / n) for t running through the integers modulo n. Part of kernels.inl.
+//
+// Every angle is reduced to the first octant in exact integer arithmetic, so that nothing drifts however many roots there
+// are. The reduced angle is formed with an error far below the last bit, and sine and cosine are evaluated so that only the
+// final addition rounds noticeably.
+
+// Minimax polynomials on [0, pi/4]: sin x = x + x^3 S(x^2), cos x = 1 - x^2/2 + x^4 C(x^2), errors below 2^-58 of the
+// result. By tools/octant_polynomials.sollya.
+inline constexpr double kSinePolynomial[] = {-0x1.5555555555555p-3, 0x1.111111111101ep-7, -0x1.a01a019fe884fp-13, 0x1.71de3a1033625p-19, -0x1.ae63f7f70fd6cp-26, 0x1.60e5c482721c1p-33, -0x1.8d4cdee907b3bp-41};
+inline constexpr double kCosinePolynomial[] = {0x1.5555555555555p-5, -0x1.6c16c16c16a32p-10, 0x1.a01a019fb7a9cp-16, -0x1.27e4faeeae32ep-22, 0x1.1eecd5a93e364p-29, -0x1.92a5c45922489p-37, 0x1.3447b94e2d852p-45};
+
+// pi / (4n) in three parts, so that an integer of 33 bits times either of the first two is exact.
+struct OctantUnit {
+    double high, middle, low;
+    explicit OctantUnit(Index n)
+    {
+        constexpr long double kQuarterPi = 0.785398163397448309615660845819875721L;
+        const long double unit = kQuarterPi / static_cast<long double>(n);
+        high = leading_bits(unit);
+        middle = leading_bits(unit - high);
+        low = static_cast<double>(unit - high - middle);
+    }
+
+  private:
+    static double leading_bits(long double x)
+    {
+        const double d = static_cast<double>(x);
+        std::uint64_t bits = std::bit_cast<std::uint64_t>(d);
+        bits &= ~((std::uint64_t{1} << 33) - 1); // 53 - 33 = 20 bits stay
+        return std::bit_cast<double>(bits);
+    }
+};
+
+template <class Condition>
+KOR_INLINE Lanes choose(Condition condition, Lanes yes, Lanes no) { return condition ? yes : no; }
+
+// `eighths` is 8t for 0 <= t < n, all of it exact.
+KOR_INLINE Pair<Lanes> unit_root(Lanes eighths, double n, const OctantUnit &unit)
+{
+    const auto lower_half = eighths > 4.0 * n;
+    Lanes a = choose(lower_half, 8.0 * n - eighths, eighths);
+    const auto left_half = a > 2.0 * n;
+    a = choose(left_half, 4.0 * n - a, a);
+    const auto steep = a > n;
+    a = choose(steep, 2.0 * n - a, a);
+
+    const Lanes leading = a * unit.high, trailing = a * unit.middle + a * unit.low; // the first two products are exact
+    const Lanes x = leading + trailing;
+    const Lanes rest = (leading - x) + trailing;
+
+    const Lanes x2 = x * x;
+    Lanes s = kSinePolynomial[6] * x2 + kSinePolynomial[5];
+    for (int i = 4; i >= 0; --i) s = s * x2 + kSinePolynomial[i];
+    Lanes c = kCosinePolynomial[6] * x2 + kCosinePolynomial[5];
+    for (int i = 4; i >= 0; --i) c = c * x2 + kCosinePolynomial[i];
+
+    const Lanes half_square = 0.5 * x2;
+    const Lanes near_cosine = 1.0 - half_square;
+    // 1 - x^2/2 with what its rounding lost, then the rest of the series and the shift by `rest`.
+    const Lanes cosine = near_cosine + (((1.0 - near_cosine) - half_square) + (x2 * x2 * c - x * rest));
+    const Lanes sine = x + (x * x2 * s + rest * near_cosine);
+
+    const Lanes re = choose(steep, sine, cosine), im = choose(steep, cosine, sine);
+    return {choose(left_half, -re, re), choose(lower_half, im, 0.0 - im)};
+}
+
+inline void unit_roots(Index n, Index first, Index step, Index count, double *cosines, double *sines)
+{
+    const OctantUnit unit{n};
+    const double length = static_cast<double>(n);
+    // t for the lanes, then on by kLanes * step; sums stay below 2n, so that doubles hold them exactly.
+    Lanes t{};
+    std::int64_t place = first;
+    for (Index lane = 0; lane < kLanes; ++lane) {
+        t[lane] = static_cast<double>(place);
+        place = (place + step) % n;
+    }
+    const double stride = static_cast<double>(static_cast<std::int64_t>(step) * kLanes % n);
+    for (Index j = 0; j < count; j += kLanes) {
+        const Pair<Lanes> w = unit_root(8.0 * t, length, unit);
+        if (j + kLanes <= count) {
+            store_lanes(cosines + j, w.re);
+            store_lanes(sines + j, w.im);
+        } else {
+            Few{count - j}.store(cosines + j, w.re);
+            Few{count - j}.store(sines + j, w.im);
+        }
+        t = t + stride;
+        t = choose(t >= length, t - length, t);
+    }
+}
