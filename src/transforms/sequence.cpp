@@ -1,4 +1,4 @@
-// Transforms of one sequence after another, or of a few side by side, out of place with a work array.
+// Transforms of one sequence, or of several side by side, out of place with a work array.
 #include "transforms/sequence.hpp"
 
 #include <algorithm>
@@ -14,111 +14,108 @@ constexpr Index kEnough = 8;
 
 } // namespace
 
-Plan::Plan(Kind kind, Index n, const double *trig) : kind_{kind}, n_{n}, stages_{n, trig}, lead_{0}, lead_product_{1}
+Plan::Plan(Kind kind, Index n, const double *trig) : kind_{kind}, n_{n}, stages_{n, trig}, lead_{0}
 {
-    while (lead_ < stages_.count && lead_product_ < kEnough) lead_product_ *= stages_.stage[lead_++].radix;
-    if (lead_product_ < kEnough || n_ / lead_product_ < kEnough) {
-        lead_ = 0;
-        lead_product_ = 1;
-    }
+    Index rows = 1;
+    while (lead_ < stages_.count && rows < kEnough) rows *= stages_.stage[lead_++].radix;
+    if (rows < kEnough || n_ / rows < kEnough) lead_ = 0;
 }
-
-// The data travel from the caller's array through the work array and back; with an odd number of moves they touch a
-// second work array once.
-class Plan::Buffers {
-  public:
-    Buffers(Sequence x, double *work, Index size, int moves) : cycle_{x, {}, {}}, left_{moves}
-    {
-        for (int i = 1; i < 3; ++i, work += size) {
-            cycle_[i].re = work;
-            if (x.im != nullptr) cycle_[i].im = work += size;
-        }
-    }
-    Sequence source() const { return cycle_[at_]; }
-    Sequence target() const { return cycle_[next()]; }
-    void moved()
-    {
-        at_ = next();
-        --left_;
-    }
-
-  private:
-    int next() const
-    {
-        if (at_ == 1) return left_ % 2 == 0 ? 2 : 0;
-        return at_ == 2 ? 0 : 1;
-    }
-    Sequence cycle_[3];
-    int at_ = 0;
-    int left_;
-};
 
 namespace {
 
-struct Pass {
-    const Kernels &kernel = kernels();
-    Kind kind;
+// Where the data stand while a transform moves them from one array to another. They alternate between the target and a
+// work array so that the last move ends in the target; a second work array serves where that would be a move in place.
+class Journey {
+  public:
+    Journey(Sequence in, Sequence out, double *work, Index size, int moves) : at_{in}, out_{out}, left_{moves}
+    {
+        const bool complex = in.im != nullptr;
+        first_ = {work, complex ? work + size : nullptr};
+        work += complex ? 2 * size : size;
+        second_ = {work, complex ? work + size : nullptr};
+    }
 
-    void across(const Stage &stage, Index batch, Sequence in, Sequence out, double scale) const
+    template <class Step>
+    void move(Step step)
     {
-        if (stage.after > 1) scale = 1.0;
-        switch (kind) {
-        case Kind::complex: return kernel.complex_across(stage, batch, in.re, in.im, out.re, out.im, scale);
-        case Kind::real: return kernel.real_across(stage, batch, in.re, out.re, scale);
-        case Kind::hermitian: return kernel.hermitian_across(stage, batch, in.re, out.re, scale);
-        }
+        const Sequence wanted = left_ % 2 == 1 ? out_ : first_;
+        const Sequence next = wanted.re == at_.re ? second_ : wanted;
+        step(at_, next);
+        at_ = next;
+        --left_;
     }
-    void along(const Stage &stage, Sequence in, Sequence out) const
+
+    // After the last move.
+    void arrive(Index size) const
     {
-        switch (kind) {
-        case Kind::complex: return kernel.complex_along(stage, in.re, in.im, out.re, out.im);
-        case Kind::real: return kernel.real_along(stage, in.re, out.re);
-        case Kind::hermitian: return kernel.hermitian_along(stage, in.re, out.re);
-        }
+        if (at_.re == out_.re) return;
+        std::copy_n(at_.re, size, out_.re);
+        if (at_.im != nullptr) std::copy_n(at_.im, size, out_.im);
     }
+
+  private:
+    Sequence at_, out_, first_, second_;
+    int left_;
 };
 
-} // namespace
-
-void Plan::transform(Sequence x, double scale, double *work) const
+void pass_across(Kind kind, const Stage &stage, Index batch, Sequence in, Sequence out, double scale)
 {
-    if (n_ == 1) return;
-    const Pass pass{.kind = kind_};
-    const int moves = stages_.count + (lead_ > 0 ? 1 : 0);
-    Buffers buffers{x, work, n_, moves};
-    const auto move = [&](auto step) {
-        step(buffers.source(), buffers.target());
-        buffers.moved();
-    };
-    const auto across = [&](int i) {
-        move([&](Sequence in, Sequence out) { pass.across(stages_.stage[i], 1, in, out, scale); });
-    };
-    const auto along = [&](int i) { move([&](Sequence in, Sequence out) { pass.along(stages_.stage[i], in, out); }); };
-
-    if (kind_ == Kind::real) {
-        for (int i = stages_.count - 1; i >= lead_; --i) across(i);
-        if (lead_ > 0)
-            move([&](Sequence in, Sequence out) { columns_to_rows(stages_.stage, lead_, n_, in.re, out.re); });
-        for (int i = lead_ - 1; i >= 0; --i) along(i);
-    } else {
-        for (int i = 0; i < lead_; ++i) along(i);
-        if (lead_ > 0)
-            move([&](Sequence in, Sequence out) {
-                rows_to_columns(stages_.stage, lead_, n_, in.re, out.re);
-                if (kind_ == Kind::complex) rows_to_columns(stages_.stage, lead_, n_, in.im, out.im);
-            });
-        for (int i = lead_; i < stages_.count; ++i) across(i);
-    }
-    if (moves == 1) {
-        std::copy_n(buffers.source().re, n_, x.re);
-        if (x.im != nullptr) std::copy_n(buffers.source().im, n_, x.im);
+    const Kernels &kernel = kernels();
+    // One pass has no twiddle factors anywhere: it scales.
+    if (stage.after > 1) scale = 1.0;
+    switch (kind) {
+    case Kind::complex: return kernel.complex_across(stage, batch, in.re, in.im, out.re, out.im, scale);
+    case Kind::real: return kernel.real_across(stage, batch, in.re, out.re, scale);
+    case Kind::hermitian: return kernel.hermitian_across(stage, batch, in.re, out.re, scale);
     }
 }
 
-void Plan::transform_rows(Index count, Sequence x, double scale, double *work) const
+void pass_along(Kind kind, const Stage &stage, Sequence in, Sequence out)
 {
-    for (Index i = 0; i < count; ++i)
-        transform({x.re + i * n_, x.im != nullptr ? x.im + i * n_ : nullptr}, scale, work);
+    const Kernels &kernel = kernels();
+    switch (kind) {
+    case Kind::complex: return kernel.complex_along(stage, in.re, in.im, out.re, out.im);
+    case Kind::real: return kernel.real_along(stage, in.re, out.re);
+    case Kind::hermitian: return kernel.hermitian_along(stage, in.re, out.re);
+    }
+}
+
+} // namespace
+
+void Plan::transform(Sequence in, Sequence out, double scale, double *work) const
+{
+    if (lead_ == 0) return transform_side_by_side(1, in, out, scale, work);
+
+    Journey journey{in, out, work, n_, stages_.count + 1};
+    const auto across = [&](int i) {
+        journey.move([&](Sequence from, Sequence to) { pass_across(kind_, stages_.stage[i], 1, from, to, scale); });
+    };
+    const auto along = [&](int i) {
+        journey.move([&](Sequence from, Sequence to) { pass_along(kind_, stages_.stage[i], from, to); });
+    };
+    if (kind_ == Kind::real) {
+        for (int i = stages_.count - 1; i >= lead_; --i) across(i);
+        journey.move([&](Sequence from, Sequence to) { columns_to_rows(stages_.stage, lead_, n_, from.re, to.re); });
+        for (int i = lead_ - 1; i >= 0; --i) along(i);
+    } else {
+        for (int i = 0; i < lead_; ++i) along(i);
+        journey.move([&](Sequence from, Sequence to) {
+            rows_to_columns(stages_.stage, lead_, n_, from.re, to.re);
+            if (kind_ == Kind::complex) rows_to_columns(stages_.stage, lead_, n_, from.im, to.im);
+        });
+        for (int i = lead_; i < stages_.count; ++i) across(i);
+    }
+}
+
+void Plan::transform_side_by_side(Index batch, Sequence in, Sequence out, double scale, double *work) const
+{
+    const Index size = n_ * batch;
+    Journey journey{in, out, work, size, stages_.count};
+    for (int i = 0; i < stages_.count; ++i) {
+        const Stage &stage = stages_.stage[kind_ == Kind::real ? stages_.count - 1 - i : i];
+        journey.move([&](Sequence from, Sequence to) { pass_across(kind_, stage, batch, from, to, scale); });
+    }
+    journey.arrive(size);
 }
 
 } // namespace kor::transforms

@@ -21,23 +21,24 @@ class Plan {
 
     Index length() const { return n_; }
     Stages &stages() { return stages_; }
+    bool short_rows() const { return lead_ == 0; }
 
     // Doubles of work space that transform() needs.
     static Index work_size(Kind kind, Index n) { return kind == Kind::complex ? 4 * n : 2 * n; }
 
-    // A transform in place, its result multiplied by `scale`.
-    void transform(Sequence x, double scale, double *work) const;
+    // From `in` to `out`, multiplied by `scale`. `in` may be `out`, or the beginning of the work space.
+    void transform(Sequence in, Sequence out, double scale, double *work) const;
+    void transform(Sequence x, double scale, double *work) const { transform(x, x, scale, work); }
 
-    // The same for `count` sequences, element j of sequence i at i * n + j.
-    void transform_rows(Index count, Sequence x, double scale, double *work) const;
+    // `batch` sequences side by side, element j of sequence i at j * batch + i. `in` is used up.
+    void transform_side_by_side(Index batch, Sequence in, Sequence out, double scale, double *work) const;
 
   private:
-    struct Buffers;
+
     Kind kind_;
     Index n_;
     Stages stages_;
     int lead_;
-    Index lead_product_;
 };
 
 } // namespace kor::transforms

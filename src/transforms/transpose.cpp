@@ -1,6 +1,8 @@
 // Transpositions: of an array, and between the rows and the columns of a transform.
 #include "transforms/transpose.hpp"
 
+#include <algorithm>
+
 namespace kor::transforms {
 
 namespace {
@@ -17,6 +19,15 @@ Index row_of(const Stage *stages, int lead, Index column)
 }
 
 } // namespace
+
+void transpose(Index rows, Index columns, const double *in, double *out)
+{
+    constexpr Index kSquare = 8; // every line of the cache is used whole
+    for (Index i0 = 0; i0 < rows; i0 += kSquare)
+        for (Index j0 = 0; j0 < columns; j0 += kSquare)
+            for (Index j = j0; j < std::min(j0 + kSquare, columns); ++j)
+                for (Index i = i0; i < std::min(i0 + kSquare, rows); ++i) out[j * rows + i] = in[i * columns + j];
+}
 
 void rows_to_columns(const Stage *stages, int lead, Index n, const double *rows, double *columns)
 {

@@ -1,0 +1,18 @@
+// c06eac: the transform of a real sequence, in place.
+#include <kor/c06.h>
+
+#include <cmath>
+
+#include "transforms/arguments.hpp"
+
+using namespace kor::transforms;
+
+void c06eac(Integer n, double x[], KorError *fail)
+{
+    const kor::Report report{"c06eac", fail};
+    InPlaceFactors factors;
+    if (!suits_in_place(report, n, factors)) return;
+
+    transform_in_place(Dimensions{n, factors}, Kind::real, {x, nullptr}, 1.0 / std::sqrt(static_cast<double>(n)));
+    report.success();
+}
