@@ -1,0 +1,226 @@
+// How the special functions evaluate: polynomials by Estrin's scheme, and the last steps in numbers of two doubles.
+//
+// The family's one pattern: a function is a leading part, known to more than double precision, plus a correction that is
+// small enough for plain arithmetic. So each approximation keeps its first one to three coefficients as DoubleDouble and
+// sums the rest with `polynomial`, whose rounding errors the small factor x^k in front of it pushes below the last bit.
+// Everything here gives the same bits on every processor: products are made exact by splitting or by an FMA, never rounded
+// by chance.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+
+// Functions this small must vanish in their callers, also where the optimiser thinks them too large.
+#define KOR_INLINE [[gnu::always_inline]] inline
+
+namespace kor::special {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Polynomials with plain coefficients
+// ---------------------------------------------------------------------------------------------------------------------
+
+namespace detail {
+
+// c[First] + c[First + 1] x + ... with Count terms; powers[k] holds x^(2^k).
+template <std::size_t First, std::size_t Count, std::size_t N>
+KOR_INLINE constexpr double estrin(const std::array<double, N> &c, const double *powers)
+{
+    if constexpr (Count == 1) {
+        return c[First];
+    } else {
+        constexpr std::size_t low = std::bit_floor(Count - 1); // 1 <= low < Count <= 2 low
+        return estrin<First, low>(c, powers) +
+               powers[std::countr_zero(low)] * estrin<First + low, Count - low>(c, powers);
+    }
+}
+
+} // namespace detail
+
+// c[0] + c[1] x + ... + c[N-1] x^(N-1), terms combined in pairs: the length of the chain is log2(N), not N.
+template <std::size_t N>
+KOR_INLINE constexpr double polynomial(const std::array<double, N> &c, double x)
+{
+    static_assert(N > 0);
+    constexpr std::size_t levels = std::bit_width(N - 1) + (N == 1);
+    double powers[levels] = {x};
+    for (std::size_t k = 1; k < levels; ++k) powers[k] = powers[k - 1] * powers[k - 1];
+    return detail::estrin<0, N>(c, powers);
+}
+
+// The same for series whose length depends on the argument, by Horner's rule.
+inline double polynomial(const double *c, std::size_t n, double x)
+{
+    double sum = 0.0;
+    while (n > 0) sum = sum * x + c[--n];
+    return sum;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Numbers of two doubles
+// ---------------------------------------------------------------------------------------------------------------------
+
+// The unevaluated sum hi + lo; normalised when |lo| <= ulp(hi)/2. Results of the operators below are normalised and good
+// to a few units of 2^-104, barring overflow, and underflow of the low parts.
+struct DoubleDouble {
+    double hi;
+    double lo = 0.0;
+
+    KOR_INLINE constexpr double rounded() const { return hi + lo; }
+    KOR_INLINE constexpr DoubleDouble operator-() const { return {-hi, -lo}; }
+    KOR_INLINE constexpr DoubleDouble scaled(double power_of_two) const
+    {
+        return {hi * power_of_two, lo * power_of_two};
+    }
+};
+
+// a + b exactly, for |a| >= |b| (or a = 0).
+KOR_INLINE constexpr DoubleDouble fast_two_sum(double a, double b)
+{
+    const double sum = a + b;
+    return {sum, b - (sum - a)};
+}
+
+// a + b exactly.
+KOR_INLINE constexpr DoubleDouble two_sum(double a, double b)
+{
+    const double sum = a + b;
+    const double b_part = sum - a;
+    return {sum, (a - (sum - b_part)) + (b - b_part)};
+}
+
+// The upper 26 bits of x, rounded to nearest; the rest, x - upper_half(x), fits in 26 bits as well, so that products of
+// halves are exact. |x| must stay a little below the overflow limit.
+KOR_INLINE constexpr double upper_half(double x)
+{
+    constexpr std::uint64_t half_unit = std::uint64_t{1} << 26;
+    constexpr std::uint64_t lower_bits = (std::uint64_t{1} << 27) - 1;
+    return std::bit_cast<double>((std::bit_cast<std::uint64_t>(x) + half_unit) & ~lower_bits);
+}
+
+// a b exactly, for |a b| from 2^-968 up.
+KOR_INLINE constexpr DoubleDouble two_product(double a, double b)
+{
+    const double product = a * b;
+#ifdef __FMA__
+    return {product, __builtin_fma(a, b, -product)};
+#else
+    const double a_hi = upper_half(a), a_lo = a - a_hi;
+    const double b_hi = upper_half(b), b_lo = b - b_hi;
+    return {product, ((a_hi * b_hi - product) + a_hi * b_lo + a_lo * b_hi) + a_lo * b_lo};
+#endif
+}
+
+// a^2 exactly, likewise.
+KOR_INLINE constexpr DoubleDouble two_square(double a)
+{
+    const double square = a * a;
+#ifdef __FMA__
+    return {square, __builtin_fma(a, a, -square)};
+#else
+    const double hi = upper_half(a), lo = a - hi;
+    return {square, ((hi * hi - square) + 2.0 * hi * lo) + lo * lo};
+#endif
+}
+
+KOR_INLINE constexpr DoubleDouble operator+(DoubleDouble a, double b)
+{
+    const DoubleDouble sum = two_sum(a.hi, b);
+    return fast_two_sum(sum.hi, sum.lo + a.lo);
+}
+KOR_INLINE constexpr DoubleDouble operator+(double a, DoubleDouble b) { return b + a; }
+
+// Safe under cancellation too: the low parts are summed exactly before they are joined.
+KOR_INLINE constexpr DoubleDouble operator+(DoubleDouble a, DoubleDouble b)
+{
+    const DoubleDouble high = two_sum(a.hi, b.hi);
+    const DoubleDouble low = two_sum(a.lo, b.lo);
+    const DoubleDouble sum = fast_two_sum(high.hi, high.lo + low.hi);
+    return fast_two_sum(sum.hi, sum.lo + low.lo);
+}
+KOR_INLINE constexpr DoubleDouble operator-(DoubleDouble a, DoubleDouble b) { return a + -b; }
+KOR_INLINE constexpr DoubleDouble operator-(DoubleDouble a, double b) { return a + -b; }
+KOR_INLINE constexpr DoubleDouble operator-(double a, DoubleDouble b) { return -b + a; }
+
+KOR_INLINE constexpr DoubleDouble operator*(DoubleDouble a, double b)
+{
+    const DoubleDouble product = two_product(a.hi, b);
+    return fast_two_sum(product.hi, product.lo + a.lo * b);
+}
+KOR_INLINE constexpr DoubleDouble operator*(double a, DoubleDouble b) { return b * a; }
+
+KOR_INLINE constexpr DoubleDouble operator*(DoubleDouble a, DoubleDouble b)
+{
+    const DoubleDouble product = two_product(a.hi, b.hi);
+    return fast_two_sum(product.hi, product.lo + (a.hi * b.lo + a.lo * b.hi));
+}
+
+KOR_INLINE constexpr DoubleDouble square(DoubleDouble a)
+{
+    const DoubleDouble product = two_square(a.hi);
+    return fast_two_sum(product.hi, product.lo + 2.0 * (a.hi * a.lo));
+}
+
+// The quotient of the high parts, corrected by the remainder that it leaves.
+KOR_INLINE constexpr DoubleDouble operator/(DoubleDouble a, DoubleDouble b)
+{
+    const double quotient = a.hi / b.hi;
+    const DoubleDouble product = two_product(quotient, b.hi);
+    const double remainder = ((a.hi - product.hi) - product.lo) + (a.lo - quotient * b.lo);
+    return fast_two_sum(quotient, remainder / b.hi);
+}
+KOR_INLINE constexpr DoubleDouble operator/(DoubleDouble a, double b) { return a / DoubleDouble{b}; }
+KOR_INLINE constexpr DoubleDouble operator/(double a, DoubleDouble b) { return DoubleDouble{a} / b; }
+
+// a / b for doubles.
+KOR_INLINE constexpr DoubleDouble two_quotient(double a, double b) { return DoubleDouble{a} / DoubleDouble{b}; }
+
+// One Newton step on the root of the high part, a > 0.
+KOR_INLINE DoubleDouble sqrt(DoubleDouble a)
+{
+    const double root = std::sqrt(a.hi);
+    const DoubleDouble square = two_square(root);
+    return fast_two_sum(root, ((a.hi - square.hi) - square.lo + a.lo) / (2.0 * root));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Polynomials whose leading coefficients are numbers of two doubles
+// ---------------------------------------------------------------------------------------------------------------------
+
+// head[0] + head[1] x + ... + x^H (tail[0] + tail[1] x + ...). The tail is summed in plain arithmetic: its relative error,
+// about 2 eps, counts with the weight that x^H tail(x) has in the whole.
+template <std::size_t H, std::size_t T>
+struct ExtendedPolynomial {
+    std::array<DoubleDouble, H> head;
+    std::array<double, T> tail;
+
+    KOR_INLINE DoubleDouble operator()(double x) const
+    {
+        DoubleDouble sum = head[H - 1] + two_product(polynomial(tail, x), x);
+        for (std::size_t k = H - 1; k-- > 0;) sum = head[k] + sum * x;
+        return sum;
+    }
+    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const
+    {
+        DoubleDouble sum = head[H - 1] + x * polynomial(tail, x.hi);
+        for (std::size_t k = H - 1; k-- > 0;) sum = head[k] + sum * x;
+        return sum;
+    }
+};
+
+// head + x tail(x), for functions that stay near their constant term: with |x tail(x)| below |head| / 8 the sum is good to
+// 2^-55, without any exact product.
+template <std::size_t T>
+struct NearConstantPolynomial {
+    DoubleDouble head;
+    std::array<double, T> tail;
+
+    KOR_INLINE DoubleDouble operator()(double x) const
+    {
+        return fast_two_sum(head.hi, x * polynomial(tail, x) + head.lo);
+    }
+};
+
+} // namespace kor::special
