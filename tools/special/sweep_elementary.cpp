@@ -1,0 +1,79 @@
+// Accuracy of the special functions but the Bessel family, over their whole domains, against Arb.
+#include "sweep.hpp"
+
+#include <arb_hypgeom.h>
+
+#include "special/elementary.hpp"
+
+using namespace kor::special;
+using sweep::Subject;
+
+namespace {
+
+// What is left of a DoubleDouble result, as a relative error in units of 2^-53, comes out as ulps of its low part.
+void run_extended()
+{
+    struct Kernel {
+        const char *name;
+        DoubleDouble (*f)(double);
+        sweep::Truth truth;
+        double from, to;
+        bool logarithmic;
+    };
+    const Kernel kernels[] = {
+        {"exp",
+         [](double x) {
+             const auto e = extended_exp({x});
+             return e.value.scaled(std::exp2(e.exponent));
+         },
+         arb_exp, -700, 700, false},
+        {"log", [](double x) { return extended_log({x}); }, arb_log, 1e-300, 1e300, true},
+        {"log", [](double x) { return extended_log({x}); }, arb_log, 0.5, 2, false},
+        {"sin", [](double x) { return extended_sine_cosine_of({x}).sine; }, arb_sin, 1e-5, 1e3, true},
+        {"sin", [](double x) { return extended_sine_cosine_of({x}).sine; }, arb_sin, 1e3, 1e16, true},
+        {"cos", [](double x) { return extended_sine_cosine_of({x}).cosine; }, arb_cos, 1e-5, 1e3, true},
+        {"cos", [](double x) { return extended_sine_cosine_of({x}).cosine; }, arb_cos, 1e3, 1e16, true},
+        {"sinpi", [](double x) { return extended_sine_cosine_pi(x).sine; }, arb_sin_pi, 1e-5, 1e3, true},
+    };
+    arb_t x, y, d;
+    arb_init(x), arb_init(y), arb_init(d);
+    std::mt19937_64 random{7};
+    for (const Kernel &k : kernels) {
+        double worst = 0, at = 0, sum = 0;
+        const int n = 100000;
+        for (int i = 0; i < n; ++i) {
+            const double u = (i + 0.5) / n + random() * 0x1p-84;
+            const double t = k.logarithmic ? std::exp(std::log(k.from) * (1 - u) + std::log(k.to) * u)
+                                           : k.from + (k.to - k.from) * u;
+            arb_set_d(x, t);
+            k.truth(y, x, 300);
+            const DoubleDouble z = k.f(t);
+            arb_set_d(d, z.hi);
+            arb_sub(d, y, d, 300);
+            arb_t low;
+            arb_init(low);
+            arb_set_d(low, z.lo);
+            arb_sub(d, d, low, 300);
+            arb_div(d, d, y, 300);
+            const double e = std::fabs(arf_get_d(arb_midref(d), ARF_RND_NEAR));
+            arb_clear(low);
+            sum += e;
+            if (e > worst) worst = e, at = t;
+        }
+        std::printf("extended %-6s [%g, %g]: worst 2^%.1f at %.17g, mean 2^%.1f\n", k.name, k.from, k.to,
+                    std::log2(worst), at, std::log2(sum / n));
+    }
+    arb_clear(x), arb_clear(y), arb_clear(d);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc > 1 && !std::strcmp(argv[1], "extended")) {
+        run_extended();
+        return 0;
+    }
+    const std::vector<Subject> subjects = {};
+    return sweep::main_of(subjects, argc, argv);
+}
