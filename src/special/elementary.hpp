@@ -46,25 +46,15 @@ KOR_INLINE Exponential extended_exp(DoubleDouble x)
 {
     using namespace tables;
     const NearestInteger n = nearest_integer(x.hi * kExpStepsPerUnit);
-    const DoubleDouble r = two_sum(x.hi - n.value * kExpStepHigh, x.lo - n.value * kExpStepLow); // the first is exact
-    const DoubleDouble growth = fast_two_sum(r.hi, r.lo + r.hi * r.hi * polynomial(kExpSeries, r.hi));
+    const double r_hi = x.hi - n.value * kExpStepHigh; // exact
+    const double r_lo = x.lo - n.value * kExpStepLow;
+    const double r = r_hi + r_lo;
+    const double growth = r_hi + (r_lo + r * r * polynomial(kExpSeries, r));
     const DoubleDouble power = kPowersOfTwo[static_cast<unsigned>(n.count) % 64];
-    return {fast_two_sum(power.hi, power.hi * growth.hi + (power.lo + power.hi * growth.lo)), n.count >> 6};
+    return {fast_two_sum(power.hi, power.lo + power.hi * growth), n.count >> 6};
 }
 
-// ln(1 + r) for what the table leaves, |r| < 2^-6.9, joined to the high and low parts of the table's logarithm.
-KOR_INLINE DoubleDouble join_log(double high, double low, DoubleDouble r)
-{
-    const DoubleDouble half_square = two_square(r.hi).scaled(0.5);
-    const DoubleDouble first = fast_two_sum(high, r.hi);
-    const DoubleDouble second = fast_two_sum(first.hi, -half_square.hi);
-    const double cube = r.hi * r.hi * r.hi * polynomial(tables::kLogSeries, r.hi);
-    const double rest = (cube - half_square.lo) + (r.lo - r.hi * r.lo) + (low + first.lo + second.lo);
-    return fast_two_sum(second.hi, rest);
-}
-
-// ln(x), x positive and normal; accurate relative to ln(x) also next to 1. x.lo may be as large as ulp(x.hi), and where
-// x.hi is 1 it may be anything small.
+// ln(x), x positive and normal; accurate relative to ln(x) also next to 1, where x.lo may be anything small.
 KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
 {
     using namespace tables;
@@ -74,14 +64,22 @@ KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
     const int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
     const LogCell &cell = kLogCells[(offset >> 45) % 128];
 
-    const double m = std::bit_cast<double>(bits - (static_cast<std::uint64_t>(exponent) << 52));
-    const double m_hi = upper_half(m), m_lo = m - m_hi;
-    DoubleDouble r = two_sum(m_hi * cell.factor - 1.0, m_lo * cell.factor); // products of 26 and 11 bits
-    if (x.lo != 0.0) {
-        // exponent may not fit the scale of a double in one step only for subnormal results, which lo never makes.
-        r = fast_two_sum(r.hi, r.lo + times_power_of_two(x.lo, -exponent) * cell.factor);
-    }
-    return join_log(exponent * kLn2High + cell.log_hi, exponent * kLn2Low + cell.log_lo, r); // the first is exact
+    // x = 2^exponent m, and m factor = 1 + r1 + r2 where r1 has so few bits that its square is exact. |r2| is below
+    // 2^-19, and below |r1| in the cells about 1 unless r1 is 0.
+    constexpr std::uint64_t kUpper20Bits = ~((std::uint64_t{1} << 33) - 1);
+    const std::uint64_t m_bits = bits - (static_cast<std::uint64_t>(exponent) << 52);
+    const double m = std::bit_cast<double>(m_bits), m_hi = std::bit_cast<double>(m_bits & kUpper20Bits);
+    const double r1 = m_hi * cell.factor - 1.0;
+    const double exact_r2 = (m - m_hi) * cell.factor;
+    const DoubleDouble r2 = two_sum(exact_r2, times_power_of_two(x.lo, -exponent) * cell.factor);
+    const double r = r1 + r2.hi;
+
+    // ln(1 + r) = r1 - r1^2/2 + r2 - r1 r2 - r2^2/2 + r^3 (...), the first three joined exactly.
+    const double high = exponent * kLn2High + cell.log_hi + r1; // exact
+    const DoubleDouble second = fast_two_sum(high, -0.5 * r1 * r1);
+    const DoubleDouble third = fast_two_sum(second.hi, r2.hi);
+    const double rest = r * r * r * polynomial(kLogSeries, r) - r2.hi * (r1 + 0.5 * r2.hi);
+    return fast_two_sum(third.hi, third.lo + (second.lo + (rest + (r2.lo + (exponent * kLn2Low + cell.log_lo)))));
 }
 
 struct SineAndCosine {
@@ -89,7 +87,28 @@ struct SineAndCosine {
 };
 
 // For |r| <= 0.8 (beyond pi/4 by a little).
-SineAndCosine extended_sine_cosine(DoubleDouble r);
+KOR_INLINE SineAndCosine extended_sine_cosine(DoubleDouble r)
+{
+    using namespace tables;
+    const NearestInteger j = nearest_integer(r.hi * kArcStepsPerRadian);
+    const auto &[table_s, c] = kSineCosine[std::abs(j.count)];
+    const double sign = std::copysign(1.0, r.hi); // a product costs less than a branch that nobody can predict
+    const DoubleDouble s = table_s.scaled(sign);
+
+    // With d = r - j pi/128: the sine as d + d^3 (...), the cosine as 1 + versine.
+    const DoubleDouble d = two_sum(r.hi - j.value * kArcStepHigh, r.lo - j.value * kArcStepLow);
+    const double d2 = d.hi * d.hi;
+    const DoubleDouble sine = fast_two_sum(d.hi, d.lo + d.hi * d2 * polynomial(kSineSeries, d2));
+    const double versine = d2 * (d2 * polynomial(kCosineSeries, d2) - 0.5) - d.hi * d.lo;
+
+    const DoubleDouble c_sine = two_product(c.hi, sine.hi);
+    const DoubleDouble s_sine = two_product(s.hi, sine.hi);
+    const DoubleDouble sum_s = fast_two_sum(s.hi, c_sine.hi);
+    const DoubleDouble sum_c = fast_two_sum(c.hi, -s_sine.hi);
+    const double rest_s = s.hi * versine + (c_sine.lo + c.hi * sine.lo + c.lo * sine.hi) + (sum_s.lo + s.lo);
+    const double rest_c = c.hi * versine - (s_sine.lo + s.hi * sine.lo + s.lo * sine.hi) + (sum_c.lo + c.lo);
+    return {fast_two_sum(sum_s.hi, rest_s), fast_two_sum(sum_c.hi, rest_c)};
+}
 
 // x = quadrant pi/2 + r, |r| <= pi/4 (1 + 2^-20), quadrant counted modulo 4.
 struct ReducedAngle {
@@ -97,14 +116,60 @@ struct ReducedAngle {
     int quadrant;
 };
 
-// |x| <= 2^54. The absolute error of r is 2^-106 for |x| < 2^20 and 2^-78 at most.
-ReducedAngle reduce_angle(DoubleDouble x);
+// |x| from 2^20 to 2^54; absolute error of r 2^-78.
+[[gnu::cold]] ReducedAngle reduce_large_angle(DoubleDouble x);
+
+// |x| <= 2^54; absolute error of r 2^-106 below 2^20.
+KOR_INLINE ReducedAngle reduce_angle(DoubleDouble x)
+{
+    using tables::kHalfPi, tables::kTwoOverPi;
+    constexpr double kLarge = 0x1p20;
+    if (std::fabs(x.hi) >= kLarge) [[unlikely]]
+        return reduce_large_angle(x);
+    // One exact step, one exact sum, and the rest in the low part.
+    const NearestInteger n = nearest_integer(x.hi * kTwoOverPi);
+    const DoubleDouble first = two_sum(x.hi - n.value * kHalfPi[0], -n.value * kHalfPi[1]);
+    const double rest = x.lo - (n.value * kHalfPi[3] + n.value * kHalfPi[4]);
+    return {first + (-n.value * kHalfPi[2]) + rest, n.count & 3};
+}
+
+KOR_INLINE void swap_if(bool condition, double &a, double &b)
+{
+    const std::uint64_t mask = -static_cast<std::uint64_t>(condition);
+    const std::uint64_t a_bits = std::bit_cast<std::uint64_t>(a), b_bits = std::bit_cast<std::uint64_t>(b);
+    const std::uint64_t difference = (a_bits ^ b_bits) & mask;
+    a = std::bit_cast<double>(a_bits ^ difference);
+    b = std::bit_cast<double>(b_bits ^ difference);
+}
+
+// Sine and cosine of a reduced angle.
+KOR_INLINE SineAndCosine extended_sine_cosine_reduced(ReducedAngle angle)
+{
+    auto [s, c] = extended_sine_cosine(angle.r);
+    // An odd quadrant takes the cosine for the sine and -sine for the cosine. No branch: nobody can predict it.
+    const bool odd = angle.quadrant & 1;
+    swap_if(odd, s.hi, c.hi);
+    swap_if(odd, s.lo, c.lo);
+    const double sine_sign = 1 - (angle.quadrant & 2);
+    const double cosine_sign = 1 - ((angle.quadrant + 1) & 2);
+    return {s.scaled(sine_sign), c.scaled(cosine_sign)};
+}
 
 // Sine and cosine of any angle up to 2^54.
-SineAndCosine extended_sine_cosine_reduced(ReducedAngle angle);
-inline SineAndCosine extended_sine_cosine_of(DoubleDouble x) { return extended_sine_cosine_reduced(reduce_angle(x)); }
+KOR_INLINE SineAndCosine extended_sine_cosine_of(DoubleDouble x)
+{
+    return extended_sine_cosine_reduced(reduce_angle(x));
+}
 
 // Sine and cosine of pi x, x any finite double, the reduction being exact. Zeros are exact.
-SineAndCosine extended_sine_cosine_pi(double x);
+KOR_INLINE SineAndCosine extended_sine_cosine_pi(double x)
+{
+    // Both the remainder and the distance to the nearest half are exact.
+    constexpr double kSmall = 0x1p29;
+    const double within = std::fabs(x) < kSmall ? x : std::fmod(x, 2.0);
+    const NearestInteger halves = nearest_integer(2.0 * within);
+    const double rest = within - 0.5 * halves.value;
+    return extended_sine_cosine_reduced({tables::kPi * rest, halves.count & 3});
+}
 
 } // namespace kor::special

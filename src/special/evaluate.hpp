@@ -223,4 +223,41 @@ struct NearConstantPolynomial {
     }
 };
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Functions in pieces
+// ---------------------------------------------------------------------------------------------------------------------
+
+// The distance from the centre is exact for a plain argument; a low part of the argument joins it.
+
+// From First on, each binade is cut into 2^CutsLog2 equal pieces, and the function is near constant in each. The piece is
+// found from the leading bits of x, and so is its centre.
+template <double First, unsigned CutsLog2, std::size_t Pieces, std::size_t Terms>
+struct BinadePieces {
+    std::array<NearConstantPolynomial<Terms>, Pieces> piece;
+
+    KOR_INLINE DoubleDouble operator()(double x) const { return (*this)(DoubleDouble{x}); }
+    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const
+    {
+        constexpr unsigned shift = 52 - CutsLog2;
+        constexpr std::uint64_t first = std::bit_cast<std::uint64_t>(First) >> shift;
+        const std::uint64_t cell = std::bit_cast<std::uint64_t>(x.hi) >> shift;
+        const double centre = std::bit_cast<double>(cell << shift | std::uint64_t{1} << (shift - 1));
+        return piece[cell - first]((x.hi - centre) + x.lo);
+    }
+};
+
+// The same with pieces of one width, 1/PerUnit, from First on.
+template <double First, int PerUnit, std::size_t Pieces, std::size_t Terms>
+struct UniformPieces {
+    std::array<NearConstantPolynomial<Terms>, Pieces> piece;
+
+    KOR_INLINE DoubleDouble operator()(double x) const { return (*this)(DoubleDouble{x}); }
+    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const
+    {
+        const int k = static_cast<int>((x.hi - First) * PerUnit);
+        const double centre = (k + (First * PerUnit + 0.5)) / PerUnit; // exact
+        return piece[k]((x.hi - centre) + x.lo);
+    }
+};
+
 } // namespace kor::special

@@ -86,7 +86,7 @@ def sine_cosine():
         parts.append(part)
         rest -= part
     yield array("kHalfPi", parts, "pi/2 in pieces of 26 bits")
-    yield pair_constant("kPiHalf", mp.pi / 2, "pi/2")
+    yield f"inline constexpr double kTwoOverPi = {number(2 / mp.pi)};"
     yield pair_constant("kPi", mp.pi, "pi")
 
 

@@ -3,10 +3,21 @@
 
 #include <arb_hypgeom.h>
 
+#include <boost/math/special_functions.hpp>
+#include <gsl/gsl_errno.h>
+#include <gsl/gsl_sf.h>
+
+#include <kor/s14.h>
+
 #include "special/elementary.hpp"
 
 using namespace kor::special;
 using sweep::Subject;
+
+using Policy = boost::math::policies::policy<boost::math::policies::promote_double<false>,
+                                             boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
+                                             boost::math::policies::domain_error<boost::math::policies::ignore_error>,
+                                             boost::math::policies::pole_error<boost::math::policies::ignore_error>>;
 
 namespace {
 
@@ -74,6 +85,26 @@ int main(int argc, char **argv)
         run_extended();
         return 0;
     }
-    const std::vector<Subject> subjects = {};
+    gsl_set_error_handler_off();
+    KorError fail{};
+    const Policy p;
+    const std::vector<Subject> subjects = {
+        {"s14aac",
+         [&](double x) { return s14aac(x, &fail); },
+         arb_gamma,
+         {{0.5, 12}, {12, 170}, {1e-15, 0.5, true}, {-1e-15, -0.5, true}, {-0.5, -12}, {-12, -170}},
+         {0, 1, 2, 12, 170, -0.5, -1, -2, -3, -12},
+         {{"libm", [](double x) { return std::tgamma(x); }},
+          {"gsl", gsl_sf_gamma},
+          {"boost", [&](double x) { return boost::math::tgamma(x, p); }}}},
+        {"s14abc",
+         [&](double x) { return s14abc(x, &fail); },
+         arb_lgamma,
+         {{0.5, 3}, {3, 16}, {16, 1e7, true}, {1e7, 2.55e305, true}, {1e-15, 0.5, true}, {1e-308, 1e-15, true}},
+         {1e-15, 0.5, 1, 2, 3, 12, 16, 6.8e6, 1e17},
+         {{"libm", [](double x) { return std::lgamma(x); }},
+          {"gsl", gsl_sf_lngamma},
+          {"boost", [&](double x) { return boost::math::lgamma(x, p); }}}},
+    };
     return sweep::main_of(subjects, argc, argv);
 }

@@ -1,0 +1,8 @@
+#ifndef KOR_S14_H
+#define KOR_S14_H
+#include <kor.h>
+KOR_BEGIN_DECLS
+double s14aac(double x, KorError *fail);
+double s14abc(double x, KorError *fail);
+KOR_END_DECLS
+#endif

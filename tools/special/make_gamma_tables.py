@@ -1,0 +1,39 @@
+#!/usr/bin/env python3
+"""Writes src/special/gamma_tables.hpp: the gamma function and its logarithm."""
+import os
+from fit import *
+
+OUT = os.path.join(os.path.dirname(__file__), "../../src/special/gamma_tables.hpp")
+TIGHT = mpf(2) ** -58
+
+
+def near_one(d):
+    """ln Gamma(1 + d) / (d (d - 1)): both zeros taken out."""
+    if d == 0:
+        return mp.euler
+    if d == 1:
+        return 1 - mp.euler
+    return mp.loggamma(1 + d) / (d * (d - 1))
+
+
+def stirling(u):
+    """x (ln Gamma(x) - (x - 1/2) ln x + x - ln sqrt(2 pi)) as a function of u = 1/x^2."""
+    if u == 0:
+        return mpf(1) / 12
+    with mp.workdps(100):
+        x = 1 / mp.sqrt(u)
+        return x * (mp.loggamma(x) - (x - 0.5) * mp.log(x) + x - mp.log(2 * mp.pi) / 2)
+
+
+parts = [
+    pieces("kGamma", "UniformPieces<0.5, 8, {count}, {terms}>", mp.gamma, grid(mpf("0.5"), 12, 8), TIGHT,
+           "gamma on [1/2, 12), pieces of width 1/8"),
+    pieces("kLogGammaNearOne", "UniformPieces<-0.5, 4, {count}, {terms}>", near_one, grid(-0.5, 2, 4), TIGHT,
+           "ln gamma(1 + d) / (d (d - 1)), d on [-1/2, 2), pieces of width 1/4"),
+    pieces("kLogGamma", "BinadePieces<3.0, 4, {count}, {terms}>", mp.loggamma,
+           [p for p in binade_centres(1, 4, 4) if p[0] >= 3], TIGHT, "ln gamma on [3, 16), sixteen pieces a binade"),
+    near_constant("kStirling", stirling, 0, mpf(1) / 144, mpf(2) ** -56,
+                  "x (ln gamma(x) - (x - 1/2) ln x + x - ln sqrt(2 pi)) in 1/x^2, x >= 12"),
+    pair_constant("kLogRootTwoPi", mp.log(2 * mp.pi) / 2, "ln sqrt(2 pi)"),
+]
+header(OUT, "Tables of the gamma function and its logarithm.", "make_gamma_tables.py", parts)
