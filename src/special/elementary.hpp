@@ -65,10 +65,12 @@ KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
     const LogCell &cell = kLogCells[(offset >> 45) % 128];
 
     // x = 2^exponent m, and m factor = 1 + r1 + r2 where r1 has so few bits that its square is exact. |r2| is below
-    // 2^-19, and below |r1| in the cells about 1 unless r1 is 0.
+    // 2^-20, and at most |r1| in the cells about 1 unless r1 is 0.
+    constexpr std::uint64_t kHalfOfBit20 = std::uint64_t{1} << 32;
     constexpr std::uint64_t kUpper20Bits = ~((std::uint64_t{1} << 33) - 1);
     const std::uint64_t m_bits = bits - (static_cast<std::uint64_t>(exponent) << 52);
-    const double m = std::bit_cast<double>(m_bits), m_hi = std::bit_cast<double>(m_bits & kUpper20Bits);
+    const double m = std::bit_cast<double>(m_bits),
+                 m_hi = std::bit_cast<double>((m_bits + kHalfOfBit20) & kUpper20Bits);
     const double r1 = m_hi * cell.factor - 1.0;
     const double exact_r2 = (m - m_hi) * cell.factor;
     const DoubleDouble r2 = two_sum(exact_r2, times_power_of_two(x.lo, -exponent) * cell.factor);

@@ -3,11 +3,18 @@
 
 #include <arb_hypgeom.h>
 
+#include <boost/math/distributions/normal.hpp>
 #include <boost/math/special_functions.hpp>
+#include <gsl/gsl_cdf.h>
 #include <gsl/gsl_errno.h>
 #include <gsl/gsl_sf.h>
 
+#include <kor/s01.h>
+#include <kor/s07.h>
+#include <kor/s10.h>
+#include <kor/s11.h>
 #include <kor/s14.h>
+#include <kor/s15.h>
 
 #include "special/elementary.hpp"
 
@@ -77,6 +84,29 @@ void run_extended()
     arb_clear(x), arb_clear(y), arb_clear(d);
 }
 
+// Phi(x) = erfc(-x / sqrt 2) / 2.
+void normal(arb_t y, const arb_t x, slong precision)
+{
+    arb_t root;
+    arb_init(root);
+    arb_set_ui(root, 2);
+    arb_sqrt(root, root, precision);
+    arb_div(root, x, root, precision);
+    arb_neg(root, root);
+    arb_hypgeom_erfc(y, root, precision);
+    arb_mul_2exp_si(y, y, -1);
+    arb_clear(root);
+}
+
+void normal_complement(arb_t y, const arb_t x, slong precision)
+{
+    arb_t minus;
+    arb_init(minus);
+    arb_neg(minus, x);
+    normal(y, minus, precision);
+    arb_clear(minus);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -89,6 +119,54 @@ int main(int argc, char **argv)
     KorError fail{};
     const Policy p;
     const std::vector<Subject> subjects = {
+        {"s01bac",
+         [&](double x) { return s01bac(x, &fail); },
+         arb_log1p,
+         {{-0.99999999999999, 1}, {1, 1e300, true}, {1e-300, 1, true}, {-1e-300, -0.5, true}},
+         {0, 0.41421356, -0.296875, 0.40625, -1},
+         {{"libm", [](double x) { return std::log1p(x); }}}},
+        {"s07aac",
+         [&](double x) { return s07aac(x, &fail); },
+         arb_tan,
+         {{-4, 4}, {1e-300, 1, true}, {1, 1e10, true}, {-1e6, 1e6}},
+         {0, 0.785398, 1.5707963, 3.1415926, 1048576},
+         {{"libm", [](double x) { return std::tan(x); }}}},
+        {"s10aac",
+         s10aac,
+         arb_tanh,
+         {{-5, 5}, {1e-300, 1, true}, {4, 18.5}},
+         {0.5, 4},
+         {{"libm", [](double x) { return std::tanh(x); }}}},
+        {"s10abc",
+         [&](double x) { return s10abc(x, &fail); },
+         arb_sinh,
+         {{-5, 5}, {1e-300, 1, true}, {-708, 708}},
+         {1, 20},
+         {{"libm", [](double x) { return std::sinh(x); }}}},
+        {"s10acc",
+         [&](double x) { return s10acc(x, &fail); },
+         arb_cosh,
+         {{-5, 5}, {1e-300, 1, true}, {-708, 708}},
+         {0.5, 20},
+         {{"libm", [](double x) { return std::cosh(x); }}}},
+        {"s11aac",
+         [&](double x) { return s11aac(x, &fail); },
+         arb_atanh,
+         {{-0.999, 0.999}, {0.999, 0.99999999999999}, {1e-300, 0.5, true}},
+         {0.25, 0.5, 1},
+         {{"libm", [](double x) { return std::atanh(x); }}}},
+        {"s11abc",
+         s11abc,
+         arb_asinh,
+         {{-3, 3}, {1e-300, 1, true}, {1, 1.7e308, true}},
+         {0.25, 1e9},
+         {{"libm", [](double x) { return std::asinh(x); }}}},
+        {"s11acc",
+         [&](double x) { return s11acc(x, &fail); },
+         arb_acosh,
+         {{1, 3}, {1, 1.7e308, true}},
+         {1, 2, 1e9},
+         {{"libm", [](double x) { return std::acosh(x); }}}},
         {"s14aac",
          [&](double x) { return s14aac(x, &fail); },
          arb_gamma,
@@ -105,6 +183,36 @@ int main(int argc, char **argv)
          {{"libm", [](double x) { return std::lgamma(x); }},
           {"gsl", gsl_sf_lngamma},
           {"boost", [&](double x) { return boost::math::lgamma(x, p); }}}},
+        {"s15abc",
+         s15abc,
+         normal,
+         {{-38.5, -0.5}, {-1, 1}, {0, 9}, {-1e-300, -0.1, true}},
+         {-0.707, 0.707, -38, 8.8},
+         {{"gsl", gsl_cdf_ugaussian_P},
+          {"boost",
+           [&](double x) { return boost::math::cdf(boost::math::normal_distribution<double, Policy>{}, x); }}}},
+        {"s15acc",
+         s15acc,
+         normal_complement,
+         {{0.5, 38.5}, {-1, 1}, {-9, 0}},
+         {-0.707, 0.707, 38, -8.8},
+         {{"gsl", gsl_cdf_ugaussian_Q}}},
+        {"s15adc",
+         s15adc,
+         arb_hypgeom_erfc,
+         {{0.5, 26.599999}, {-6.249999, 0.5}, {1e-300, 0.1, true}},
+         {0.5, -0.5, 26.6, 0.477},
+         {{"libm", [](double x) { return std::erfc(x); }},
+          {"gsl", gsl_sf_erfc},
+          {"boost", [&](double x) { return boost::math::erfc(x, p); }}}},
+        {"s15aec",
+         s15aec,
+         arb_hypgeom_erf,
+         {{0.5, 6.249999}, {-6.249999, 0.5}, {1e-300, 0.5, true}},
+         {0.5, -0.5, 6.25},
+         {{"libm", [](double x) { return std::erf(x); }},
+          {"gsl", gsl_sf_erf},
+          {"boost", [&](double x) { return boost::math::erf(x, p); }}}},
     };
     return sweep::main_of(subjects, argc, argv);
 }
