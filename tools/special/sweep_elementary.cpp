@@ -13,6 +13,7 @@
 #include <kor/s07.h>
 #include <kor/s10.h>
 #include <kor/s11.h>
+#include <kor/s13.h>
 #include <kor/s14.h>
 #include <kor/s15.h>
 
@@ -84,6 +85,13 @@ void run_extended()
     arb_clear(x), arb_clear(y), arb_clear(d);
 }
 
+arb_srcptr one()
+{
+    static arb_t value;
+    arb_set_ui(value, 1);
+    return value;
+}
+
 // Phi(x) = erfc(-x / sqrt 2) / 2.
 void normal(arb_t y, const arb_t x, slong precision)
 {
@@ -106,6 +114,8 @@ void normal_complement(arb_t y, const arb_t x, slong precision)
     normal(y, minus, precision);
     arb_clear(minus);
 }
+
+void e1(arb_t y, const arb_t x, slong precision) { arb_hypgeom_expint(y, one(), x, precision); }
 
 } // namespace
 
@@ -167,6 +177,24 @@ int main(int argc, char **argv)
          {{1, 3}, {1, 1.7e308, true}},
          {1, 2, 1e9},
          {{"libm", [](double x) { return std::acosh(x); }}}},
+        {"s13aac",
+         [&](double x) { return s13aac(x, &fail); },
+         e1,
+         {{1e-300, 0.25, true}, {0.1, 20}, {16, 708.3}},
+         {0.25, 2, 4, 16, 701, 708.3},
+         {{"gsl", gsl_sf_expint_E1}, {"boost", [&](double x) { return boost::math::expint(1, x, p); }}}},
+        {"s13acc",
+         [&](double x) { return s13acc(x, &fail); },
+         arb_hypgeom_ci,
+         {{1e-300, 0.5, true}, {0.1, 20}, {16, 1000}, {16, 1e16, true}, {1e16, 1e300, true}},
+         {0.5, 0.61650548562, 3.38418042255, 16, 1e16},
+         {{"gsl", gsl_sf_Ci}}},
+        {"s13adc",
+         s13adc,
+         arb_hypgeom_si,
+         {{-1e-300, -0.5, true}, {0.1, 20}, {16, 1000}, {16, 1e16, true}, {1e16, 1e300, true}},
+         {1, 16, 1e16},
+         {{"gsl", gsl_sf_Si}}},
         {"s14aac",
          [&](double x) { return s14aac(x, &fail); },
          arb_gamma,

@@ -1,0 +1,42 @@
+// s13aac: the exponential integral E1, the integral of exp(-t)/t from x to infinity.
+#include <kor/s13.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/elementary.hpp"
+#include "special/integral_tables.hpp"
+
+namespace {
+
+constexpr double kLogarithmBelow = 0.25;
+constexpr double kTailFrom = 16.0;
+constexpr double kZeroBeyond = 708.3;
+
+double exponential_integral(double x)
+{
+    using namespace kor::special;
+    if (x < kLogarithmBelow) {
+        if (x < 0x1p-1022) return -std::log(x) - tables::kEuler.hi; // the extended logarithm wants normal numbers
+        return (tables::kE1LessLog(x) - extended_log({x})).rounded();
+    }
+    const Exponential e = extended_exp({-x});
+    const DoubleDouble value = x < kTailFrom ? e.value * tables::kScaledE1(x) : e.value * tables::kE1Tail(1.0 / x) / x;
+    return times_power_of_two(value.rounded(), e.exponent);
+}
+
+} // namespace
+
+double s13aac(double x, KorError *fail)
+{
+    const kor::Report report{"s13aac", fail};
+    if (std::isnan(x)) return x;
+
+    if (x <= 0.0) {
+        report.error<NE_REAL_ARG_LE>("x", "0.0", "x", x);
+        return 0.0;
+    }
+    const double value = x > kZeroBeyond ? 0.0 : exponential_integral(x);
+    report.success();
+    return value;
+}

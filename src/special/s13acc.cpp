@@ -1,0 +1,44 @@
+// s13acc: the cosine integral.
+#include <kor/s13.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/elementary.hpp"
+#include "special/sine_cosine_integral.hpp"
+
+namespace {
+
+constexpr double kLogarithmBelow = 0.5;
+
+double cosine_integral(double x)
+{
+    using namespace kor::special;
+    if (x < 0x1p-500)
+        return std::log(x) + tables::kEuler.hi; // x^2 vanishes; the extended logarithm wants normal numbers
+    if (x < kLogarithmBelow) {
+        const double square = x * x;
+        return (extended_log({x}) + (tables::kEuler + square * polynomial(tables::kCiSeries, square))).rounded();
+    }
+    if (x < kAuxiliaryFrom) return tables::kCi(x);
+    if (x > kAuxiliaryUpTo) return std::isinf(x) ? 0.0 : std::sin(x) / x;
+    const auto [sine, cosine] = extended_sine_cosine_of({x});
+    const auto [f, g] = scaled_auxiliary(x);
+    return ((f * sine - g.hi * cosine.hi / x) / x).rounded();
+}
+
+} // namespace
+
+double s13acc(double x, KorError *fail)
+{
+    const kor::Report report{"s13acc", fail};
+    if (std::isnan(x)) return x;
+
+    if (x <= 0.0) {
+        report.error<NE_REAL_ARG_LE>("x", "0.0", "x", x);
+        return 0.0;
+    }
+    const double value = cosine_integral(x);
+    report.success();
+    return value;
+}
