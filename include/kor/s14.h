@@ -4,5 +4,7 @@
 KOR_BEGIN_DECLS
 double s14aac(double x, KorError *fail);
 double s14abc(double x, KorError *fail);
+double s14aec(double x, Integer k, KorError *fail);
+Complex s14afc(Complex z, Integer k, KorError *fail);
 KOR_END_DECLS
 #endif

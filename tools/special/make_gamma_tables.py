@@ -25,6 +25,34 @@ def stirling(u):
         return x * (mp.loggamma(x) - (x - 0.5) * mp.log(x) + x - mp.log(2 * mp.pi) / 2)
 
 
+ZERO = mp.findroot(mp.digamma, mpf("1.46"))
+
+
+def digamma_factor(x):
+    return mp.digamma(x) / (x - ZERO)
+
+
+def digamma_tail(u):
+    """x^2 (ln x - 1/(2 x) - digamma(x)) as a function of u = 1/x^2."""
+    if u == 0:
+        return mpf(1) / 12
+    with mp.workdps(100):
+        x = 1 / mp.sqrt(u)
+        return x * x * (mp.log(x) - 1 / (2 * x) - mp.digamma(x))
+
+
+def polygamma_series():
+    """Asymptotic series of the derivatives: B_2j / (2j)! (2j + k - 1)! / (k - 1)!, for k = 0 without the last factor."""
+    rows = []
+    for k in range(7):
+        row = [mp.bernoulli(2 * j) / mp.factorial(2 * j) * mp.factorial(2 * j + k - 1) / mp.factorial(max(k - 1, 0))
+               for j in range(1, 13)]
+        rows.append("    {" + lines([number(c) for c in row], 5).lstrip() + "}")
+    return ("// |psi^(k)(y)| y^k / (k - 1)! = 1 + k / (2 y) + (1/y^2) times this series in 1/y^2;\n"
+            "// k = 0: ln y - 1 / (2 y) - psi(y) = (1/y^2) times the series\n"
+            f"inline constexpr std::array<double, 12> kPolygammaSeries[] = {{\n" + ",\n".join(rows) + "};\n")
+
+
 parts = [
     pieces("kGamma", "UniformPieces<0.5, 8, {count}, {terms}>", mp.gamma, grid(mpf("0.5"), 12, 8), TIGHT,
            "gamma on [1/2, 12), pieces of width 1/8"),
@@ -35,5 +63,11 @@ parts = [
     near_constant("kStirling", stirling, 0, mpf(1) / 144, mpf(2) ** -56,
                   "x (ln gamma(x) - (x - 1/2) ln x + x - ln sqrt(2 pi)) in 1/x^2, x >= 12"),
     pair_constant("kLogRootTwoPi", mp.log(2 * mp.pi) / 2, "ln sqrt(2 pi)"),
+    pair_constant("kDigammaZero", ZERO, "the positive zero of digamma"),
+    pieces("kDigammaFactor", "BinadePieces<1.0, 3, {count}, {terms}>", digamma_factor, binade_centres(0, 4, 3), TIGHT,
+           "digamma(x) / (x - zero) on [1, 16), eight pieces a binade"),
+    near_constant("kDigammaTail", digamma_tail, 0, mpf(1) / 256, mpf(2) ** -56,
+                  "x^2 (ln x - 1/(2 x) - digamma(x)) in 1/x^2, x >= 16"),
+    polygamma_series(),
 ]
 header(OUT, "Tables of the gamma function and its logarithm.", "make_gamma_tables.py", parts)

@@ -117,6 +117,24 @@ void normal_complement(arb_t y, const arb_t x, slong precision)
 
 void e1(arb_t y, const arb_t x, slong precision) { arb_hypgeom_expint(y, one(), x, precision); }
 
+template <int k>
+void polygamma(arb_t y, const arb_t x, slong precision)
+{
+    arb_t order;
+    arb_init(order);
+    acb_t z;
+    acb_init(z);
+    acb_set_arb(z, x);
+    acb_t s;
+    acb_init(s);
+    acb_set_ui(s, k);
+    acb_polygamma(z, s, z, precision);
+    arb_set(y, acb_realref(z));
+    acb_clear(s);
+    acb_clear(z);
+    arb_clear(order);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -211,6 +229,39 @@ int main(int argc, char **argv)
          {{"libm", [](double x) { return std::lgamma(x); }},
           {"gsl", gsl_sf_lngamma},
           {"boost", [&](double x) { return boost::math::lgamma(x, p); }}}},
+        {"s14aec0",
+         [&](double x) { return s14aec(x, 0, &fail); },
+         arb_digamma,
+         {{0, 20}, {1e-300, 1, true}, {16, 1e300, true}, {-20, 0}},
+         {1.4616321449683622, 1, 2, 16, -0.5},
+         {{"gsl", gsl_sf_psi}, {"boost", [&](double x) { return boost::math::digamma(x, p); }}},
+         [](double x) { return x < 0 ? 1.0 : 0.0; }},
+        {"s14aec1",
+         [&](double x) { return s14aec(x, 1, &fail); },
+         polygamma<1>,
+         {{0, 20}, {1e-100, 1, true}, {16, 1e100, true}, {-20, 0}},
+         {1, 16},
+         {{"gsl", gsl_sf_psi_1}, {"boost", [&](double x) { return boost::math::trigamma(x, p); }}}},
+        {"s14aec2",
+         [&](double x) { return s14aec(x, 2, &fail); },
+         polygamma<2>,
+         {{0, 20}, {1e-100, 1, true}, {16, 1e100, true}, {-20, 0}},
+         {1, 16},
+         {{"gsl", [](double x) { return gsl_sf_psi_n(2, x); }}},
+         [](double x) { return x < 0 ? 10.0 : 0.0; }},
+        {"s14aec5",
+         [&](double x) { return s14aec(x, 5, &fail); },
+         polygamma<5>,
+         {{0, 20}, {1e-40, 1, true}, {16, 1e40, true}, {-20, 0}},
+         {1, 16},
+         {{"gsl", [](double x) { return gsl_sf_psi_n(5, x); }}}},
+        {"s14aec6",
+         [&](double x) { return s14aec(x, 6, &fail); },
+         polygamma<6>,
+         {{0, 20}, {1e-40, 1, true}, {16, 1e40, true}, {-20, 0}},
+         {1, 16},
+         {{"gsl", [](double x) { return gsl_sf_psi_n(6, x); }}},
+         [](double x) { return x < 0 ? 10000.0 : 0.0; }},
         {"s15abc",
          s15abc,
          normal,
