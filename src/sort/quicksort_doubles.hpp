@@ -1,0 +1,142 @@
+// The sort of doubles, for any kernel: runs are merged, all else is sorted by quicksort, safeguarded by heapsort.
+//
+// A `Kernel` is what depends on the instruction set:
+//   Lanes                        a vector of doubles: V, width, load, store, min, max, reverse, not_at_most
+//   kShort, sort_short(a, n)     sorts up to kShort numbers
+//   kBitonicBlock, sort_bitonic_block(a)   sorts so many numbers that are a bitonic sequence
+//   choose_pivot(a, n, positions)
+//   partition(a, n, pivot), partition_three_ways(a, n, pivot)
+//
+// It is compiled for an instruction set by the file that includes it: everything here has internal linkage, so that no
+// copy for one set is taken for another's.
+//
+// D. R. Musser, Introspective sorting and selection algorithms, Softw. Pract. Exper. 27 (1997) 983-993.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "sort/heap_sort.hpp"
+#include "sort/natural_runs.hpp"
+#include "sort/pending_parts.hpp"
+
+namespace kor::sort {
+namespace { // each including file compiles it for a target of its own
+
+// Numbers that are random enough to look for a pivot by, the same in every call: a linear congruential sequence.
+class Positions {
+  public:
+    void advance() { state_ = state_ * 6364136223846793005u + 1442695040888963407u; }
+    // One of 0 to n-1, for each i another.
+    std::ptrdiff_t choose(int i, std::ptrdiff_t n) const
+    {
+        const uint64_t random = (state_ * static_cast<uint64_t>(2 * i + 1)) >> 32;
+        return static_cast<std::ptrdiff_t>(random * static_cast<uint64_t>(n) >> 32);
+    }
+
+  private:
+    uint64_t state_ = 123456789;
+};
+
+struct Pivot {
+    double value;
+    bool repeated; // in the sample: worth a part of its own
+};
+
+// How many elements a partition has moved to the front and to the end. Between them lie what is equal to the pivot.
+struct Counts {
+    std::ptrdiff_t less, greater;
+};
+
+inline void insertion_sort(double *a, std::ptrdiff_t n)
+{
+    for (std::ptrdiff_t i = 1; i < n; ++i) {
+        const double value = a[i];
+        std::ptrdiff_t j = i;
+        for (; j > 0 && value < a[j - 1]; --j) a[j] = a[j - 1];
+        a[j] = value;
+    }
+}
+
+// Returns how many are numbers.
+template <class L>
+std::ptrdiff_t move_nans_to_end(double *a, std::ptrdiff_t n)
+{
+    std::ptrdiff_t numbers = 0;
+    for (; numbers + L::width <= n; numbers += L::width) {
+        const auto v = L::load(a + numbers);
+        if (L::not_at_most(v, v) != 0) break;
+    }
+    for (std::ptrdiff_t i = numbers; i < n; ++i) {
+        const double value = a[i];
+        a[i] = a[numbers];
+        a[numbers] = value;
+        numbers += value == value;
+    }
+    return numbers;
+}
+
+// Sorts what is not a NaN, and returns how many that are. A partition moves NaNs to the end, since none is less than a
+// pivot: only the last part has any, and need be searched for them.
+template <class Kernel>
+std::ptrdiff_t quicksort(double *a, std::ptrdiff_t n)
+{
+    constexpr std::ptrdiff_t bad_fraction = 8; // a partition is bad when its smaller part is less than this
+    Positions positions;
+    PendingParts pending;
+    pending.push({0, n, patience_for(n)});
+    while (!pending.empty()) {
+        Part part = pending.pop();
+        double *const first = a + part.low;
+        const bool is_short = part.size() <= Kernel::kShort, is_hopeless = part.patience == 0;
+        Pivot pivot{};
+        if (!is_short && !is_hopeless) pivot = Kernel::choose_pivot(first, part.size(), positions);
+        const bool sort_at_once = is_short || is_hopeless || pivot.value != pivot.value;
+        if (sort_at_once && part.high == n)
+            n = part.high = part.low + move_nans_to_end<typename Kernel::Lanes>(first, part.size());
+
+        const std::ptrdiff_t size = part.size();
+        if (size <= Kernel::kShort) {
+            Kernel::sort_short(first, size);
+        } else if (is_hopeless) {
+            heap_sort(
+                size, [=](auto i, auto j) { return first[i] < first[j]; },
+                [=](auto i, auto j) {
+                    const double value = first[i];
+                    first[i] = first[j];
+                    first[j] = value;
+                });
+        } else if (sort_at_once) {
+            pending.push(part); // the pivot was a NaN: once more without
+        } else {
+            Counts counts{0, size};
+            if (!pivot.repeated) counts = Kernel::partition(first, size, pivot.value);
+            if (counts.less == 0) counts = Kernel::partition_three_ways(first, size, pivot.value);
+            const auto [less, greater] = counts;
+            if ((less > greater ? less : greater) > size - size / bad_fraction) --part.patience;
+
+            const Part below{part.low, part.low + less, part.patience},
+                above{part.high - greater, part.high, part.patience};
+            pending.push(less > greater ? below : above);
+            pending.push(less > greater ? above : below);
+        }
+    }
+    return n;
+}
+
+// Sorts what is not a NaN, moves NaNs to the end, and returns how many are not. Equal values, that is zeros of different
+// sign, come out in any order.
+template <class Kernel>
+std::ptrdiff_t sort_numbers(double *a, std::ptrdiff_t n)
+{
+    using L = typename Kernel::Lanes;
+    if (n <= Kernel::kShort) return is_one_run<L>(a, n) ? n : quicksort<Kernel>(a, n);
+    const std::ptrdiff_t sorted = merge_leading_runs<Kernel>(a, n);
+    if (sorted == n) return n;
+    const std::ptrdiff_t rest = quicksort<Kernel>(a + sorted, n - sorted);
+    if (sorted > 0 && rest > 0) merge_runs<Kernel>(a, sorted, sorted + rest);
+    return sorted + rest;
+}
+
+} // namespace
+} // namespace kor::sort
