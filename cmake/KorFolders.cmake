@@ -29,6 +29,15 @@ function(kor_library)
   endforeach()
   file(GLOB headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/include/kor/*.h")
 
+  # kor/all.h takes every chapter.
+  set(includes "")
+  foreach(header IN LISTS headers)
+    get_filename_component(name "${header}" NAME)
+    string(APPEND includes "#include <kor/${name}>\n")
+  endforeach()
+  file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/include/kor/all.h" @ONLY CONTENT
+    "/// \\file all.h\n/// Every chapter of the library.\n#ifndef KOR_ALL_H\n#define KOR_ALL_H\n\n@includes@\n#endif\n")
+
   # The export list holds the names that the public headers declare, and nothing else.
   set(exports "${PROJECT_BINARY_DIR}/korc.map")
   add_custom_command(
@@ -45,7 +54,8 @@ function(kor_library)
   set_target_properties(korc PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX LINK_DEPENDS "${exports}")
   target_include_directories(korc PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_options(korc PRIVATE
     "LINKER:--version-script=${exports}" LINKER:-Bsymbolic-functions LINKER:--as-needed)
   target_link_libraries(korc PRIVATE LAPACK::LAPACK BLAS::BLAS Threads::Threads)

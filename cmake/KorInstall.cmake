@@ -4,7 +4,8 @@ include(CMakePackageConfigHelpers)
 install(TARGETS korc EXPORT korcTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libkorc6 NAMELINK_COMPONENT libkorc-dev
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT libkorc-dev)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/" "${PROJECT_BINARY_DIR}/include/"
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT libkorc-dev)
 
 # find_package(korc): the target korc::korc.
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/korc")

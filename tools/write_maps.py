@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes what follows from the public headers: include/kor/all.h, and the table of public routines in the map of every
-source folder (src/<folder>/README.md). With --check it writes nothing, names what is out of date, and fails."""
+"""Writes the table of public routines in the map of every source folder (src/<folder>/README.md) from the \\brief lines of
+the headers. With --check it writes nothing, names what is out of date, and fails."""
 import argparse
 import os
 import re
@@ -19,8 +19,7 @@ def read(*path):
 
 
 def chapters():
-    names = sorted(name[:-2] for name in os.listdir(os.path.join(ROOT, "include", "kor")) if name.endswith(".h"))
-    return [name for name in names if name != "all"]
+    return sorted(name[:-2] for name in os.listdir(os.path.join(ROOT, "include", "kor")) if name.endswith(".h"))
 
 
 def briefs(text):
@@ -39,12 +38,6 @@ def briefs(text):
                 brief.append(line)
         found.append((prototype.group(1), " ".join(brief).replace("|", "\\|")))
     return found
-
-
-def all_header():
-    includes = "".join(f"#include <kor/{chapter}.h>\n" for chapter in chapters())
-    return ("/// \\file all.h\n/// Every chapter of the library.\n"
-            "#ifndef KOR_ALL_H\n#define KOR_ALL_H\n\n" + includes + "\n#endif\n")
 
 
 def folder_map(folder, routines):
@@ -84,11 +77,10 @@ def main():
             else:
                 faults.append(f"include/kor/{chapter}.h: {name} has no source file of its name in src/")
 
-    wanted = {os.path.join("include", "kor", "all.h"): all_header()}
     for folder in folders:
-        if rows[folder]:
-            wanted[os.path.join("src", folder, "README.md")] = folder_map(folder, rows[folder])
-    for path, text in wanted.items():
+        if not rows[folder]:
+            continue
+        path, text = os.path.join("src", folder, "README.md"), folder_map(folder, rows[folder])
         if os.path.exists(os.path.join(ROOT, path)) and read(path) == text:
             continue
         if check:
