@@ -13,7 +13,8 @@ namespace {
 constexpr double kHuge = 1.0 / kSafeSmall;
 constexpr double kIrregular = 1e-4; // where a new element would be dominated by cancellation
 
-double tolerance(double x, double y) { return std::max(std::fabs(x), std::fabs(y)) * kPrecision; }
+// Neighbouring doubles differ by up to twice the precision: with less, only equal numbers would count as equal.
+double tolerance(double x, double y) { return std::max(std::fabs(x), std::fabs(y)) * 2.0 * kPrecision; }
 
 } // namespace
 

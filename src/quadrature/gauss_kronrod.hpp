@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include <kor.h>
+
 #include "quadrature/gauss_kronrod_tables.hpp"
 #include "quadrature/rules.hpp"
 

@@ -27,7 +27,6 @@ inline double error_estimate(double difference, double resabs, double resasc)
     if (resasc != 0.0 && error != 0.0) {
         const double ratio = 200.0 * error / resasc;
         error = resasc * (ratio < 1.0 ? ratio * std::sqrt(ratio) : 1.0);
-        if (std::isnan(ratio)) error = ratio;
     }
     if (resabs > kSafeSmall / kRoundoffShare) error = std::max(kRoundoffShare * resabs, error);
     return error;

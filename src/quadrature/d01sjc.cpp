@@ -1,0 +1,11 @@
+// d01sjc: general integral over a finite range, with a pointer to the caller's data.
+#include <kor/d01.h>
+
+#include "quadrature/integrators.hpp"
+
+void d01sjc(double (*f)(double x, void *comm), double a, double b, double epsabs, double epsrel, Integer max_num_subint,
+            double *result, double *abserr, KorQuadRecord *qp, void *comm, KorError *fail)
+{
+    kor::quadrature::integrate_general({"d01sjc", fail}, [=](double x) { return f(x, comm); }, a, b,
+                                       {epsabs, epsrel, max_num_subint, result, abserr, qp});
+}
