@@ -19,6 +19,7 @@ bool is_saved_state(const Integer istate[], const double xstate[])
     constexpr double kTolerance = 4.0 * kor::kPrecision;
     const Integer sum = sum_of_pieces(istate);
     if (sum != istate[0]) return false;
+    if (!(std::fabs(xstate[0]) <= kor::kLargest)) return false;
     if (!(std::fabs(xstate[0] - check_value(sum, xstate)) <= kTolerance * std::fabs(xstate[0]))) return false;
     for (int i = kFirstPiece; i < kPieces; ++i)
         if (istate[i] < 0 || istate[i] >= kPiece) return false;

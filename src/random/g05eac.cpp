@@ -19,17 +19,17 @@ void g05eac(const double a[], Integer n, const double c[], Integer tdc, double e
     const std::int64_t size = n;
     if (lr < (size + 1) * (size + 2) / 2 + 1) return report.error<NE_INT_ARG_LT>("lr", "(n+1)*(n+2)/2+1", "lr", lr);
 
-    const kor::Count elements = kor::Count{size * (size + 1) / 2};
-    kor::Workspace<double> factor{elements}, diagonal{kor::Count{n}};
-    if (!factor || !diagonal) return report.error<NE_ALLOC_FAIL>();
-    const kor::RowMajor<const double> matrix{c, tdc};
-    double *next = factor.data();
-    for (Integer j = 0; j < n; ++j) {
-        diagonal[j] = matrix(j, j);
-        for (Integer i = j; i < n; ++i) *next++ = matrix(i, j);
-    }
-    if (!kor::random::factor_semidefinite(n, eps, factor.data(), diagonal.data()))
+    kor::Workspace<double> factor{kor::Count{size * (size + 1) / 2}};
+    if (!factor) return report.error<NE_ALLOC_FAIL>();
+    using kor::random::Factored;
+    switch (kor::random::factor_semidefinite(n, {c, tdc}, eps, factor.data())) {
+    case Factored::not_semidefinite:
         return report.error<NE_NOT_POS_SEM_DEF>("c");
+    case Factored::no_memory:
+        return report.error<NE_ALLOC_FAIL>();
+    case Factored::yes:
+        break;
+    }
 
     r[0] = n + 0.5; // truncation gives n; the half tells this vector from that of a discrete law
     std::copy(a, a + n, r + 1);

@@ -1,13 +1,17 @@
-// Cholesky factor of a positive semi-definite matrix. M. J. R. Healy, Appl. Statist. 17 (1968) 195-197 (AS 6).
+// Triangular factor of a positive semi-definite matrix, singular or not.
 #pragma once
 
 #include <kor.h>
 
+#include "frame/views.hpp"
+
 namespace kor::random {
 
-// Factors c = L L' in place. On entry and exit the lower triangle lies by columns, the first of n elements, then n - 1, ...
-// A pivot within `tolerance` times its diagonal element of 0 is taken as 0, and its column too: it must be small as
-// well. `diagonal` is that of c as it was. False when c is not positive semi-definite to this tolerance.
-bool factor_semidefinite(Integer n, double tolerance, double packed[], const double diagonal[]);
+enum class Factored { yes, not_semidefinite, no_memory };
+
+// Finds lower triangular L with c = L L' and no negative diagonal element, and packs it by columns: the first of n
+// elements, then n - 1, ... The lower triangle of c is read. What a semi-definite matrix must not have, negative
+// conditional variances and covariances without variance, may come up to `tolerance` times the variances, and up to rounding.
+Factored factor_semidefinite(Integer n, RowMajor<const double> c, double tolerance, double packed[]);
 
 } // namespace kor::random
