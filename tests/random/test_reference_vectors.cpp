@@ -96,7 +96,7 @@ TEST(DiscreteLaw, TablesOfPoissonAndBinomialAreExact)
         Integer k;
         double cumulative;
     } const poisson[] = {
-        {1.4, 0, 0.24659696394160648}, {25.0, 24, 0.47339846855634936}, {1000.0, 1000, 0.50840935716850599}};
+        {1.4, 0, 0.24659696394160648}, {25.0, 24, 0.47339846855634936}, {1000.0, 1000, 0.50840936716850599}};
     Record fail;
     for (const auto &[t, k, cumulative] : poisson) {
         Values r(static_cast<std::size_t>(20.0 * std::sqrt(t)) + 20);
