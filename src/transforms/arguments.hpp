@@ -38,9 +38,14 @@ inline bool suits_in_place(const Report &report, Integer n, InPlaceFactors &fact
     }
     factors = c06eaz(n);
     switch (factors.status) {
-    case InPlaceStatus::good: return true;
-    case InPlaceStatus::prime_too_large: report.error<NE_C06_FACTOR_GT>(); return false;
-    case InPlaceStatus::too_many_factors: report.error<NE_C06_TOO_MANY_FACTORS>(kMostInPlaceFactors); return false;
+    case InPlaceStatus::good:
+        return true;
+    case InPlaceStatus::prime_too_large:
+        report.error<NE_C06_FACTOR_GT>();
+        return false;
+    case InPlaceStatus::too_many_factors:
+        report.error<NE_C06_TOO_MANY_FACTORS>(kMostInPlaceFactors);
+        return false;
     }
     return false;
 }

@@ -9,31 +9,52 @@ struct Pair { // a complex number, or a register of them
 };
 
 template <class V>
-KOR_INLINE Pair<V> operator+(Pair<V> a, Pair<V> b) { return {a.re + b.re, a.im + b.im}; }
+KOR_INLINE Pair<V> operator+(Pair<V> a, Pair<V> b)
+{
+    return {a.re + b.re, a.im + b.im};
+}
 template <class V>
-KOR_INLINE Pair<V> operator-(Pair<V> a, Pair<V> b) { return {a.re - b.re, a.im - b.im}; }
+KOR_INLINE Pair<V> operator-(Pair<V> a, Pair<V> b)
+{
+    return {a.re - b.re, a.im - b.im};
+}
 template <class V>
-KOR_INLINE Pair<V> operator*(double s, Pair<V> a) { return {s * a.re, s * a.im}; }
+KOR_INLINE Pair<V> operator*(double s, Pair<V> a)
+{
+    return {s * a.re, s * a.im};
+}
 template <class V, class W>
-KOR_INLINE Pair<V> operator*(Pair<V> a, Pair<W> w) { return {a.re * w.re - a.im * w.im, a.re * w.im + a.im * w.re}; }
+KOR_INLINE Pair<V> operator*(Pair<V> a, Pair<W> w)
+{
+    return {a.re * w.re - a.im * w.im, a.re * w.im + a.im * w.re};
+}
 
 // a - i b and a + i b.
 template <class V>
-KOR_INLINE Pair<V> minus_i(Pair<V> a, Pair<V> b) { return {a.re + b.im, a.im - b.re}; }
+KOR_INLINE Pair<V> minus_i(Pair<V> a, Pair<V> b)
+{
+    return {a.re + b.im, a.im - b.re};
+}
 template <class V>
-KOR_INLINE Pair<V> plus_i(Pair<V> a, Pair<V> b) { return {a.re - b.im, a.im + b.re}; }
+KOR_INLINE Pair<V> plus_i(Pair<V> a, Pair<V> b)
+{
+    return {a.re - b.im, a.im + b.re};
+}
 KOR_INLINE Pair<Lanes> minus_i(Lanes a, Lanes b) { return {a, -b}; }
 KOR_INLINE Pair<Lanes> plus_i(Lanes a, Lanes b) { return {a, b}; }
 KOR_INLINE Pair<double> minus_i(double a, double b) { return {a, -b}; }
 KOR_INLINE Pair<double> plus_i(double a, double b) { return {a, b}; }
 
 template <class V>
-KOR_INLINE Pair<V> complex(Pair<V> a) { return a; }
+KOR_INLINE Pair<V> complex(Pair<V> a)
+{
+    return a;
+}
 KOR_INLINE Pair<Lanes> complex(Lanes a) { return {a, Lanes{}}; }
 KOR_INLINE Pair<double> complex(double a) { return {a, 0.0}; }
 
-inline constexpr double kHalfSqrt3 = 0.8660254037844386;   // sin(pi / 3)
-inline constexpr double kSin72 = 0.9510565162951535;       // sin(2 pi / 5)
+inline constexpr double kHalfSqrt3 = 0.8660254037844386;    // sin(pi / 3)
+inline constexpr double kSin72 = 0.9510565162951535;        // sin(2 pi / 5)
 inline constexpr double kSin36BySin72 = 0.6180339887498949; // sin(4 pi / 5) / sin(2 pi / 5)
 inline constexpr double kQuarterSqrt5 = 0.5590169943749475; // (cos(2 pi / 5) - cos(4 pi / 5)) / 2
 

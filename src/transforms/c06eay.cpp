@@ -43,7 +43,8 @@ void swap_transposed(Index size, Index stride, double *a, double *b)
     for (Index i0 = 0; i0 < size; i0 += kSquare)
         for (Index j0 = 0; j0 < size; j0 += kSquare)
             for (Index i = i0; i < std::min(i0 + kSquare, size); ++i)
-                for (Index j = j0; j < std::min(j0 + kSquare, size); ++j) std::swap(a[i * stride + j], b[j * stride + i]);
+                for (Index j = j0; j < std::min(j0 + kSquare, size); ++j)
+                    std::swap(a[i * stride + j], b[j * stride + i]);
 }
 
 void transpose_square(Index size, Index stride, double *a)
@@ -60,7 +61,7 @@ void swap_mirrored(const Dimensions &d, double *x)
 {
     if (d.mirrored == 0) return;
     const Index edge = d.size[0], stride = d.n / edge;
-    const Index inner = d.mirrored_product / edge;             // all mirrored dimensions but the outermost
+    const Index inner = d.mirrored_product / edge; // all mirrored dimensions but the outermost
     const Index middle = d.n / (d.mirrored_product * d.mirrored_product);
     for (Index first = 0; first < inner; ++first) {
         // A tile spans the outermost dimension at both ends; its partner has the inner digits exchanged.
@@ -111,8 +112,9 @@ void permute_middle(const Dimensions &d, double *x, Source source)
 {
     const Index width = d.mirrored_product, rows = d.n / (width * width);
     for (Index outer = 0; outer < width; ++outer, x += rows * width)
-        follow_cycles(rows, source,
-                      [&](Index to, Index from) { std::swap_ranges(x + to * width, x + (to + 1) * width, x + from * width); });
+        follow_cycles(rows, source, [&](Index to, Index from) {
+            std::swap_ranges(x + to * width, x + (to + 1) * width, x + from * width);
+        });
 }
 
 } // namespace
@@ -121,15 +123,13 @@ void c06eay(const Dimensions &d, double *x)
 {
     swap_mirrored(d, x);
     const int middle = d.count - 2 * d.mirrored;
-    if (middle > 1)
-        permute_middle(d, x, [&](Index row) { return reversed_digits(d.size + d.mirrored, middle, row); });
+    if (middle > 1) permute_middle(d, x, [&](Index row) { return reversed_digits(d.size + d.mirrored, middle, row); });
 }
 
 void c06eay_inverse(const Dimensions &d, double *x)
 {
     const int middle = d.count - 2 * d.mirrored;
-    if (middle > 1)
-        permute_middle(d, x, [&](Index row) { return restored_digits(d.size + d.mirrored, middle, row); });
+    if (middle > 1) permute_middle(d, x, [&](Index row) { return restored_digits(d.size + d.mirrored, middle, row); });
     swap_mirrored(d, x);
 }
 

@@ -34,8 +34,7 @@ void c06ekc(Integer Operation, Integer n, double x[], double y[], KorError *fail
     InPlaceFactors factors;
     if (!suits_in_place(report, n, factors)) return;
 
-    // With transforms scaled by n^-1/2 throughout, z = n^1/2 (x y): the factor is shared out so that y leaves with the
-    // transform of z as the library scales it.
+    // Unscaled, the transform of z is the product of the transforms of x and y.
     const Dimensions dimensions{n, factors};
     const double length = static_cast<double>(n);
     transform_in_place(dimensions, Kind::real, {x, nullptr}, 1.0);

@@ -9,8 +9,7 @@ using namespace kor::transforms;
 void c06hcc(Integer direct, Integer m, Integer n, double x[], const double trig[], KorError *fail)
 {
     const kor::Report report{"c06hcc", fail};
-    if (direct != Kor_ForwardTransform && direct != Kor_BackwardTransform)
-        return report.error<NE_BAD_PARAM>("direct");
+    if (direct != Kor_ForwardTransform && direct != Kor_BackwardTransform) return report.error<NE_BAD_PARAM>("direct");
     if (!positive(report, "m", m) || !positive(report, "n", n)) return;
     if (!table_fits(report, "n", n, "trig", trig)) return;
 

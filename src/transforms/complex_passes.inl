@@ -4,11 +4,17 @@
 struct ScaledOnly { // all 1, but the outputs take a common factor
     double scale;
     template <class V>
-    KOR_INLINE Pair<V> operator()(Index, Pair<V> y) const { return scale * y; }
+    KOR_INLINE Pair<V> operator()(Index, Pair<V> y) const
+    {
+        return scale * y;
+    }
 };
 struct NoTwiddle {
     template <class V>
-    KOR_INLINE Pair<V> operator()(Index, Pair<V> y) const { return y; }
+    KOR_INLINE Pair<V> operator()(Index, Pair<V> y) const
+    {
+        return y;
+    }
 };
 struct SameForAll { // one factor for all lanes
     const double *cosines, *sines;
@@ -65,7 +71,8 @@ KOR_INLINE void complex_butterfly(const Radix &radix, Access access, ComplexIn i
     KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
         points.x[l] = {access.load(in.re + l * in.step), access.load(in.im + l * in.step)};
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
+    {
         const Pair<V> y = twiddle(k, points.y[k]);
         access.store(out.re + k * out.step, y.re);
         access.store(out.im + k * out.step, y.im);
@@ -79,11 +86,12 @@ void complex_across_pass(const Stage &stage, Index batch, const double *in_re, c
     const Radix radix{stage};
     const Index width = stage.before * batch;
     const auto row = [&](Index j, auto twiddle) {
-        Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
-            const Index from = j * width + b, to = j * radix.radix * width + b;
-            complex_butterfly(radix, access, {in_re + from, in_im + from, stage.after * width},
-                              {out_re + to, out_im + to, width}, twiddle);
-        });
+        Radix::cover(
+            width, [&](auto access, Index b) __attribute__((always_inline)) {
+                const Index from = j * width + b, to = j * radix.radix * width + b;
+                complex_butterfly(radix, access, {in_re + from, in_im + from, stage.after * width},
+                                  {out_re + to, out_im + to, width}, twiddle);
+            });
     };
     row(0, ScaledOnly{scale});
     for (Index j = 1; j < stage.after; ++j) row(j, SameForAll{stage, j});
@@ -95,10 +103,12 @@ void complex_along_pass(const Stage &stage, const double *in_re, const double *i
     const Radix radix{stage};
     for (Index block = 0; block < stage.before; ++block) {
         const Index base = block * radix.radix * stage.after;
-        Radix::cover(stage.after, [&](auto access, Index j) __attribute__((always_inline)) {
-            const Index at = base + j;
-            complex_butterfly(radix, access, {in_re + at, in_im + at, stage.after}, {out_re + at, out_im + at, stage.after},
-                              OneForEach<decltype(access), Radix::kRootsInTable>{access, stage, j});
-        });
+        Radix::cover(
+            stage.after, [&](auto access, Index j) __attribute__((always_inline)) {
+                const Index at = base + j;
+                complex_butterfly(radix, access, {in_re + at, in_im + at, stage.after},
+                                  {out_re + at, out_im + at, stage.after},
+                                  OneForEach<decltype(access), Radix::kRootsInTable>{access, stage, j});
+            });
     }
 }

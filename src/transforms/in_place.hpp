@@ -23,10 +23,10 @@ struct Dimensions {
     Index n;
     Index size[kMost];
     int count = 0;
-    int mirrored = 0;           // dimensions at either end that are mirror images
+    int mirrored = 0; // dimensions at either end that are mirror images
     Index mirrored_product = 1;
-    int block_from = 0;         // the first dimension of the blocks
-    Index block = 1;            // their size
+    int block_from = 0; // the first dimension of the blocks
+    Index block = 1;    // their size
 };
 
 // c06eay: from the sequence to the permuted sequence; and back.

@@ -14,7 +14,10 @@ struct Fixed {
     explicit Fixed(const Stage &) {}
     static One single() { return {}; }
     template <class Body>
-    KOR_INLINE static void cover(Index count, Body body) { cover_by_registers(count, body); }
+    KOR_INLINE static void cover(Index count, Body body)
+    {
+        cover_by_registers(count, body);
+    }
 
     template <class X, class V>
     struct Points {
@@ -24,9 +27,15 @@ struct Fixed {
     };
 
     template <class Points>
-    KOR_INLINE void run(Points &points) const { Butterfly<p>::run(points.x, points.y); }
+    KOR_INLINE void run(Points &points) const
+    {
+        Butterfly<p>::run(points.x, points.y);
+    }
     template <class Points>
-    KOR_INLINE void run_to_real(Points &points) const { Butterfly<p>::run(points.x, points.y); }
+    KOR_INLINE void run_to_real(Points &points) const
+    {
+        Butterfly<p>::run(points.x, points.y);
+    }
 };
 
 // By the definition, from sums and differences of mirrored elements: quadratic in p.
@@ -45,7 +54,10 @@ struct Prime {
     }
     static Few single() { return {1}; }
     template <class Body>
-    KOR_INLINE static void cover(Index count, Body body) { cover_by_registers(count, body); }
+    KOR_INLINE static void cover(Index count, Body body)
+    {
+        cover_by_registers(count, body);
+    }
 
     template <class X, class V>
     struct Points {

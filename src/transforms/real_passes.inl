@@ -19,7 +19,8 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
     typename Radix::template Points<V, V> points{radix};
     KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] = access.load(in + l * layout.row_step);
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k <= radix.radix / 2; ++k) {
+    KOR_UNROLL for (Index k = 0; k <= radix.radix / 2; ++k)
+    {
         access.store(out + k * r * layout.long_step, scale * points.y[k].re);
         if (k > 0 && 2 * k < radix.radix)
             access.store(out + (radix.radix - k) * r * layout.long_step, scale * points.y[k].im);
@@ -33,13 +34,15 @@ KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLa
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) {
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
+    {
         const double *row = in + l * layout.row_step;
         points.x[l] = twiddle(l, Pair<V>{access.load(row + f * layout.short_step),
                                          access.load_mirrored(row + (r - f) * layout.short_step)});
     }
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
+    {
         double *const here = out + (f + r * k) * layout.long_step;
         double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
         const Pair<V> y = points.y[k];
@@ -60,10 +63,11 @@ KOR_INLINE void real_butterfly_at_half(const Radix &radix, Access access, const 
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-        points.x[l] = twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] =
+        twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k)
+    {
         access.store(out + (r / 2 + r * k) * layout.long_step, points.y[k].re);
         if (2 * k + 1 < radix.radix)
             access.store(out + (r * (radix.radix - k) - r / 2) * layout.long_step, points.y[k].im);
@@ -77,7 +81,8 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
     points.x[0] = {access.load(in), V{}};
-    KOR_UNROLL for (Index k = 1; 2 * k <= radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 1; 2 * k <= radix.radix; ++k)
+    {
         const V re = access.load(in + k * r * layout.long_step);
         if (2 * k == radix.radix) {
             points.x[k] = {re, V{}};
@@ -88,8 +93,7 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
         }
     }
     radix.run_to_real(points);
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-        access.store(out + l * layout.row_step, scale * points.y[l].re);
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) access.store(out + l * layout.row_step, scale * points.y[l].re);
 }
 
 template <class Radix, class Access, class Twiddle>
@@ -98,7 +102,8 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
+    {
         const double *const here = in + (f + r * k) * layout.long_step;
         const double *const mirror = in + (r * (radix.radix - k) - f) * layout.long_step;
         if (2 * k < radix.radix)
@@ -107,7 +112,8 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
             points.x[k] = {access.load_mirrored(mirror), -access.load(here)};
     }
     radix.run(points);
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) {
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
+    {
         const Pair<V> y = twiddle(l, points.y[l]);
         double *const row = out + l * layout.row_step;
         access.store(row + f * layout.short_step, y.re);
@@ -121,7 +127,8 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k) {
+    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k)
+    {
         const V re = access.load(in + (r / 2 + r * k) * layout.long_step);
         if (2 * k + 1 == radix.radix) {
             points.x[k] = {re, V{}};
@@ -139,20 +146,38 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
 // The two directions, for the loops that they share.
 struct RealDirection {
     template <class... Args>
-    KOR_INLINE static void at_zero(const Args &...args) { real_butterfly_at_zero(args...); }
+    KOR_INLINE static void at_zero(const Args &...args)
+    {
+        real_butterfly_at_zero(args...);
+    }
     template <class... Args>
-    KOR_INLINE static void between(const Args &...args) { real_butterfly(args...); }
+    KOR_INLINE static void between(const Args &...args)
+    {
+        real_butterfly(args...);
+    }
     template <class... Args>
-    KOR_INLINE static void at_half(const Args &...args) { real_butterfly_at_half(args...); }
+    KOR_INLINE static void at_half(const Args &...args)
+    {
+        real_butterfly_at_half(args...);
+    }
     static constexpr bool kToLong = true;
 };
 struct HermitianDirection {
     template <class... Args>
-    KOR_INLINE static void at_zero(const Args &...args) { hermitian_butterfly_at_zero(args...); }
+    KOR_INLINE static void at_zero(const Args &...args)
+    {
+        hermitian_butterfly_at_zero(args...);
+    }
     template <class... Args>
-    KOR_INLINE static void between(const Args &...args) { hermitian_butterfly(args...); }
+    KOR_INLINE static void between(const Args &...args)
+    {
+        hermitian_butterfly(args...);
+    }
     template <class... Args>
-    KOR_INLINE static void at_half(const Args &...args) { hermitian_butterfly_at_half(args...); }
+    KOR_INLINE static void at_half(const Args &...args)
+    {
+        hermitian_butterfly_at_half(args...);
+    }
     static constexpr bool kToLong = false;
 };
 
@@ -162,17 +187,20 @@ void packed_across_pass(const Stage &stage, Index batch, const double *in, doubl
     const Radix radix{stage};
     const Index width = stage.before * batch, r = stage.after;
     const PackedLayout layout{radix.radix * width, width, width};
-    Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
-        Direction::at_zero(radix, SideBySide{access}, layout, r, in + b, out + b, scale);
-    });
+    Radix::cover(
+        width, [&](auto access, Index b) __attribute__((always_inline)) {
+            Direction::at_zero(radix, SideBySide{access}, layout, r, in + b, out + b, scale);
+        });
     for (Index f = 1; 2 * f < r; ++f)
-        Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
-            Direction::between(radix, SideBySide{access}, layout, r, f, in + b, out + b, SameForAll{stage, f});
-        });
+        Radix::cover(
+            width, [&](auto access, Index b) __attribute__((always_inline)) {
+                Direction::between(radix, SideBySide{access}, layout, r, f, in + b, out + b, SameForAll{stage, f});
+            });
     if (r % 2 == 0)
-        Radix::cover(width, [&](auto access, Index b) __attribute__((always_inline)) {
-            Direction::at_half(radix, SideBySide{access}, layout, r, in + b, out + b, SameForAll{stage, r / 2});
-        });
+        Radix::cover(
+            width, [&](auto access, Index b) __attribute__((always_inline)) {
+                Direction::at_half(radix, SideBySide{access}, layout, r, in + b, out + b, SameForAll{stage, r / 2});
+            });
 }
 
 template <class Radix, class Direction>

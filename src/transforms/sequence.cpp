@@ -64,9 +64,12 @@ void pass_across(Kind kind, const Stage &stage, Index batch, Sequence in, Sequen
     // One pass has no twiddle factors anywhere: it scales.
     if (stage.after > 1) scale = 1.0;
     switch (kind) {
-    case Kind::complex: return kernel.complex_across(stage, batch, in.re, in.im, out.re, out.im, scale);
-    case Kind::real: return kernel.real_across(stage, batch, in.re, out.re, scale);
-    case Kind::hermitian: return kernel.hermitian_across(stage, batch, in.re, out.re, scale);
+    case Kind::complex:
+        return kernel.complex_across(stage, batch, in.re, in.im, out.re, out.im, scale);
+    case Kind::real:
+        return kernel.real_across(stage, batch, in.re, out.re, scale);
+    case Kind::hermitian:
+        return kernel.hermitian_across(stage, batch, in.re, out.re, scale);
     }
 }
 
@@ -74,9 +77,12 @@ void pass_along(Kind kind, const Stage &stage, Sequence in, Sequence out)
 {
     const Kernels &kernel = kernels();
     switch (kind) {
-    case Kind::complex: return kernel.complex_along(stage, in.re, in.im, out.re, out.im);
-    case Kind::real: return kernel.real_along(stage, in.re, out.re);
-    case Kind::hermitian: return kernel.hermitian_along(stage, in.re, out.re);
+    case Kind::complex:
+        return kernel.complex_along(stage, in.re, in.im, out.re, out.im);
+    case Kind::real:
+        return kernel.real_along(stage, in.re, out.re);
+    case Kind::hermitian:
+        return kernel.hermitian_along(stage, in.re, out.re);
     }
 }
 

@@ -34,7 +34,6 @@ class Plan {
     void transform_side_by_side(Index batch, Sequence in, Sequence out, double scale, double *work) const;
 
   private:
-
     Kind kind_;
     Index n_;
     Stages stages_;

@@ -34,7 +34,8 @@ struct Stage {
     Index radix;
     Index before;
     Index after;
-    const double *cosines; // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above
+    const double
+        *cosines; // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above
     const double *sines;   // kLargestFixedRadix the element j = 0 holds cos(2 pi k / radix) instead; `sines`: -sin
     PrimeTransform *prime; // for a radix too large to work out by its definition, otherwise null
 };

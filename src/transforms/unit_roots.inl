@@ -6,8 +6,12 @@
 
 // Minimax polynomials on [0, pi/4]: sin x = x + x^3 S(x^2), cos x = 1 - x^2/2 + x^4 C(x^2), errors below 2^-58 of the
 // result. By tools/octant_polynomials.sollya.
-inline constexpr double kSinePolynomial[] = {-0x1.5555555555555p-3, 0x1.111111111101ep-7, -0x1.a01a019fe884fp-13, 0x1.71de3a1033625p-19, -0x1.ae63f7f70fd6cp-26, 0x1.60e5c482721c1p-33, -0x1.8d4cdee907b3bp-41};
-inline constexpr double kCosinePolynomial[] = {0x1.5555555555555p-5, -0x1.6c16c16c16a32p-10, 0x1.a01a019fb7a9cp-16, -0x1.27e4faeeae32ep-22, 0x1.1eecd5a93e364p-29, -0x1.92a5c45922489p-37, 0x1.3447b94e2d852p-45};
+inline constexpr double kSinePolynomial[] = {-0x1.5555555555555p-3, 0x1.111111111101ep-7,   -0x1.a01a019fe884fp-13,
+                                             0x1.71de3a1033625p-19, -0x1.ae63f7f70fd6cp-26, 0x1.60e5c482721c1p-33,
+                                             -0x1.8d4cdee907b3bp-41};
+inline constexpr double kCosinePolynomial[] = {0x1.5555555555555p-5,   -0x1.6c16c16c16a32p-10, 0x1.a01a019fb7a9cp-16,
+                                               -0x1.27e4faeeae32ep-22, 0x1.1eecd5a93e364p-29,  -0x1.92a5c45922489p-37,
+                                               0x1.3447b94e2d852p-45};
 
 // pi / (4n) in three parts, so that an integer of 33 bits times either of the first two is exact.
 struct OctantUnit {
@@ -32,7 +36,10 @@ struct OctantUnit {
 };
 
 template <class Condition>
-KOR_INLINE Lanes choose(Condition condition, Lanes yes, Lanes no) { return condition ? yes : no; }
+KOR_INLINE Lanes choose(Condition condition, Lanes yes, Lanes no)
+{
+    return condition ? yes : no;
+}
 
 // `eighths` is 8t for 0 <= t < n, all of it exact.
 KOR_INLINE Pair<Lanes> unit_root(Lanes eighths, double n, const OctantUnit &unit)
