@@ -32,8 +32,8 @@ KOR_BEGIN_DECLS
 /// \par Accuracy
 /// About 1 ulp, without spurious overflow or underflow.
 /// \par Method
-/// The standard operation drotg (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323). From the BLAS library
-/// that is linked.
+/// The standard operation drotg (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323). Both numbers are
+/// scaled by a power of 2 first.
 /// \par Thread safety
 /// Safe.
 /// \par See also

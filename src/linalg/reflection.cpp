@@ -19,7 +19,8 @@ namespace kor::linalg {
 
 namespace {
 
-// Numbers below this are scaled up before their reciprocals are formed.
+// A vector shorter than this is scaled up first: its length would lose digits as a subnormal number, and reciprocals
+// would overflow.
 constexpr double kSmallLength = 0x1p-1000;
 constexpr double kScaleUp = 0x1p+200;
 
@@ -45,16 +46,17 @@ double make_reflection(Integer n, double &alpha, double *x, Integer incx, double
 {
     if (n <= 0 || negligible(n, x, incx, std::max(kPrecision * std::fabs(alpha), tol))) return 0.0;
 
-    double length = length_with(alpha, n, x, incx), size = std::fabs(alpha);
-    const double beta = -std::copysign(length, alpha);
+    const double length = length_with(alpha, n, x, incx);
     if (length < kSmallLength) {
+        alpha *= kScaleUp;
         scal(n, kScaleUp, x, incx);
-        length *= kScaleUp;
-        size *= kScaleUp;
+        const double zeta = make_reflection(n, alpha, x, incx, 0.0);
+        alpha /= kScaleUp;
+        return zeta;
     }
-    const double zeta = std::sqrt(1.0 + size / length);
+    const double zeta = std::sqrt(1.0 + std::fabs(alpha) / length);
     scal(n, std::copysign(1.0, alpha) / (zeta * length), x, incx);
-    alpha = beta;
+    alpha = -std::copysign(length, alpha);
     return zeta;
 }
 
@@ -66,17 +68,21 @@ Complex make_reflection(Integer n, Complex &alpha, Complex *x, Integer incx, dou
     }
 
     const double length = length_with(alpha, n, x, incx);
+    if (length < kSmallLength) {
+        alpha = kScaleUp * alpha;
+        scal(n, kScaleUp, x, incx);
+        const Complex theta = make_reflection(n, alpha, x, incx, 0.0);
+        alpha.re /= kScaleUp;
+        return theta;
+    }
     const double beta = -std::copysign(length, alpha.re);
     const double zeta = std::sqrt(1.0 + std::fabs(alpha.re) / length);
-    // zeta / (alpha - beta), of numbers near 1: the difference may be out of the range of reciprocals.
-    const double scale = std::isfinite(length) ? std::ldexp(1.0, -std::max(std::ilogb(length), -1021)) : 1.0;
-    const Complex difference = {scale * alpha.re - scale * beta, scale * alpha.im};
-    const double square = difference.re * difference.re + difference.im * difference.im;
-    scal(n, scale, x, incx);
-    scal(n, (zeta / square) * conj(difference), x, incx);
-    const double twist = -difference.im / difference.re;
+    // With d = (alpha - beta) / length, which is at least 1 in modulus, the vector is zeta x / (length d).
+    const Complex d = {alpha.re / length - beta / length, alpha.im / length};
+    scal(n, 1.0 / length, x, incx);
+    scal(n, (zeta / (d.re * d.re + d.im * d.im)) * conj(d), x, incx);
     alpha = {beta, 0.0};
-    return {zeta, twist};
+    return {zeta, -d.im / d.re};
 }
 
 void apply_reflection(Integer n, double zeta, const double *z, Integer incz, double &delta, double *y, Integer incy)

@@ -113,4 +113,19 @@ Rotation<Complex> rotation_of_tangent(Complex t)
     return {c, c * t};
 }
 
+Rotation<double> standard_rotation(double &a, double &b)
+{
+    if (a == 0.0 && b == 0.0) {
+        a = b = 0.0;
+        return {1.0, 0.0};
+    }
+    const double scale = scaling_of({a, b}), near_a = scale * a, near_b = scale * b;
+    const bool first_greater = std::fabs(a) > std::fabs(b);
+    const double r = std::copysign(std::sqrt(near_a * near_a + near_b * near_b), first_greater ? a : b);
+    const Rotation<double> rotation = {near_a / r, near_b / r};
+    a = r / scale;
+    b = first_greater ? rotation.s : rotation.c != 0.0 ? 1.0 / rotation.c : 1.0;
+    return rotation;
+}
+
 } // namespace kor::linalg

@@ -40,6 +40,10 @@ Rotation<T> annihilate(T &a, T &b)
     return rotation;
 }
 
+// The standard operation rotg: the rotation that takes (a, b) to (r, 0), r with the sign of the greater in modulus. a
+// becomes r, and b the number z by which the rotation can be kept: s if |a| > |b|, else 1/c, or 1 if c = 0.
+Rotation<double> standard_rotation(double &a, double &b);
+
 // Turns one pair.
 template <Scalar S, Scalar T>
 void turn(T &x, T &y, double c, S s)
