@@ -16,21 +16,33 @@ struct LanesAvx2 {
     static KOR_INLINE void store(double *p, V v) { _mm256_storeu_pd(p, v); }
     static KOR_INLINE V broadcast(double x) { return _mm256_set1_pd(x); }
 
-    // The first `count` lanes, from 0 to all.
-    static KOR_INLINE __m256i first_lanes(std::ptrdiff_t count)
-    {
-        alignas(32) static constexpr int64_t window[] = {-1, -1, -1, -1, 0, 0, 0, 0};
-        return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(window + width - count));
-    }
+    // The first `count` lanes.
+#ifdef __AVX512VL__
     static KOR_INLINE V load_some(const double *p, std::ptrdiff_t count, V fill)
     {
-        const __m256i mask = first_lanes(count);
-        return _mm256_blendv_pd(fill, _mm256_maskload_pd(p, mask), _mm256_castsi256_pd(mask));
+        return _mm256_mask_loadu_pd(fill, static_cast<__mmask8>(first(count)), p);
     }
     static KOR_INLINE void store_some(double *p, std::ptrdiff_t count, V v)
     {
-        _mm256_maskstore_pd(p, first_lanes(count), v);
+        _mm256_mask_storeu_pd(p, static_cast<__mmask8>(first(count)), v);
     }
+#else
+    static KOR_INLINE V load_some(const double *p, std::ptrdiff_t count, V fill)
+    {
+        alignas(32) static constexpr int64_t window[] = {-1, -1, -1, -1, 0, 0, 0, 0};
+        const __m256i mask = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(window + width - count));
+        return _mm256_blendv_pd(fill, _mm256_maskload_pd(p, mask), _mm256_castsi256_pd(mask));
+    }
+    // Not by a masked store: some processors need dozens of cycles for it.
+    static KOR_INLINE void store_some(double *p, std::ptrdiff_t count, V v)
+    {
+        if (count == width) return store(p, v);
+        const __m128d front = _mm256_castpd256_pd128(v);
+        if (count >= 2) _mm_storeu_pd(p, front);
+        if (count == 1) _mm_store_sd(p, front);
+        if (count == 3) _mm_store_sd(p + 2, _mm256_extractf128_pd(v, 1));
+    }
+#endif
 
     // Of equal values, and of a NaN and another, one comes out as the minimum and the other as the maximum: the
     // instructions return their second operand then.
@@ -48,6 +60,12 @@ struct LanesAvx2 {
     static KOR_INLINE unsigned unordered(V a, V b)
     {
         return static_cast<unsigned>(_mm256_movemask_pd(_mm256_cmp_pd(a, b, _CMP_UNORD_Q)));
+    }
+
+    static KOR_INLINE unsigned negative_zeros(V v)
+    {
+        const __m256i same = _mm256_cmpeq_epi64(_mm256_castpd_si256(v), _mm256_castpd_si256(broadcast(-0.0)));
+        return static_cast<unsigned>(_mm256_movemask_pd(_mm256_castsi256_pd(same)));
     }
 
     // The lanes of the mask at the front, the others at the end.

@@ -34,6 +34,11 @@ struct LanesAvx512 {
     static KOR_INLINE unsigned not_at_most(V a, V b) { return _mm512_cmp_pd_mask(a, b, _CMP_NLE_UQ); }
     static KOR_INLINE unsigned unordered(V a, V b) { return _mm512_cmp_pd_mask(a, b, _CMP_UNORD_Q); }
 
+    static KOR_INLINE unsigned negative_zeros(V v)
+    {
+        return _mm512_cmpeq_epi64_mask(_mm512_castpd_si512(v), _mm512_castpd_si512(broadcast(-0.0)));
+    }
+
     // The lanes of the mask at the front, the others at the end. A table, since the instruction that compresses is slow on
     // some processors, and would serve one side only.
     static KOR_INLINE V split(V v, unsigned mask)

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "sort/bitonic_merge.hpp"
+#include "sort/count_below.hpp"
 
 namespace kor::sort {
 namespace { // each including file compiles it for a target of its own
@@ -16,15 +17,24 @@ constexpr std::ptrdiff_t kMaxRuns = 8;
 constexpr std::ptrdiff_t kFew = 512;     // at most so many elements are merged one by one into others,
 constexpr std::ptrdiff_t kFewOfMany = 8; // if those are so many times as many
 
-// Where the run ends that begins at `from`: the first position that does not continue it. A NaN continues none.
+// Which of the lanes at i are followed by an element out of order. A NaN is in no order.
+template <class L, bool descending = false>
+inline unsigned breaks_at(const double *a, std::ptrdiff_t i)
+{
+    const auto here = L::load(a + i), next = L::load(a + i + 1);
+    return descending ? L::not_at_most(next, here) : L::not_at_most(here, next);
+}
+
+// Where the run ends that begins at `from`: the first position that does not continue it.
 template <class L, bool descending>
 std::ptrdiff_t end_of_run(const double *a, std::ptrdiff_t from, std::ptrdiff_t n)
 {
     std::ptrdiff_t i = from;
-    for (; i + L::width < n; i += L::width) {
-        const auto here = L::load(a + i), next = L::load(a + i + 1);
-        const unsigned breaks = descending ? L::not_at_most(next, here) : L::not_at_most(here, next);
-        if (breaks != 0) return i + 1 + std::countr_zero(breaks);
+    for (; i + L::width < n; i += L::width)
+        if (const unsigned breaks = breaks_at<L, descending>(a, i)) return i + 1 + std::countr_zero(breaks);
+    if (n - from > L::width) { // the last few, with some before them once more
+        const unsigned breaks = breaks_at<L, descending>(a, n - 1 - L::width);
+        return breaks != 0 ? n - L::width + std::countr_zero(breaks) : n;
     }
     for (; i + 1 < n; ++i)
         if (!(descending ? a[i + 1] <= a[i] : a[i] <= a[i + 1])) break;
@@ -45,30 +55,6 @@ void reverse(double *a, std::ptrdiff_t n)
         a[i] = a[j];
         a[j] = value;
     }
-}
-
-// Whether a has n elements in order; if they are in reverse order they are turned round.
-template <class L>
-bool is_one_run(double *a, std::ptrdiff_t n)
-{
-    if (end_of_run<L, false>(a, 0, n) >= n) return true;
-    if (end_of_run<L, true>(a, 0, n) < n) return false;
-    reverse<L>(a, n);
-    return true;
-}
-
-// How many of n ascending elements are less than the value, or not greater than it.
-template <bool or_equal>
-std::ptrdiff_t count_below(const double *a, std::ptrdiff_t n, double value)
-{
-    std::ptrdiff_t low = 0;
-    while (n > 0) {
-        const std::ptrdiff_t half = n / 2;
-        const bool is_below = or_equal ? a[low + half] <= value : a[low + half] < value;
-        low = is_below ? low + half + 1 : low;
-        n = is_below ? n - half - 1 : half;
-    }
-    return low;
 }
 
 inline void move(double *to, const double *from, std::ptrdiff_t n)

@@ -1,7 +1,7 @@
 // The sort of doubles, for any kernel: runs are merged, all else is sorted by quicksort, safeguarded by heapsort.
 //
 // A `Kernel` is what depends on the instruction set:
-//   Lanes                        a vector of doubles: V, width, load, store, min, max, reverse, not_at_most
+//   Lanes                        a vector of doubles: V, width, load, store, min, max, reverse, not_at_most, negative_zeros
 //   kShort, sort_short(a, n)     sorts up to kShort numbers
 //   kBitonicBlock, sort_bitonic_block(a)   sorts so many numbers that are a bitonic sequence
 //   choose_pivot(a, n, positions)
@@ -13,9 +13,11 @@
 // D. R. Musser, Introspective sorting and selection algorithms, Softw. Pract. Exper. 27 (1997) 983-993.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
+#include "sort/count_below.hpp"
 #include "sort/heap_sort.hpp"
 #include "sort/natural_runs.hpp"
 #include "sort/pending_parts.hpp"
@@ -48,12 +50,31 @@ struct Counts {
     std::ptrdiff_t less, greater;
 };
 
-inline void insertion_sort(double *a, std::ptrdiff_t n)
+inline std::ptrdiff_t count_negative_zeros(const double *a, std::ptrdiff_t n)
 {
-    for (std::ptrdiff_t i = 1; i < n; ++i) {
+    std::ptrdiff_t count = 0;
+    for (std::ptrdiff_t i = 0; i < n; ++i) count += std::bit_cast<uint64_t>(a[i]) == std::bit_cast<uint64_t>(-0.0);
+    return count;
+}
+
+template <class L>
+bool any_negative_zero(const double *a, std::ptrdiff_t n)
+{
+    std::ptrdiff_t i = 0;
+    unsigned found = 0;
+    for (; i + L::width <= n; i += L::width) found |= L::negative_zeros(L::load(a + i));
+    return found != 0 || count_negative_zeros(a + i, n - i) > 0;
+}
+
+// Of n elements those before `sorted` are in order.
+inline void insertion_sort(double *a, std::ptrdiff_t n, std::ptrdiff_t sorted = 1)
+{
+    for (std::ptrdiff_t i = sorted; i < n; ++i) {
         const double value = a[i];
+        if (!(value < a[i - 1])) continue;
         std::ptrdiff_t j = i;
-        for (; j > 0 && value < a[j - 1]; --j) a[j] = a[j - 1];
+        do a[j] = a[j - 1];
+        while (--j > 0 && value < a[j - 1]);
         a[j] = value;
     }
 }
@@ -124,18 +145,55 @@ std::ptrdiff_t quicksort(double *a, std::ptrdiff_t n)
     return n;
 }
 
-// Sorts what is not a NaN, moves NaNs to the end, and returns how many are not. Equal values, that is zeros of different
-// sign, come out in any order.
+// n zeros, so many of them negative, the negative ones first.
+inline void write_zeros(double *a, std::ptrdiff_t n, std::ptrdiff_t negative)
+{
+    for (std::ptrdiff_t i = 0; i < n; ++i) a[i] = i < negative ? -0.0 : 0.0;
+}
+
+// Comparisons do not tell the zeros apart: this does, in n ascending elements.
+inline void order_zeros(double *a, std::ptrdiff_t n)
+{
+    if (n == 0 || a[0] > 0.0 || a[n - 1] < 0.0) return;
+    double *const zeros = a + count_below<false>(a, n, 0.0);
+    const std::ptrdiff_t count = count_below<true>(zeros, a + n - zeros, 0.0);
+    const std::ptrdiff_t negative = count_negative_zeros(zeros, count);
+    if (negative > 0 && negative < count) write_zeros(zeros, count, negative);
+}
+
+// Sorts what is not a NaN, moves NaNs to the end, and returns how many are not: of few elements.
+template <class Kernel>
+std::ptrdiff_t sort_few_numbers(double *a, std::ptrdiff_t n)
+{
+    using L = typename Kernel::Lanes;
+    constexpr std::ptrdiff_t fewest = 24; // two runs of so many are merged by insertion as quickly as by anything else
+    n = move_nans_to_end<L>(a, n);
+    const std::ptrdiff_t run = end_of_run<L, false>(a, 0, n);
+    if (run < n) {
+        if (n <= fewest && end_of_run<L, false>(a, run, n) == n)
+            insertion_sort(a, n, run);
+        else if (end_of_run<L, true>(a, 0, n) == n)
+            reverse<L>(a, n);
+        else
+            Kernel::sort_short(a, n);
+    }
+    if (any_negative_zero<L>(a, n)) order_zeros(a, n);
+    return n;
+}
+
+// Sorts what is not a NaN, moves NaNs to the end, and returns how many are not: of any number of elements.
 template <class Kernel>
 std::ptrdiff_t sort_numbers(double *a, std::ptrdiff_t n)
 {
-    using L = typename Kernel::Lanes;
-    if (n <= Kernel::kShort) return is_one_run<L>(a, n) ? n : quicksort<Kernel>(a, n);
-    const std::ptrdiff_t sorted = merge_leading_runs<Kernel>(a, n);
-    if (sorted == n) return n;
-    const std::ptrdiff_t rest = quicksort<Kernel>(a + sorted, n - sorted);
-    if (sorted > 0 && rest > 0) merge_runs<Kernel>(a, sorted, sorted + rest);
-    return sorted + rest;
+    if (n <= Kernel::kShort / 2) return sort_few_numbers<Kernel>(a, n);
+    std::ptrdiff_t numbers = merge_leading_runs<Kernel>(a, n);
+    if (numbers < n) {
+        const std::ptrdiff_t sorted = numbers, rest = quicksort<Kernel>(a + sorted, n - sorted);
+        numbers += rest;
+        if (sorted > 0 && rest > 0) merge_runs<Kernel>(a, sorted, numbers);
+    }
+    order_zeros(a, numbers);
+    return numbers;
 }
 
 } // namespace

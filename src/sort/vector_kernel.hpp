@@ -263,13 +263,6 @@ Counts partition_vectors(double *const a, const std::ptrdiff_t n, const double p
     return {left - a, a + n - right};
 }
 
-inline std::ptrdiff_t count_negative_zeros(const double *a, std::ptrdiff_t n)
-{
-    std::ptrdiff_t count = 0;
-    for (std::ptrdiff_t i = 0; i < n; ++i) count += std::bit_cast<uint64_t>(a[i]) == std::bit_cast<uint64_t>(-0.0);
-    return count;
-}
-
 // ---- The kernel --------------------------------------------------------------------------------------------------------
 
 // Median of a sample, one element of each of so many stretches of equal length.
@@ -340,10 +333,11 @@ struct VectorKernel {
         // All that is equal is alike, except for the signs of zeros.
         const std::ptrdiff_t negative = pivot == 0.0 ? count_negative_zeros(a, n) : 0;
         const Counts counts = partition_vectors<L, true>(a, n, pivot);
-        const std::ptrdiff_t stop = n - counts.greater;
-        std::ptrdiff_t i = counts.less;
-        for (; i < counts.less + negative; ++i) a[i] = -0.0;
-        for (; i < stop; ++i) a[i] = pivot == 0.0 ? 0.0 : pivot;
+        const std::ptrdiff_t equal = n - counts.less - counts.greater;
+        if (pivot == 0.0)
+            write_zeros(a + counts.less, equal, negative);
+        else
+            for (double *p = a + counts.less; p < a + counts.less + equal; ++p) *p = pivot;
         return counts;
     }
 };

@@ -67,7 +67,8 @@ TEST(SortDoubles, NansComeLastInEitherOrderAndNoneIsLost)
                 for (int i = 0; i < n; ++i) {
                     const bool is_nan = std::uniform_real_distribution<>{}(random) < share;
                     // NaNs of both signs, each with a payload of its own.
-                    const uint64_t nan = static_cast<uint64_t>(random() & 1) << 63 | 0x7ff8000000000000u | static_cast<uint64_t>(i);
+                    const uint64_t nan =
+                        static_cast<uint64_t>(random() & 1) << 63 | 0x7ff8000000000000u | static_cast<uint64_t>(i);
                     values.push_back(is_nan ? std::bit_cast<double>(nan) : std::ldexp(random() * 1.0, -16) - 30000.0);
                 }
                 std::vector<double> result = sorted_by_m01cac(values, order);

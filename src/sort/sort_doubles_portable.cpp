@@ -3,6 +3,7 @@
 #include "sort/sort_doubles.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kor::sort {
 
@@ -19,6 +20,7 @@ struct OneLane {
     static V max(V a, V b) { return a < b ? b : a; }
     static V reverse(V v) { return v; }
     static unsigned not_at_most(V a, V b) { return !(a <= b); }
+    static unsigned negative_zeros(V v) { return v == 0.0 && std::signbit(v); }
 };
 
 double median(double x, double y, double z) { return std::max(std::min(x, y), std::min(std::max(x, y), z)); }
@@ -73,6 +75,6 @@ struct PortableKernel {
 
 } // namespace
 
-std::ptrdiff_t sort_numbers_portable(double *a, std::ptrdiff_t n) { return sort_numbers<PortableKernel>(a, n); }
+std::ptrdiff_t sort_doubles_portable(double *a, std::ptrdiff_t n) { return sort_numbers<PortableKernel>(a, n); }
 
 } // namespace kor::sort
