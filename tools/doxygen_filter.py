@@ -1,7 +1,11 @@
 #!/usr/bin/env python3
-"""Prints a header as Doxygen shall see it: the lists of kor.h written out, every error code and every enumerator with its
-value; macros that only serve the headers left out; formulas as plain text, which reads the same on the site and in a
-terminal; code spans that run over the end of a line on one line, so that a star in them opens no list."""
+"""Prints a header as Doxygen shall see it:
+
+- the lists of kor.h written out, every error code and every enumerator with its value;
+- macros that only serve the headers left out;
+- formulas as plain text, which reads the same on the site and in a terminal;
+- error keys as links into their index;
+- code spans that run over the end of a line on one line, so that a star in them opens no list."""
 import os
 import re
 import sys
@@ -58,6 +62,13 @@ def plain_formula(match):
     return f"<tt>{text.strip()}</tt>"
 
 
+def linked_keys(text):
+    """The keys in front of the causes in the lists of errors."""
+    def linked(item):
+        return re.sub(r"\bN[EW]_[A-Z0-9_]+\b", lambda key: f'\\ref error_{key.group()} "{key.group()}"', item.group())
+    return re.sub(r"^/// - N[EW]_[^:\n]*:", linked, text, flags=re.M)
+
+
 def whole_code_spans(text):
     lines = []
     for line in text.split("\n"):
@@ -72,7 +83,7 @@ def main():
     with open(sys.argv[1], encoding="utf-8") as file:
         text = file.read()
     for step in (lambda t: LIST.sub(expanded, t), lambda t: PRIVATE_MACRO.sub("", t), lambda t: FORMULA.sub(plain_formula, t),
-                 whole_code_spans):
+                 linked_keys, whole_code_spans):
         text = step(text)
     sys.stdout.write(text)
 
