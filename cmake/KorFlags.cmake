@@ -15,7 +15,8 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g1 -DNDEBUG -fvect-cost-model=dynamic")
 set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
 
 if(KOR_SANITIZE)
-  add_compile_options(-fsanitize=${KOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  # Line numbers are all that the reports need of the debug information, and the rest takes long to compile.
+  add_compile_options(-fsanitize=${KOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all -g1)
   add_link_options(-fsanitize=${KOR_SANITIZE})
   add_compile_definitions(KOR_SANITIZED=1)
 endif()
