@@ -16,7 +16,7 @@ double sine_integral(double x)
 {
     using namespace kor::special;
     if (x < kSeriesUpTo) return (tables::kSiSlope(x * x) * x).rounded();
-    if (x < kAuxiliaryFrom) return tables::kSi(x);
+    if (x < kAuxiliaryFrom) return tables::kSi(x).rounded();
     if (x > kAuxiliaryUpTo) return kHalfPi;
     const auto [f, g] = scaled_auxiliary(x);
     return kHalfPi - ((f.hi * std::cos(x) + g.hi * std::sin(x) / x) / x - kHalfPiLow);

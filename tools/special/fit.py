@@ -182,10 +182,9 @@ def pieces(name, type_text, f, intervals, tolerance, comment, scale=None, centre
             f"inline constexpr {type_text.format(count=len(rows), terms=n - 1)} {name} = {{{{{{\n" + ",\n".join(rows) + "}}};\n")
 
 
-def header(path, purpose, script, parts, includes=()):
-    more = "".join(f"#include \"{name}\"\n" for name in includes)
+def header(path, purpose, script, parts):
     text = (f"// {purpose}\n// Made by tools/special/{script}: do not edit.\n#pragma once\n\n"
-            f"#include \"special/evaluate.hpp\"\n{more}\n"
+            f"#include \"special/evaluate.hpp\"\n\n"
             "// clang-format off\nnamespace kor::special::tables {\n\n" + "\n".join(parts) + "\n} // namespace kor::special::tables\n")
     with open(path, "w") as f:
         f.write(text)

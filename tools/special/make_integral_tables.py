@@ -2,7 +2,6 @@
 """Writes src/special/integral_tables.hpp: exponential, cosine and sine integral."""
 import os
 from fit import *
-import piecewise
 
 OUT = os.path.join(os.path.dirname(__file__), "../../src/special/integral_tables.hpp")
 TIGHT = mpf(2) ** -57
@@ -56,23 +55,31 @@ def si_slope(u):
     return mp.si(x) / x if u else mpf(1)
 
 
-def integral_series(value, waves):
-    """Taylor series of a function with derivative wave(x) / x; `waves`: the derivatives of the wave at the centre."""
-    def at(centre):
-        cycle = waves(centre)
-        series, quotient, factorial = [value(centre)], mpf(0), mpf(1)
-        for k in range(piecewise.SERIES - 1):
-            if k:
-                factorial *= k
-            quotient = (cycle[k % 4] / factorial - quotient) / centre
-            series.append(quotient / (k + 1))
-        return series
-    return at
+# Ci changes sign at these points; the k-th serves from 3 k - 1 on. What is left without the zero is near constant.
+CI_ZEROS = [mp.findroot(mp.ci, x) for x in (0.6, 3.4, 6.4, 9.5, 12.6, 15.7)]
 
 
-ci_series = integral_series(mp.ci, lambda x: [mp.cos(x), -mp.sin(x), -mp.cos(x), mp.sin(x)])
-si_series = integral_series(mp.si, lambda x: [mp.sin(x), mp.cos(x), -mp.sin(x), -mp.cos(x)])
-ci_zeros = [(mp.findroot(mp.ci, x), True) for x in (0.6, 3.4, 6.4, 9.5, 12.6, 15.7)]
+def ci_pieces():
+    zero = None
+
+    def factor(x):
+        return mp.ci(x) / (x - zero)
+
+    rows, worst = [], mpf(0)
+    intervals = list(grid(mpf("0.5"), 16, 4))
+    terms = 0
+    for final in (False, True):
+        for a, b in intervals:
+            zero, centre = CI_ZEROS[int((a + 1) / 3)], (a + b) / 2
+            if not final:
+                terms = max(terms, len(fit(factor, a, b, TIGHT, centre)))
+            else:
+                head, tail = rounded(fit_terms(factor, a, b, terms, centre), 1)
+                worst = max(worst, table_error(factor, a, b, head, tail, centre, None, 39))
+                rows.append("    {" + pair(head[0]) + ",\n     {" + lines([number(v) for v in tail], 6).lstrip() + "}}")
+    return (f"// Ci(x) / (x - zero) on [1/2, 16), pieces of width 1/4; error {mp.nstr(worst, 2)}\n"
+            f"inline constexpr UniformPieces<0.5, 4, {len(rows)}, {terms - 1}> kCiFactor = {{{{{{\n" + ",\n".join(rows) + "}}};\n")
+
 
 parts = [
     near_constant("kE1LessLog", e1_less_log, 0, mpf("0.25"), mpf(2) ** -56, "E1(x) + ln x, x <= 1/4"),
@@ -82,12 +89,11 @@ parts = [
     pair_constant("kEuler", mp.euler, "Euler's constant"),
     array("kCiSeries", fit(ci_less_log, 0, mpf("0.25"), mpf(2) ** -56),
           "(Ci(x) - ln x - euler) / x^2 in x^2, x <= 1/2"),
-    piecewise.print_pieces("kCi", "Ci on [1/2, 16), zeros at the centres of their pieces",
-                           piecewise.tile(ci_series, 0.5, 16, ci_zeros)),
+    pair_array("kCiZeros", [double_double(z) for z in CI_ZEROS], "zeros of Ci"),
+    ci_pieces(),
     near_constant("kSiSlope", si_slope, 0, mpf("1.0001"), TIGHT, "Si(x) / x in x^2, x <= 1"),
-    piecewise.print_pieces("kSi", "Si on [1, 16)", piecewise.tile(si_series, 1, 16)),
+    pieces("kSi", "UniformPieces<1.0, 4, {count}, {terms}>", mp.si, grid(1, 16, 4), TIGHT, "Si on [1, 16), pieces of width 1/4"),
     near_constant("kAuxiliaryF", f_tail, 0, mpf(1) / 256, TIGHT, "x f(x) in 1/x^2, x >= 16"),
     near_constant("kAuxiliaryG", g_tail, 0, mpf(1) / 256, TIGHT, "x^2 g(x) in 1/x^2, x >= 16"),
 ]
-header(OUT, "Tables of the exponential, cosine and sine integrals.", "make_integral_tables.py", parts,
-       ["special/piecewise.hpp"])
+header(OUT, "Tables of the exponential, cosine and sine integrals.", "make_integral_tables.py", parts)
