@@ -54,14 +54,18 @@ KOR_INLINE Exponential extended_exp(DoubleDouble x)
     return {fast_two_sum(power.hi, power.lo + power.hi * growth), n.count >> 6};
 }
 
-// ln(x), x positive and normal; accurate relative to ln(x) also next to 1, where x.lo may be anything small.
+// ln(x), x positive and finite; accurate relative to ln(x) also next to 1, where x.lo may be anything small.
 KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
 {
     using namespace tables;
     constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // 45/64
+    constexpr int kSubnormalShift = 54;
+    const bool subnormal = x.hi < 0x1p-1022;
+    if (subnormal) [[unlikely]]
+        x = x.scaled(0x1p54);
     const std::uint64_t bits = std::bit_cast<std::uint64_t>(x.hi);
     const std::uint64_t offset = bits - kFirstCell;
-    const int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
+    int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
     const LogCell &cell = kLogCells[(offset >> 45) % 128];
 
     // x = 2^exponent m, and m factor = 1 + r1 + r2 where r1 has so few bits that its square is exact. |r2| is below
@@ -75,6 +79,8 @@ KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
     const double exact_r2 = (m - m_hi) * cell.factor;
     const DoubleDouble r2 = two_sum(exact_r2, times_power_of_two(x.lo, -exponent) * cell.factor);
     const double r = r1 + r2.hi;
+    if (subnormal) [[unlikely]]
+        exponent -= kSubnormalShift;
 
     // ln(1 + r) = r1 - r1^2/2 + r2 - r1 r2 - r2^2/2 + r^3 (...), the first three joined exactly.
     const double high = exponent * kLn2High + cell.log_hi + r1; // exact

@@ -7,7 +7,10 @@ namespace kor::special {
 
 class LimitText {
   public:
-    explicit LimitText(double limit, const char *format = "%7.1g") { std::snprintf(text_, sizeof text_, format, limit); }
+    explicit LimitText(double limit, const char *format = "%7.1g")
+    {
+        std::snprintf(text_, sizeof text_, format, limit);
+    }
     operator const char *() const { return text_; }
 
   private:

@@ -16,10 +16,7 @@ constexpr double kZeroBeyond = 708.3;
 double exponential_integral(double x)
 {
     using namespace kor::special;
-    if (x < kLogarithmBelow) {
-        if (x < 0x1p-1022) return -std::log(x) - tables::kEuler.hi; // the extended logarithm wants normal numbers
-        return (tables::kE1LessLog(x) - extended_log({x})).rounded();
-    }
+    if (x < kLogarithmBelow) return (tables::kE1LessLog(x) - extended_log({x})).rounded();
     const Exponential e = extended_exp({-x});
     const DoubleDouble value = x < kTailFrom ? e.value * tables::kScaledE1(x) : e.value * tables::kE1Tail(1.0 / x) / x;
     return times_power_of_two(value.rounded(), e.exponent);

@@ -14,8 +14,7 @@ constexpr double kLogarithmBelow = 0.5;
 double cosine_integral(double x)
 {
     using namespace kor::special;
-    if (x < 0x1p-500)
-        return std::log(x) + tables::kEuler.hi; // x^2 vanishes; the extended logarithm wants normal numbers
+    return std::log(x) + tables::kEuler.hi; // x^2 vanishes; the extended logarithm wants normal numbers
     if (x < kLogarithmBelow) {
         const double square = x * x;
         return (extended_log({x}) + (tables::kEuler + square * polynomial(tables::kCiSeries, square))).rounded();

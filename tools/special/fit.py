@@ -182,9 +182,11 @@ def pieces(name, type_text, f, intervals, tolerance, comment, scale=None, centre
             f"inline constexpr {type_text.format(count=len(rows), terms=n - 1)} {name} = {{{{{{\n" + ",\n".join(rows) + "}}};\n")
 
 
-def header(path, purpose, script, parts):
+def header(path, purpose, script, parts, system=()):
+    """Writes the header `path`; `system`: standard headers that it needs beside evaluate.hpp."""
+    standard = "".join(f"#include <{name}>\n" for name in system) + ("\n" if system else "")
     text = (f"// {purpose}\n// Made by tools/special/{script}: do not edit.\n#pragma once\n\n"
-            f"#include \"special/evaluate.hpp\"\n\n"
+            f"{standard}#include \"special/evaluate.hpp\"\n\n"
             "// clang-format off\nnamespace kor::special::tables {\n\n" + "\n".join(parts) + "\n} // namespace kor::special::tables\n")
     with open(path, "w") as f:
         f.write(text)

@@ -5,6 +5,7 @@
 
 #include <boost/math/distributions/normal.hpp>
 #include <boost/math/special_functions.hpp>
+#include <boost/math/special_functions/gamma.hpp>
 #include <gsl/gsl_cdf.h>
 #include <gsl/gsl_errno.h>
 #include <gsl/gsl_sf.h>
@@ -135,12 +136,105 @@ void polygamma(arb_t y, const arb_t x, slong precision)
     arb_clear(order);
 }
 
+constexpr slong kBits = 200;
+
+// Q(a, x) for x > a, P(a, x) otherwise: P by its power series, all terms positive.
+void smaller_incomplete_gamma(arb_t y, const arb_t a, const arb_t x, bool upper)
+{
+    if (upper) {
+        arb_hypgeom_gamma_upper(y, a, x, 1, kBits);
+        return;
+    }
+    arb_t term, sum, n;
+    arb_init(term), arb_init(sum), arb_init(n);
+    arb_one(term), arb_one(sum), arb_set(n, a);
+    do {
+        arb_add_ui(n, n, 1, kBits);
+        arb_mul(term, term, x, kBits);
+        arb_div(term, term, n, kBits);
+        arb_add(sum, sum, term, kBits);
+    } while (arf_get_d(arb_midref(term), ARF_RND_NEAR) > 1e-40);
+    arb_log(term, x, kBits);
+    arb_mul(term, term, a, kBits);
+    arb_sub(term, term, x, kBits);
+    arb_add_ui(n, a, 1, kBits);
+    arb_lgamma(n, n, kBits);
+    arb_sub(term, term, n, kBits);
+    arb_exp(term, term, kBits);
+    arb_mul(y, sum, term, kBits);
+    arb_clear(term), arb_clear(sum), arb_clear(n);
+}
+
+// The incomplete gamma functions at random points of several regions of the quarter plane.
+void run_incomplete_gamma(long count)
+{
+    struct Region {
+        const char *name;
+        double a_from, a_to;
+        bool near; // x near a, or anywhere from 1e-3 to 1e3 times max(a, 1)
+    };
+    const Region regions[] = {{"a < 1", 1e-3, 1, false},       {"a tiny", 1e-300, 1e-3, false},
+                              {"1..16", 1, 16, false},         {"16..1e3 far", 16, 1e3, false},
+                              {"1..16 near", 1, 16, true},     {"16..1e3 near", 16, 1e3, true},
+                              {"to 1e6 near", 1e3, 1e6, true}, {"to 1e8 near", 1e6, 1e8, true}};
+    std::mt19937_64 random{99};
+    std::uniform_real_distribution<double> uniform{0, 1};
+    std::normal_distribution<double> normal;
+    arb_t a, x, y;
+    arb_init(a), arb_init(x), arb_init(y);
+    for (const Region &r : regions) {
+        sweep::Worst kor_small, kor_large, boost_small;
+        double at_a = 0;
+        long points = 0;
+        for (long k = 0; k < count; ++k) {
+            const double ad = std::exp(std::log(r.a_from) + (std::log(r.a_to) - std::log(r.a_from)) * uniform(random));
+            const double xd = r.near ? ad + std::sqrt(ad) * normal(random) * 8
+                                     : std::max(ad, 1.0) * std::exp((uniform(random) - 0.5) * 13);
+            if (xd <= 0) continue;
+            arb_set_d(a, ad);
+            arb_set_d(x, xd);
+            double p, q;
+            KorError fail{};
+            s14bac(ad, xd, 0, &p, &q, &fail);
+            for (const bool upper : {false, true}) {
+                if (upper != (xd > ad)) { // the larger one, from the smaller one
+                    smaller_incomplete_gamma(y, a, x, !upper);
+                    arb_sub_ui(y, y, 1, kBits);
+                    arb_neg(y, y);
+                } else {
+                    smaller_incomplete_gamma(y, a, x, upper);
+                }
+                const double exact = arf_get_d(arb_midref(y), ARF_RND_NEAR);
+                if (exact < 1e-300) continue;
+                const double e = std::fabs((upper ? q : p) - exact) / sweep::ulp_of(exact);
+                const double b =
+                    upper ? boost::math::gamma_q(ad, xd, Policy{}) : boost::math::gamma_p(ad, xd, Policy{});
+                ++points;
+                sweep::Worst &w = exact < 0.5 ? kor_small : kor_large;
+                if (e > w.error && exact < 0.5) at_a = ad;
+                w.add(e, xd);
+                if (exact < 0.5) boost_small.add(std::fabs(b - exact) / sweep::ulp_of(exact), xd);
+            }
+        }
+        std::printf("s14bac %-14s %ld values: smaller %.2f ulp at a=%.17g x=%.17g mean %.2f; larger %.2f; boost "
+                    "smaller %.3g mean %.3g\n",
+                    r.name, points, kor_small.error, at_a, kor_small.at, 2 * kor_small.sum / points, kor_large.error,
+                    boost_small.error, 2 * boost_small.sum / points);
+        std::fflush(stdout);
+    }
+    arb_clear(a), arb_clear(x), arb_clear(y);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     if (argc > 1 && !std::strcmp(argv[1], "extended")) {
         run_extended();
+        return 0;
+    }
+    if (argc > 1 && !std::strcmp(argv[1], "incomplete")) {
+        run_incomplete_gamma(argc > 2 ? std::atol(argv[2]) : 5000);
         return 0;
     }
     gsl_set_error_handler_off();
