@@ -17,6 +17,7 @@
 #include <kor/s13.h>
 #include <kor/s14.h>
 #include <kor/s15.h>
+#include <kor/s20.h>
 
 #include "special/elementary.hpp"
 
@@ -135,6 +136,9 @@ void polygamma(arb_t y, const arb_t x, slong precision)
     acb_clear(z);
     arb_clear(order);
 }
+
+void fresnel_sine(arb_t y, const arb_t x, slong precision) { arb_hypgeom_fresnel(y, nullptr, x, 1, precision); }
+void fresnel_cosine(arb_t y, const arb_t x, slong precision) { arb_hypgeom_fresnel(nullptr, y, x, 1, precision); }
 
 constexpr slong kBits = 200;
 
@@ -387,6 +391,8 @@ int main(int argc, char **argv)
          {{"libm", [](double x) { return std::erf(x); }},
           {"gsl", gsl_sf_erf},
           {"boost", [&](double x) { return boost::math::erf(x, p); }}}},
+        {"s20acc", s20acc, fresnel_sine, {{1e-100, 0.5, true}, {-8, 8}, {4, 1000}, {4, 1e16, true}}, {0.5, 4, 1e16}},
+        {"s20adc", s20adc, fresnel_cosine, {{1e-300, 0.5, true}, {-8, 8}, {4, 1000}, {4, 1e16, true}}, {0.5, 4, 1e16}},
     };
     return sweep::main_of(subjects, argc, argv);
 }
