@@ -721,6 +721,330 @@ void d01ssc(double (*f)(double x, void *comm), double a, double omega, Integer w
             Integer max_num_subint, double epsabs, double *result, double *abserr, KorQuadIntervalRecord *qp,
             void *comm, KorError *fail);
 
+/// \brief The integral of a function by a Gaussian rule.
+///
+/// The families:
+/// - Kor_Legendre: over (a, b); exact for polynomials of degree 2 npts - 1.
+/// - Kor_Rational: over (a, infinity) if a + b > 0, over (-infinity, a) if a + b < 0; exact for sums of powers 1/(x + b)^i, i = 2
+///   to 2 npts + 1.
+/// - Kor_Laguerre: over (a, infinity) if b > 0, over (-infinity, a) if b < 0; exact for exp(-b x) times polynomials of degree
+///   2 npts - 1.
+/// - Kor_Hermite: over the whole line, b > 0; exact for exp(-b (x - a)^2) times polynomials of degree 2 npts - 1.
+///
+/// f is the whole integrand: the weight function of the family is part of it.
+///
+/// \param[in]  quadrule the family: Kor_Legendre, Kor_Rational, Kor_Laguerre or Kor_Hermite
+/// \param[in]  f      the function; called on this thread only
+/// \param[in]  a      first parameter of the range
+/// \param[in]  b      second parameter of the range
+/// \param[in]  npts   number of points, at least 1; stored are 1, 2, 3, 4, 5, 6, 8, 10, 12, 14, 16, 20, 24, 32, 48 and 64, and the next
+///                    smaller of them is taken
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the integral; 0 after an error other than NE_QUAD_GAUSS_NPTS_RULE and NE_QUAD_GAUSS_LAG_HER_WTS
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `quadrule` is none of the four.
+/// - NE_INT_ARG_LT: `npts` is less than 1.
+/// - NE_QUAD_GAUSS_CONS: a + b = 0 (rational), b = 0 (Laguerre) or b <= 0 (Hermite).
+/// - NE_QUAD_GAUSS_NPTS_RULE: a rule with `npts` points is not stored; the value is that of the next smaller one.
+/// - NE_QUAD_GAUSS_LAG_HER_WTS: weights underflow, and their terms are left out; the value stands.
+/// \par Accuracy
+/// Nodes and weights are right to the last bits; how well the rule fits f is for the caller to judge: compare two orders.
+/// \par Method
+/// P. J. Davis and P. Rabinowitz, Methods of Numerical Integration, Academic Press 1984, chapters 2.7 and 3.6.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static double f(double x) { return exp(-x) * cos(x); }
+/// ...
+/// double integral = d01bac(Kor_Laguerre, f, 0.0, 1.0, 24, &fail);   // 0.5
+/// \endcode
+double d01bac(Integer quadrule, double (*f)(double x), double a, double b, Integer npts, KorError *fail);
+
+/// \brief The integral of a function by a Gaussian rule, with a pointer to the caller's data.
+///
+/// The families:
+/// - Kor_Legendre: over (a, b); exact for polynomials of degree 2 npts - 1.
+/// - Kor_Rational: over (a, infinity) if a + b > 0, over (-infinity, a) if a + b < 0; exact for sums of powers 1/(x + b)^i, i = 2
+///   to 2 npts + 1.
+/// - Kor_Laguerre: over (a, infinity) if b > 0, over (-infinity, a) if b < 0; exact for exp(-b x) times polynomials of degree
+///   2 npts - 1.
+/// - Kor_Hermite: over the whole line, b > 0; exact for exp(-b (x - a)^2) times polynomials of degree 2 npts - 1.
+///
+/// f is the whole integrand: the weight function of the family is part of it.
+///
+/// \param[in]  quadrule the family: Kor_Legendre, Kor_Rational, Kor_Laguerre or Kor_Hermite
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  a      first parameter of the range
+/// \param[in]  b      second parameter of the range
+/// \param[in]  npts   number of points, at least 1; stored are 1, 2, 3, 4, 5, 6, 8, 10, 12, 14, 16, 20, 24, 32, 48 and 64, and the next
+///                    smaller of them is taken
+/// \param[in]  comm   passed to f as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the integral; 0 after an error other than NE_QUAD_GAUSS_NPTS_RULE and NE_QUAD_GAUSS_LAG_HER_WTS
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `quadrule` is none of the four.
+/// - NE_INT_ARG_LT: `npts` is less than 1.
+/// - NE_QUAD_GAUSS_CONS: a + b = 0 (rational), b = 0 (Laguerre) or b <= 0 (Hermite).
+/// - NE_QUAD_GAUSS_NPTS_RULE: a rule with `npts` points is not stored; the value is that of the next smaller one.
+/// - NE_QUAD_GAUSS_LAG_HER_WTS: weights underflow, and their terms are left out; the value stands.
+/// \par Accuracy
+/// Nodes and weights are right to the last bits; how well the rule fits f is for the caller to judge: compare two orders.
+/// \par Method
+/// P. J. Davis and P. Rabinowitz, Methods of Numerical Integration, Academic Press 1984, chapters 2.7 and 3.6.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static double f(double x, void *comm) { return exp(-x) * cos(x); }
+/// ...
+/// double integral = d01tac(Kor_Laguerre, f, 0.0, 1.0, 24, NULL, &fail);   // 0.5
+/// \endcode
+double d01tac(Integer quadrule, double (*f)(double x, void *comm), double a, double b, Integer npts, void *comm,
+              KorError *fail);
+
+/// \brief Weights and abscissae of a Gaussian rule.
+///
+/// For the integral of f over the range of the family (see d01bac()): the sum of weight[i] f(abscis[i]).
+///
+/// \param[in]  quadrule the family: Kor_Legendre, Kor_Rational, Kor_Laguerre or Kor_Hermite
+/// \param[in]  a      first parameter of the range
+/// \param[in]  b      second parameter of the range
+/// \param[in]  npts   number of points, as in d01bac()
+/// \param[out] weight `npts` weights, which make up for the weight function of the family; zeros behind those of a smaller rule
+/// \param[out] abscis `npts` abscissae; zeros behind those of a smaller rule
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `quadrule` is none of the four.
+/// - NE_INT_ARG_LT: `npts` is less than 1.
+/// - NE_QUAD_GAUSS_CONS: a + b = 0 (rational), b = 0 (Laguerre) or b <= 0 (Hermite).
+/// - NE_QUAD_GAUSS_NPTS_RULE: a rule with `npts` points is not stored; the next smaller one is given.
+/// - NE_QUAD_GAUSS_LAG_HER_WTS: weights underflow, and are 0.
+///
+/// After the first three the outputs are untouched.
+/// \par Accuracy
+/// Right to the last bits.
+/// \par Method
+/// As d01bac().
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// double w[3], x[3];
+/// d01bbc(Kor_Legendre, 0.0, 1.0, 3, w, x, &fail);   // x = 0.1127, 0.5, 0.8873; w = 5/18, 8/18, 5/18
+/// \endcode
+void d01bbc(Integer quadrule, double a, double b, Integer npts, double weight[], double abscis[], KorError *fail);
+
+/// \brief The integral of a function that is given by a table.
+///
+/// Integrates over (x[0], x[n-1]); the points need not be evenly spaced.
+///
+/// \param[in]  n    number of points, at least 4
+/// \param[in]  x    n points, strictly increasing or strictly decreasing; in the latter case the integral has the sign of that
+///                  orientation
+/// \param[in]  y    n values
+/// \param[out] ans  the integral, `er` included
+/// \param[out] er   the correction that fourth differences suggest: an estimate of the error of the integral without it, and a
+///                  cautious one of `ans`; 0 for n = 4
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 4.
+/// - NE_QUAD_FIRST_TWO_PTS_EQL: the first two points are equal.
+/// - NE_NOT_STRICTLY_INCREASING, NE_NOT_STRICTLY_DECREASING: the points do not go on in the direction of the first two.
+///
+/// The outputs are then untouched.
+/// \par Accuracy
+/// Exact for cubics, but for rounding; O(h^4) before the correction.
+/// \par Method
+/// P. E. Gill and G. F. Miller, Comput. J. 15 (1972) 80-83: cubics through four neighbouring points.
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// const double x[5] = {0.0, 0.5, 1.5, 2.0, 3.0}, y[5] = {0.0, 0.125, 3.375, 8.0, 27.0};
+/// double ans, er;
+/// d01gac(5, x, y, &ans, &er, &fail);   // 20.25, 0
+/// \endcode
+void d01gac(Integer n, const double x[], const double y[], double *ans, double *er, KorError *fail);
+
+/// \brief The integral of a function of several variables over a box, by adaptive cubature.
+///
+/// \param[in]  ndim   number of variables, 2 to 15
+/// \param[in]  f      the function, of `ndim` variables in x; called on this thread only
+/// \param[in]  a      ndim lower ends of the box
+/// \param[in]  b      ndim upper ends; an end below its partner turns the sign of the integral
+/// \param[in]  minpts least number of evaluations of f
+/// \param[in]  maxpts most evaluations, at least minpts and 2^ndim + 2 ndim^2 + 2 ndim + 1
+/// \param[in]  eps    relative accuracy wanted, greater than 0
+/// \param[out] acc    estimate of the relative error reached (of the error itself, if the integral is 0)
+/// \param[out] finval the integral; after NE_QUAD_MAX_INTEGRAND_EVAL the best value found
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INVALID_INT_RANGE_2: `ndim` is not in 2 to 15.
+/// - NE_2_INT_ARG_LT: `maxpts` is less than `minpts`.
+/// - NE_REAL_ARG_LE: `eps` is not greater than 0.
+/// - NE_QUAD_MAX_INTEGRAND_CONS: `maxpts` does not suffice for one application of the rule.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_QUAD_MAX_INTEGRAND_EVAL: `maxpts` evaluations were not enough; `finval` and `acc` hold what was reached.
+///
+/// After the others the outputs are untouched.
+/// \par Accuracy
+/// As `acc` tells, for smooth functions usually far better. Costs grow as 2^ndim: in many dimensions see d01gbc().
+/// \par Method
+/// Rules of degree 7 and 5; the box with the largest difference is halved where the integrand varies most. A. C. Genz and
+/// A. A. Malik, J. Comput. Appl. Math. 6 (1980) 295-302.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static double f(Integer ndim, const double x[]) { return exp(-x[0] * x[1]); }
+/// ...
+/// const double a[2] = {0.0, 0.0}, b[2] = {1.0, 1.0};
+/// double acc, integral;
+/// d01fcc(2, f, a, b, 0, 10000, 1e-8, &acc, &integral, &fail);   // 0.79659959930
+/// \endcode
+void d01fcc(Integer ndim, double (*f)(Integer ndim, const double x[]), const double a[], const double b[],
+            Integer minpts, Integer maxpts, double eps, double *acc, double *finval, KorError *fail);
+
+/// \brief The integral of a function of several variables over a box, by adaptive cubature, with a pointer to the caller's data.
+///
+/// \param[in]  ndim   number of variables, 2 to 15
+/// \param[in]  f      the function, of `ndim` variables in x; called on this thread only; receives `comm` as its last argument
+/// \param[in]  a      ndim lower ends of the box
+/// \param[in]  b      ndim upper ends; an end below its partner turns the sign of the integral
+/// \param[in]  minpts least number of evaluations of f
+/// \param[in]  maxpts most evaluations, at least minpts and 2^ndim + 2 ndim^2 + 2 ndim + 1
+/// \param[in]  eps    relative accuracy wanted, greater than 0
+/// \param[out] acc    estimate of the relative error reached (of the error itself, if the integral is 0)
+/// \param[out] finval the integral; after NE_QUAD_MAX_INTEGRAND_EVAL the best value found
+/// \param[in]  comm   passed to f as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INVALID_INT_RANGE_2: `ndim` is not in 2 to 15.
+/// - NE_2_INT_ARG_LT: `maxpts` is less than `minpts`.
+/// - NE_REAL_ARG_LE: `eps` is not greater than 0.
+/// - NE_QUAD_MAX_INTEGRAND_CONS: `maxpts` does not suffice for one application of the rule.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_QUAD_MAX_INTEGRAND_EVAL: `maxpts` evaluations were not enough; `finval` and `acc` hold what was reached.
+///
+/// After the others the outputs are untouched.
+/// \par Accuracy
+/// As `acc` tells, for smooth functions usually far better. Costs grow as 2^ndim: in many dimensions see d01gbc().
+/// \par Method
+/// Rules of degree 7 and 5; the box with the largest difference is halved where the integrand varies most. A. C. Genz and
+/// A. A. Malik, J. Comput. Appl. Math. 6 (1980) 295-302.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par Example
+/// \code{.c}
+/// static double f(Integer ndim, const double x[], void *comm) { return exp(-x[0] * x[1]); }
+/// ...
+/// const double a[2] = {0.0, 0.0}, b[2] = {1.0, 1.0};
+/// double acc, integral;
+/// d01wcc(2, f, a, b, 0, 10000, 1e-8, &acc, &integral, NULL, &fail);   // 0.79659959930
+/// \endcode
+void d01wcc(Integer ndim, double (*f)(Integer ndim, const double x[], void *comm), const double a[], const double b[],
+            Integer minpts, Integer maxpts, double eps, double *acc, double *finval, void *comm, KorError *fail);
+
+/// \brief The integral of a function of several variables over a box, by the Monte Carlo method.
+///
+/// \param[in]  ndim   number of variables, at least 1
+/// \param[in]  f      the function, of `ndim` variables in x; called on this thread only
+/// \param[in]  method Kor_OneIteration: a quarter of the points finds the strata, all others make one estimate;
+///                    Kor_ManyIterations: estimates from growing numbers of points are averaged until `eps` is met
+/// \param[in]  cont   Kor_Cold: a new integral; Kor_Warm: `finval` and `acc` hold an earlier, independent estimate and its standard
+///                    error, to be averaged with the new one; Kor_Hot: the same, and the sampling starts with strata of equal
+///                    size, as many as there can be
+/// \param[in]  a      ndim lower ends of the box
+/// \param[in]  b      ndim upper ends
+/// \param[in]  mincls least number of evaluations of f, less than `maxcls`
+/// \param[in]  maxcls most evaluations, at least 4 (ndim + 1)
+/// \param[in]  eps    relative accuracy wanted (standard error over integral), at least 0; with 0 all `maxcls` evaluations are made
+/// \param[in]  maxlcs most strata, at least 1
+/// \param[in,out] finval the integral; an earlier estimate on entry with Kor_Warm and Kor_Hot
+/// \param[in,out] acc its standard error; that of the earlier estimate on entry with Kor_Warm and Kor_Hot
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `ndim` is less than 1.
+/// - NE_REAL_ARG_LT: `eps` is less than 0.
+/// - NE_BAD_PARAM: `method` or `cont` is none of its values.
+/// - NE_2_INT_ARG_LT: `maxcls` is less than 4 (ndim + 1).
+/// - NE_2_INT_ARG_GE: `mincls` is not less than `maxcls`.
+/// - NE_QUAD_MAX_INTEGRAND_EVAL: `maxlcs` is less than 1, and nothing has been done; or `maxcls` evaluations were not enough, and
+///   `finval` and `acc` hold what was reached.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// \par Accuracy
+/// The true error is within three standard errors with a probability of 99.7 per cent, if f has a finite variance.
+/// \par Method
+/// Stratified sampling; strata that hold much of the variance are halved, and points are drawn in proportion to it (J. Neyman,
+/// 1934; W. H. Press and G. R. Farrar, Computers in Physics 4 (1990) 190-195). Numbers from g05cac().
+/// \par Thread safety
+/// Safe: each thread has its own generator. Set it by g05cbc() for the same result every time.
+/// \par Example
+/// \code{.c}
+/// static double f(Integer ndim, const double x[]) { double s = 0.0; for (Integer i = 0; i < ndim; ++i) s += x[i] * x[i]; return s; }
+/// ...
+/// g05cbc(1);
+/// d01gbc(5, f, Kor_ManyIterations, Kor_Cold, a, b, 1000, 100000, 0.001, 256, &integral, &acc, &fail);   // 1.67 over the unit cube
+/// \endcode
+void d01gbc(Integer ndim, double (*f)(Integer ndim, const double x[]), Integer method, Integer cont, const double a[],
+            const double b[], Integer mincls, Integer maxcls, double eps, Integer maxlcs, double *finval, double *acc,
+            KorError *fail);
+
+/// \brief The integral of a function of several variables over a box, by the Monte Carlo method, with a pointer to the caller's data.
+///
+/// \param[in]  ndim   number of variables, at least 1
+/// \param[in]  f      the function, of `ndim` variables in x; called on this thread only; receives `comm` as its last argument
+/// \param[in]  method Kor_OneIteration: a quarter of the points finds the strata, all others make one estimate;
+///                    Kor_ManyIterations: estimates from growing numbers of points are averaged until `eps` is met
+/// \param[in]  cont   Kor_Cold: a new integral; Kor_Warm: `finval` and `acc` hold an earlier, independent estimate and its standard
+///                    error, to be averaged with the new one; Kor_Hot: the same, and the sampling starts with strata of equal
+///                    size, as many as there can be
+/// \param[in]  a      ndim lower ends of the box
+/// \param[in]  b      ndim upper ends
+/// \param[in]  mincls least number of evaluations of f, less than `maxcls`
+/// \param[in]  maxcls most evaluations, at least 4 (ndim + 1)
+/// \param[in]  eps    relative accuracy wanted (standard error over integral), at least 0; with 0 all `maxcls` evaluations are made
+/// \param[in]  maxlcs most strata, at least 1
+/// \param[in,out] finval the integral; an earlier estimate on entry with Kor_Warm and Kor_Hot
+/// \param[in,out] acc its standard error; that of the earlier estimate on entry with Kor_Warm and Kor_Hot
+/// \param[in]  comm   passed to f as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `ndim` is less than 1.
+/// - NE_REAL_ARG_LT: `eps` is less than 0.
+/// - NE_BAD_PARAM: `method` or `cont` is none of its values.
+/// - NE_2_INT_ARG_LT: `maxcls` is less than 4 (ndim + 1).
+/// - NE_2_INT_ARG_GE: `mincls` is not less than `maxcls`.
+/// - NE_QUAD_MAX_INTEGRAND_EVAL: `maxlcs` is less than 1, and nothing has been done; or `maxcls` evaluations were not enough, and
+///   `finval` and `acc` hold what was reached.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// \par Accuracy
+/// The true error is within three standard errors with a probability of 99.7 per cent, if f has a finite variance.
+/// \par Method
+/// Stratified sampling; strata that hold much of the variance are halved, and points are drawn in proportion to it (J. Neyman,
+/// 1934; W. H. Press and G. R. Farrar, Computers in Physics 4 (1990) 190-195). Numbers from g05cac().
+/// \par Thread safety
+/// Safe: each thread has its own generator. Set it by g05cbc() for the same result every time.
+/// \par Example
+/// \code{.c}
+/// static double f(Integer ndim, const double x[], void *comm) { double s = 0.0; for (Integer i = 0; i < ndim; ++i) s += x[i] * x[i]; return s; }
+/// ...
+/// g05cbc(1);
+/// d01xbc(5, f, Kor_ManyIterations, Kor_Cold, a, b, 1000, 100000, 0.001, 256, &integral, &acc, NULL, &fail);   // 1.67 over the unit cube
+/// \endcode
+void d01xbc(Integer ndim, double (*f)(Integer ndim, const double x[], void *comm), Integer method, Integer cont,
+            const double a[], const double b[], Integer mincls, Integer maxcls, double eps, Integer maxlcs,
+            double *finval, double *acc, void *comm, KorError *fail);
+
 KOR_END_DECLS
 
 #endif

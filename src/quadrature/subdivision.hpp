@@ -13,9 +13,10 @@ namespace kor::quadrature {
 // only as many places of it are kept as bisections are left: the others cannot come up again.
 class Subdivision {
   public:
-    Subdivision(double *left_ends, double *right_ends, double *results, double *errors, Integer *by_error, Integer *levels,
-                Integer size)
-        : left{left_ends}, right{right_ends}, result{results}, error{errors}, order{by_error}, level{levels}, limit{size}
+    Subdivision(double *left_ends, double *right_ends, double *results, double *errors, Integer *by_error,
+                Integer *levels, Integer size)
+        : left{left_ends}, right{right_ends}, result{results}, error{errors}, order{by_error}, level{levels}, limit{
+                                                                                                                  size}
     {
     }
 

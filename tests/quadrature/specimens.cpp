@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include <kor/d01.h>
+#include <kor/g05.h>
 #include <kor/x04.h>
 
 #include "support/specimen.hpp"
@@ -68,3 +69,54 @@ INTEGRAL(d01sqc, bell_with, -1.0, 1.0, 0.25, 0.0, 1e-9, 50, &result, &abserr, &q
     }
 FOURIER_INTEGRAL(d01asc, bell, 0.0, 2.0, Kor_Cosine, 50, 50, 1e-8, &result, &abserr, &qp, fail)
 FOURIER_INTEGRAL(d01ssc, bell_with, 0.0, 2.0, Kor_Sine, 50, 50, 1e-8, &result, &abserr, &qp, nullptr, fail)
+
+KOR_SPECIMEN(d01bac)
+{
+    double value = 99.0;
+    call([&](KorError *fail) { value = d01bac(Kor_Hermite, bell, 0.0, 1.0, 8, fail); });
+    outputs(value);
+}
+
+KOR_SPECIMEN(d01tac)
+{
+    double value = 99.0;
+    call([&](KorError *fail) { value = d01tac(Kor_Rational, bell_with, 1.0, 1.0, 8, nullptr, fail); });
+    outputs(value);
+}
+
+KOR_SPECIMEN(d01bbc)
+{
+    double w[6] = {}, x[6] = {};
+    call([&](KorError *fail) { d01bbc(Kor_Laguerre, 0.0, 1.0, 6, w, x, fail); });
+    outputs(w, x);
+}
+
+KOR_SPECIMEN(d01gac)
+{
+    const double x[5] = {0.0, 0.5, 1.5, 2.0, 3.0}, y[5] = {0.0, 0.2, 3.0, 8.0, 26.0};
+    double ans = 99.0, er = 99.0;
+    call([&](KorError *fail) { d01gac(5, x, y, &ans, &er, fail); });
+    outputs(ans, er);
+}
+
+namespace {
+
+double plane_bell(Integer, const double x[]) { return bell(x[0]) * bell(x[1]); }
+double plane_bell_with(Integer n, const double x[], void *) { return plane_bell(n, x); }
+const double kLow[] = {0.0, 0.0}, kHigh[] = {1.0, 1.0};
+
+} // namespace
+
+#define BOX_INTEGRAL(name, ...)                                                                                        \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        double value = 99.0, acc = 99.0;                                                                               \
+        g05cbc(7); /* the thread's generator is part of the input */                                                   \
+        call([&](KorError *fail) { name(__VA_ARGS__); });                                                              \
+        outputs(value, acc);                                                                                           \
+    }
+BOX_INTEGRAL(d01fcc, 2, plane_bell, kLow, kHigh, 0, 20000, 1e-5, &acc, &value, fail)
+BOX_INTEGRAL(d01wcc, 2, plane_bell_with, kLow, kHigh, 0, 20000, 1e-5, &acc, &value, nullptr, fail)
+BOX_INTEGRAL(d01gbc, 2, plane_bell, Kor_OneIteration, Kor_Cold, kLow, kHigh, 10, 4000, 0.5, 20, &value, &acc, fail)
+BOX_INTEGRAL(d01xbc, 2, plane_bell_with, Kor_ManyIterations, Kor_Cold, kLow, kHigh, 10, 4000, 0.5, 20, &value, &acc,
+             nullptr, fail)
