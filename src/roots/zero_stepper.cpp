@@ -164,7 +164,8 @@ void take_first_value(State s, double &x, double &y, double fx)
     s.p() = x;
 }
 
-ZeroStatus take_second_value(State s, double &x, double &y, double fx, double xtol, Integer ir, Integer &ind)
+// Where the bracket is in order, the next two answer `evaluate`: on to the next point.
+ZeroStatus take_second_value(State s, double x, double &y, double fx, Integer &ind)
 {
     if (fx == 0.0) return found_exactly(x, y, ind);
     if (positive(fx) == positive(s.fb())) {
@@ -177,10 +178,10 @@ ZeroStatus take_second_value(State s, double &x, double &y, double fx, double xt
     s.tiny() = kSmallest;
     s.pole() = 0.0;
     start_bracket(s);
-    return next_point(s, x, y, xtol, ir, ind);
+    return ZeroStatus::evaluate;
 }
 
-ZeroStatus take_new_value(State s, double &x, double &y, double fx, double xtol, Integer ir, Integer &ind)
+ZeroStatus take_new_value(State s, double x, double &y, double fx, Integer &ind)
 {
     if (fx == 0.0) return found_exactly(x, y, ind);
     s.fb() = fx;
@@ -188,8 +189,8 @@ ZeroStatus take_new_value(State s, double &x, double &y, double fx, double xtol,
     if (same_side(s.fu(), s.fb()))
         start_bracket(s);
     else
-        s.count() = s.m() == s.step() ? 0.0 : std::trunc(s.count() + 0.1) + 1.0;
-    return next_point(s, x, y, xtol, ir, ind);
+        s.count() = s.m() == s.step() ? 0.0 : s.count() + 1.0;
+    return ZeroStatus::evaluate;
 }
 
 } // namespace
@@ -207,6 +208,7 @@ ZeroStatus zero_step(double &x, double &y, double fx, double xtol, Integer ir, d
     }
 
     State s{c};
+    ZeroStatus status = ZeroStatus::evaluate;
     switch (ind) {
     case 1:
         s.b() = x;
@@ -222,13 +224,17 @@ ZeroStatus zero_step(double &x, double &y, double fx, double xtol, Integer ir, d
         s.b() = x;
         if (fx == 0.0) return found_exactly(x, y, ind);
         take_first_value(s, x, y, fx);
-        return take_second_value(s, x, y, second_value, xtol, ir, ind);
+        status = take_second_value(s, x, y, second_value, ind);
+        break;
     }
     case 3:
-        return take_second_value(s, x, y, fx, xtol, ir, ind);
+        status = take_second_value(s, x, y, fx, ind);
+        break;
     default:
-        return take_new_value(s, x, y, fx, xtol, ir, ind);
+        status = take_new_value(s, x, y, fx, ind);
     }
+    // Called from one place, it is compiled into it: a value that has just arrived stays in its register.
+    return status == ZeroStatus::evaluate ? next_point(s, x, y, xtol, ir, ind) : status;
 }
 
 } // namespace kor::roots
