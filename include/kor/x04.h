@@ -1,11 +1,17 @@
 /// \file x04.h
-/// Chapter x04: memory, and look-up of enumerators and error codes by name.
+/// Chapter x04: memory, and look-up of enumerators and error codes by name. Memory that a routine hands to its caller comes
+/// from x04bbc() and is released with x04bdc().
 #ifndef KOR_X04_H
 #define KOR_X04_H
 
 #include <kor.h>
 
 KOR_BEGIN_DECLS
+
+/// Names of the files that programs of the verification support read and write; null, as at the start, stands for the
+/// standard streams. No numerical routine looks at them. Set them before threads start.
+extern char *global_datafile;
+extern char *global_resfile; ///< the file of results
 
 /// \brief Allocates memory: what malloc gives.
 /// \param[in] size bytes wanted
