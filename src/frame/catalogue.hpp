@@ -34,7 +34,8 @@ constexpr Conversions conversions_of(std::string_view format)
     for (std::size_t i = 0; i < format.size(); ++i) {
         if (format[i] != '%') continue;
         if (++i < format.size() && format[i] == '%') continue;
-        while (i < format.size() && (format[i] == '.' || format[i] == '-' || (format[i] >= '0' && format[i] <= '9'))) ++i;
+        while (i < format.size() && (format[i] == '.' || format[i] == '-' || (format[i] >= '0' && format[i] <= '9')))
+            ++i;
         const bool wide = i < format.size() && format[i] == 'l';
         if (wide) ++i;
         if (i == format.size() || found.count == kMaxConversions) {
@@ -42,12 +43,20 @@ constexpr Conversions conversions_of(std::string_view format)
             break;
         }
         switch (format[i]) {
-        case 's': found.kind[found.count++] = Conversion::text; break;
-        case 'd': found.kind[found.count++] = Conversion::integer; found.well_formed &= wide; break;
+        case 's':
+            found.kind[found.count++] = Conversion::text;
+            break;
+        case 'd':
+            found.kind[found.count++] = Conversion::integer;
+            found.well_formed &= wide;
+            break;
         case 'e':
         case 'f':
-        case 'g': found.kind[found.count++] = Conversion::real; break;
-        default: found.well_formed = false;
+        case 'g':
+            found.kind[found.count++] = Conversion::real;
+            break;
+        default:
+            found.well_formed = false;
         }
     }
     return found;

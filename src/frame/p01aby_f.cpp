@@ -31,8 +31,8 @@ void p01aby_f(Integer ivalue, const char *name, Integer ifail, Integer *nerr, co
     if (soft_and_silent(ifail)) return;
     char record[kRecord];
     std::snprintf(record, sizeof record,
-                  " *****  Parameter  %1.1s  is invalid in routine  %1.1s  ***** \n        Value supplied is %6ld", name,
-                  srname, static_cast<long>(ivalue));
+                  " *****  Parameter  %1.1s  is invalid in routine  %1.1s  ***** \n        Value supplied is %6ld",
+                  name, srname, static_cast<long>(ivalue));
     write_record(record);
 }
 
@@ -41,9 +41,10 @@ void p01abw_f(const char *svalue, const char *name, Integer ifail, Integer *nerr
     ++*nerr;
     if (soft_and_silent(ifail)) return;
     char record[kRecord];
-    std::snprintf(record, sizeof record,
-                  " *****  Parameter  %1.1s  is invalid in routine  %1.1s  ***** \n        Value supplied is\n        %1.1s",
-                  name, srname, svalue);
+    std::snprintf(
+        record, sizeof record,
+        " *****  Parameter  %1.1s  is invalid in routine  %1.1s  ***** \n        Value supplied is\n        %1.1s",
+        name, srname, svalue);
     write_record(record);
 }
 

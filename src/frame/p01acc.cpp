@@ -36,7 +36,8 @@ void p01acc(const char *message, Integer code, const char *routine, KorError *fa
     if (code != NE_NOERROR && (fail == nullptr || fail->print != 0))
         // One call for the whole text: the reports of several threads follow one another and do not mix.
         std::fprintf(stderr,
-                     is_error_text(text) ? "Error detected by KOR routine %s:\n%s\n" : "Warning from KOR routine %s:\n%s\n",
+                     is_error_text(text) ? "Error detected by KOR routine %s:\n%s\n"
+                                         : "Warning from KOR routine %s:\n%s\n",
                      routine, text);
 
     if (fail == nullptr) {

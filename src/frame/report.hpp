@@ -17,9 +17,12 @@ template <class T>
 constexpr bool converts_to(Conversion conversion)
 {
     switch (conversion) {
-    case Conversion::text: return std::is_convertible_v<T, const char *>;
-    case Conversion::integer: return std::is_integral_v<T>;
-    case Conversion::real: return std::is_floating_point_v<T>;
+    case Conversion::text:
+        return std::is_convertible_v<T, const char *>;
+    case Conversion::integer:
+        return std::is_integral_v<T>;
+    case Conversion::real:
+        return std::is_floating_point_v<T>;
     }
     return false;
 }

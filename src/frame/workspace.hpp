@@ -1,9 +1,9 @@
 // Work space of a routine: over the library's allocator, sized with overflow checks, freed on every path.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <concepts>
 #include <type_traits>
 #include <utility>
 
@@ -14,7 +14,10 @@ namespace kor {
 // A count of elements formed from interface integers: negative factors count as none, an overflow is remembered.
 class Count {
   public:
-    Count(std::integral auto n) : value_{n > 0 ? static_cast<std::size_t>(n) : 0} {}
+    Count(std::integral auto n)
+        : value_{n > 0 ? static_cast<std::size_t>(n) : 0}, overflow_{n > 0 && !std::in_range<std::size_t>(n)}
+    {
+    }
 
     friend Count operator*(Count a, Count b)
     {
@@ -34,7 +37,7 @@ class Count {
 
   private:
     std::size_t value_;
-    bool overflow_ = false;
+    bool overflow_;
 };
 
 // `count` elements, not initialised. False when the memory could not be had: the caller reports NE_ALLOC_FAIL.
@@ -45,7 +48,10 @@ class Workspace {
   public:
     Workspace() = default;
     explicit Workspace(Count count) { allocate(count); }
-    Workspace(Workspace &&other) noexcept : data_{std::exchange(other.data_, nullptr)}, size_{std::exchange(other.size_, 0)} {}
+    Workspace(Workspace &&other) noexcept
+        : data_{std::exchange(other.data_, nullptr)}, size_{std::exchange(other.size_, 0)}
+    {
+    }
     Workspace &operator=(Workspace &&other) noexcept
     {
         std::swap(data_, other.data_);
