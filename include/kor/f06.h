@@ -1244,8 +1244,8 @@ void f06hpc(Integer n, Complex x[], Integer incx, Complex y[], Integer incy, Com
 /// f06hqc(FixedPivot, ForwardSequence, 2, &alpha, x, 1, c, s);
 /// // alpha = (3, 0); c = {0.894427, 0.745356}; s = {(0, 0.447214), (0, 0.666667)}
 /// \endcode
-void f06hqc(Integer pivot, Integer direct, Integer n, Complex *alpha, Complex x[], Integer incx, double c[], Complex
-            s[]);
+void f06hqc(Integer pivot, Integer direct, Integer n, Complex *alpha, Complex x[], Integer incx, double c[],
+            Complex s[]);
 
 /// \brief Chooses the elementary reflection that takes a complex vector into a real first element.
 ///
@@ -1565,8 +1565,8 @@ Integer f06klc(Integer n, const double x[], Integer incx, double tol);
 /// f06pac(NoTranspose, 2, 2, 1.0, a, 2, x, 1, 1.0, y, 1);
 /// // y = {4, 5}
 /// \endcode
-void f06pac(Integer trans, Integer m, Integer n, double alpha, const double a[], Integer tda, const double x[], Integer
-            incx, double beta, double y[], Integer incy);
+void f06pac(Integer trans, Integer m, Integer n, double alpha, const double a[], Integer tda, const double x[],
+            Integer incx, double beta, double y[], Integer incy);
 
 /// \brief Product of a real band matrix and a vector.
 ///
@@ -1660,8 +1660,8 @@ void f06pbc(Integer trans, Integer m, Integer n, Integer kl, Integer ku, double 
 /// f06pcc(UpperTriangle, 2, 1.0, a, 2, x, 1, 1.0, y, 1);
 /// // y = {6, 4}
 /// \endcode
-void f06pcc(Integer uplo, Integer n, double alpha, const double a[], Integer tda, const double x[], Integer incx, double
-            beta, double y[], Integer incy);
+void f06pcc(Integer uplo, Integer n, double alpha, const double a[], Integer tda, const double x[], Integer incx,
+            double beta, double y[], Integer incy);
 
 /// \brief Product of a real symmetric band matrix and a vector.
 ///
@@ -1708,8 +1708,8 @@ void f06pcc(Integer uplo, Integer n, double alpha, const double a[], Integer tda
 /// f06pdc(UpperTriangle, 3, 1, 1.0, a, 2, x, 1, 0.0, y, 1);
 /// // y = {4, 8, 8}
 /// \endcode
-void f06pdc(Integer uplo, Integer n, Integer k, double alpha, const double a[], Integer tda, const double x[], Integer
-            incx, double beta, double y[], Integer incy);
+void f06pdc(Integer uplo, Integer n, Integer k, double alpha, const double a[], Integer tda, const double x[],
+            Integer incx, double beta, double y[], Integer incy);
 
 /// \brief Product of a packed real symmetric matrix and a vector.
 ///
@@ -1792,8 +1792,8 @@ void f06pec(Integer uplo, Integer n, double alpha, const double ap[], const doub
 /// f06pfc(UpperTriangle, NoTranspose, NotUnitTriangular, 2, a, 2, x, 1);
 /// // x = {8, 12}
 /// \endcode
-void f06pfc(Integer uplo, Integer trans, Integer diag, Integer n, const double a[], Integer tda, double x[], Integer
-            incx);
+void f06pfc(Integer uplo, Integer trans, Integer diag, Integer n, const double a[], Integer tda, double x[],
+            Integer incx);
 
 /// \brief Product of a real triangular band matrix and a vector.
 ///
@@ -1919,8 +1919,8 @@ void f06phc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// f06pjc(UpperTriangle, NoTranspose, NotUnitTriangular, 2, a, 2, x, 1);
 /// // x = {0.333333, 1.33333}
 /// \endcode
-void f06pjc(Integer uplo, Integer trans, Integer diag, Integer n, const double a[], Integer tda, double x[], Integer
-            incx);
+void f06pjc(Integer uplo, Integer trans, Integer diag, Integer n, const double a[], Integer tda, double x[],
+            Integer incx);
 
 /// \brief Solves a system with a real triangular band matrix.
 ///
@@ -2046,8 +2046,8 @@ void f06plc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// f06pmc(2, 2, 2.0, x, 1, y, 1, a, 2);
 /// // a = {11, 14, -7, -8}
 /// \endcode
-void f06pmc(Integer m, Integer n, double alpha, const double x[], Integer incx, const double y[], Integer incy, double
-            a[], Integer tda);
+void f06pmc(Integer m, Integer n, double alpha, const double x[], Integer incx, const double y[], Integer incy,
+            double a[], Integer tda);
 
 /// \brief Update of rank 1 of a real symmetric matrix.
 ///
@@ -3121,8 +3121,8 @@ void f06sec(Integer uplo, Integer n, Complex alpha, const Complex ap[], const Co
 /// f06sfc(UpperTriangle, NoTranspose, NotUnitTriangular, 2, a, 2, x, 1);
 /// // x = {(0, 4), (0, 12)}
 /// \endcode
-void f06sfc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex a[], Integer tda, Complex x[], Integer
-            incx);
+void f06sfc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex a[], Integer tda, Complex x[],
+            Integer incx);
 
 /// \brief Product of a complex triangular band matrix and a vector.
 ///
@@ -3167,8 +3167,8 @@ void f06sfc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// f06sgc(UpperTriangle, NoTranspose, NotUnitTriangular, 3, 1, a, 2, x, 1);
 /// // x = {(4, 4), (8, 2), (4, 0)}
 /// \endcode
-void f06sgc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, const Complex a[], Integer tda, Complex
-            x[], Integer incx);
+void f06sgc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, const Complex a[], Integer tda,
+            Complex x[], Integer incx);
 
 /// \brief Product of a complex triangular packed matrix and a vector.
 ///
@@ -3249,8 +3249,8 @@ void f06shc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// f06sjc(UpperTriangle, NoTranspose, NotUnitTriangular, 2, a, 2, x, 1);
 /// // x = {(1.66667, -0.666667), (0, 1.33333)}
 /// \endcode
-void f06sjc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex a[], Integer tda, Complex x[], Integer
-            incx);
+void f06sjc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex a[], Integer tda, Complex x[],
+            Integer incx);
 
 /// \brief Solves a system with a complex triangular band matrix.
 ///
@@ -3296,8 +3296,8 @@ void f06sjc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// f06skc(UpperTriangle, NoTranspose, NotUnitTriangular, 3, 1, a, 2, x, 1);
 /// // x = {(0.75, -1), (2, -0.5), (1, 0)}
 /// \endcode
-void f06skc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, const Complex a[], Integer tda, Complex
-            x[], Integer incx);
+void f06skc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, const Complex a[], Integer tda,
+            Complex x[], Integer incx);
 
 /// \brief Solves a system with a complex triangular packed matrix.
 ///
@@ -3941,8 +3941,8 @@ void f06vxc(Integer side, Integer pivot, Integer direct, Integer m, Integer n, I
 /// f06yac(NoTranspose, NoTranspose, 2, 2, 2, 1.0, a, 2, b, 2, 0.0, c, 2);
 /// // c = {5, 2, 11, 4}
 /// \endcode
-void f06yac(Integer transa, Integer transb, Integer m, Integer n, Integer k, double alpha, const double a[], Integer
-            tda, const double b[], Integer tdb, double beta, double c[], Integer tdc);
+void f06yac(Integer transa, Integer transb, Integer m, Integer n, Integer k, double alpha, const double a[],
+            Integer tda, const double b[], Integer tdb, double beta, double c[], Integer tdc);
 
 /// \brief Product of a real symmetric and a general matrix.
 ///
@@ -3987,8 +3987,8 @@ void f06yac(Integer transa, Integer transb, Integer m, Integer n, Integer k, dou
 /// f06ycc(LeftSide, UpperTriangle, 2, 2, 1.0, a, 2, b, 2, 0.0, c, 2);
 /// // c = {4, 1, 7, 3}
 /// \endcode
-void f06ycc(Integer side, Integer uplo, Integer m, Integer n, double alpha, const double a[], Integer tda, const double
-            b[], Integer tdb, double beta, double c[], Integer tdc);
+void f06ycc(Integer side, Integer uplo, Integer m, Integer n, double alpha, const double a[], Integer tda,
+            const double b[], Integer tdb, double beta, double c[], Integer tdc);
 
 /// \brief Product of a real triangular and a general matrix.
 ///
@@ -4034,8 +4034,8 @@ void f06ycc(Integer side, Integer uplo, Integer m, Integer n, double alpha, cons
 /// f06yfc(LeftSide, UpperTriangle, NoTranspose, NotUnitTriangular, 2, 2, 1.0, a, 2, b, 2);
 /// // b = {4, 1, 8, 4}
 /// \endcode
-void f06yfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, double alpha, const double
-            a[], Integer tda, double b[], Integer tdb);
+void f06yfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, double alpha,
+            const double a[], Integer tda, double b[], Integer tdb);
 
 /// \brief Solves systems with a real triangular matrix for several right-hand sides.
 ///
@@ -4082,8 +4082,8 @@ void f06yfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m,
 /// f06yjc(LeftSide, UpperTriangle, NoTranspose, NotUnitTriangular, 2, 2, 1.0, a, 2, b, 2);
 /// // b = {0.25, -0.125, 0.5, 0.25}
 /// \endcode
-void f06yjc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, double alpha, const double
-            a[], Integer tda, double b[], Integer tdb);
+void f06yjc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, double alpha,
+            const double a[], Integer tda, double b[], Integer tdb);
 
 /// \brief Update of rank k of a real symmetric matrix.
 ///
@@ -4172,8 +4172,8 @@ void f06ypc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, con
 /// f06yrc(UpperTriangle, NoTranspose, 2, 2, 1.0, a, 2, b, 2, 0.0, c, 2);
 /// // c = {2, 7, 0, 20}
 /// \endcode
-void f06yrc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, const double a[], Integer tda, const double
-            b[], Integer tdb, double beta, double c[], Integer tdc);
+void f06yrc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, const double a[], Integer tda,
+            const double b[], Integer tdb, double beta, double c[], Integer tdc);
 
 /* ---- Complex matrices: the standard operations ---- */
 
@@ -4225,8 +4225,8 @@ void f06yrc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, con
 /// f06zac(NoTranspose, NoTranspose, 2, 2, 2, one, a, 2, b, 2, zero, c, 2);
 /// // c = {(5, 1), (0, 2), (11, -2), (1, 4)}
 /// \endcode
-void f06zac(Integer transa, Integer transb, Integer m, Integer n, Integer k, Complex alpha, const Complex a[], Integer
-            tda, const Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
+void f06zac(Integer transa, Integer transb, Integer m, Integer n, Integer k, Complex alpha, const Complex a[],
+            Integer tda, const Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
 
 /// \brief Product of a complex Hermitian and a general matrix.
 ///
@@ -4274,8 +4274,8 @@ void f06zac(Integer transa, Integer transb, Integer m, Integer n, Integer k, Com
 /// f06zcc(LeftSide, UpperTriangle, 2, 2, one, a, 2, b, 2, zero, c, 2);
 /// // c = {(4, 2), (-1, 1), (7, -1), (0, 3)}
 /// \endcode
-void f06zcc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex a[], Integer tda, const
-            Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
+void f06zcc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex a[], Integer tda,
+            const Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
 
 /// \brief Product of a complex triangular and a general matrix.
 ///
@@ -4323,8 +4323,8 @@ void f06zcc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, con
 /// f06zfc(LeftSide, UpperTriangle, NoTranspose, NotUnitTriangular, 2, 2, one, a, 2, b, 2);
 /// // b = {(4, 2), (-1, 1), (8, 0), (0, 4)}
 /// \endcode
-void f06zfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, Complex alpha, const Complex
-            a[], Integer tda, Complex b[], Integer tdb);
+void f06zfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, Complex alpha,
+            const Complex a[], Integer tda, Complex b[], Integer tdb);
 
 /// \brief Solves systems with a complex triangular matrix for several right-hand sides.
 ///
@@ -4373,8 +4373,8 @@ void f06zfc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m,
 /// f06zjc(LeftSide, UpperTriangle, NoTranspose, NotUnitTriangular, 2, 2, one, a, 2, b, 2);
 /// // b = {(0.25, -0.25), (0.125, -0.125), (0.5, 0), (0, 0.25)}
 /// \endcode
-void f06zjc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, Complex alpha, const Complex
-            a[], Integer tda, Complex b[], Integer tdb);
+void f06zjc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, Complex alpha,
+            const Complex a[], Integer tda, Complex b[], Integer tdb);
 
 /// \brief Update of rank k of a complex Hermitian matrix.
 ///
@@ -4416,8 +4416,8 @@ void f06zjc(Integer side, Integer uplo, Integer transa, Integer diag, Integer m,
 /// f06zpc(UpperTriangle, NoTranspose, 2, 2, 1.0, a, 2, 0.0, c, 2);
 /// // c = {(6, 0), (11, 5), (0, 0), (26, 0)}
 /// \endcode
-void f06zpc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, const Complex a[], Integer tda, double
-            beta, Complex c[], Integer tdc);
+void f06zpc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, const Complex a[], Integer tda,
+            double beta, Complex c[], Integer tdc);
 
 /// \brief Update of rank 2k of a complex Hermitian matrix.
 ///
@@ -4465,8 +4465,8 @@ void f06zpc(Integer uplo, Integer trans, Integer n, Integer k, double alpha, con
 /// f06zrc(UpperTriangle, NoTranspose, 2, 2, one, a, 2, b, 2, 0.0, c, 2);
 /// // c = {(2, 0), (5, 0), (0, 0), (10, 0)}
 /// \endcode
-void f06zrc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda, const
-            Complex b[], Integer tdb, double beta, Complex c[], Integer tdc);
+void f06zrc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda,
+            const Complex b[], Integer tdb, double beta, Complex c[], Integer tdc);
 
 /// \brief Product of a complex symmetric and a general matrix.
 ///
@@ -4513,8 +4513,8 @@ void f06zrc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, co
 /// f06ztc(LeftSide, UpperTriangle, 2, 2, one, a, 2, b, 2, zero, c, 2);
 /// // c = {(4, 2), (-1, 1), (7, 1), (0, 3)}
 /// \endcode
-void f06ztc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex a[], Integer tda, const
-            Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
+void f06ztc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex a[], Integer tda,
+            const Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
 
 /// \brief Update of rank k of a complex symmetric matrix.
 ///
@@ -4556,8 +4556,8 @@ void f06ztc(Integer side, Integer uplo, Integer m, Integer n, Complex alpha, con
 /// f06zuc(UpperTriangle, NoTranspose, 2, 2, one, a, 2, zero, c, 2);
 /// // c = {(4, 2), (11, 1), (0, 0), (24, -8)}
 /// \endcode
-void f06zuc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda, Complex
-            beta, Complex c[], Integer tdc);
+void f06zuc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda,
+            Complex beta, Complex c[], Integer tdc);
 
 /// \brief Update of rank 2k of a complex symmetric matrix.
 ///
@@ -4604,8 +4604,8 @@ void f06zuc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, co
 /// f06zwc(UpperTriangle, NoTranspose, 2, 2, one, a, 2, b, 2, zero, c, 2);
 /// // c = {(2, 2), (5, 4), (0, 0), (14, 8)}
 /// \endcode
-void f06zwc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda, const
-            Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
+void f06zwc(Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex a[], Integer tda,
+            const Complex b[], Integer tdb, Complex beta, Complex c[], Integer tdc);
 
 KOR_END_DECLS
 

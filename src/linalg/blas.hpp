@@ -50,12 +50,12 @@ inline void axpy(Integer n, double alpha, const double *x, Integer incx, double 
 {
     cblas_daxpy(n, alpha, x, incx, y, incy);
 }
-inline void axpy(Integer n, Complex alpha, const Complex *x, Integer incx, Complex *y, Integer incy)
+inline void axpy(Integer n, const Complex &alpha, const Complex *x, Integer incx, Complex *y, Integer incy)
 {
     cblas_zaxpy(n, &alpha, x, incx, y, incy);
 }
 inline void scal(Integer n, double alpha, double *x, Integer incx) { cblas_dscal(n, alpha, x, incx); }
-inline void scal(Integer n, Complex alpha, Complex *x, Integer incx) { cblas_zscal(n, &alpha, x, incx); }
+inline void scal(Integer n, const Complex &alpha, Complex *x, Integer incx) { cblas_zscal(n, &alpha, x, incx); }
 inline void copy(Integer n, const double *x, Integer incx, double *y, Integer incy)
 {
     cblas_dcopy(n, x, incx, y, incy);
@@ -74,8 +74,8 @@ inline void gemv(Layout layout, Integer trans, Integer m, Integer n, double alph
 {
     cblas_dgemv(native(layout), trans_of(trans), m, n, alpha, a, lda, x, incx, beta, y, incy);
 }
-inline void gemv(Layout layout, Integer trans, Integer m, Integer n, Complex alpha, const Complex *a, Integer lda,
-                 const Complex *x, Integer incx, Complex beta, Complex *y, Integer incy)
+inline void gemv(Layout layout, Integer trans, Integer m, Integer n, const Complex &alpha, const Complex *a,
+                 Integer lda, const Complex *x, Integer incx, const Complex &beta, Complex *y, Integer incy)
 {
     cblas_zgemv(native(layout), trans_of(trans), m, n, &alpha, a, lda, x, incx, &beta, y, incy);
 }
@@ -84,8 +84,9 @@ inline void gbmv(Layout layout, Integer trans, Integer m, Integer n, Integer kl,
 {
     cblas_dgbmv(native(layout), trans_of(trans), m, n, kl, ku, alpha, a, lda, x, incx, beta, y, incy);
 }
-inline void gbmv(Layout layout, Integer trans, Integer m, Integer n, Integer kl, Integer ku, Complex alpha,
-                 const Complex *a, Integer lda, const Complex *x, Integer incx, Complex beta, Complex *y, Integer incy)
+inline void gbmv(Layout layout, Integer trans, Integer m, Integer n, Integer kl, Integer ku, const Complex &alpha,
+                 const Complex *a, Integer lda, const Complex *x, Integer incx, const Complex &beta, Complex *y,
+                 Integer incy)
 {
     cblas_zgbmv(native(layout), trans_of(trans), m, n, kl, ku, &alpha, a, lda, x, incx, &beta, y, incy);
 }
@@ -95,8 +96,8 @@ inline void hemv(Layout layout, Integer uplo, Integer n, double alpha, const dou
 {
     cblas_dsymv(native(layout), uplo_of(uplo), n, alpha, a, lda, x, incx, beta, y, incy);
 }
-inline void hemv(Layout layout, Integer uplo, Integer n, Complex alpha, const Complex *a, Integer lda, const Complex *x,
-                 Integer incx, Complex beta, Complex *y, Integer incy)
+inline void hemv(Layout layout, Integer uplo, Integer n, const Complex &alpha, const Complex *a, Integer lda,
+                 const Complex *x, Integer incx, const Complex &beta, Complex *y, Integer incy)
 {
     cblas_zhemv(native(layout), uplo_of(uplo), n, &alpha, a, lda, x, incx, &beta, y, incy);
 }
@@ -105,8 +106,8 @@ inline void hbmv(Layout layout, Integer uplo, Integer n, Integer k, double alpha
 {
     cblas_dsbmv(native(layout), uplo_of(uplo), n, k, alpha, a, lda, x, incx, beta, y, incy);
 }
-inline void hbmv(Layout layout, Integer uplo, Integer n, Integer k, Complex alpha, const Complex *a, Integer lda,
-                 const Complex *x, Integer incx, Complex beta, Complex *y, Integer incy)
+inline void hbmv(Layout layout, Integer uplo, Integer n, Integer k, const Complex &alpha, const Complex *a, Integer lda,
+                 const Complex *x, Integer incx, const Complex &beta, Complex *y, Integer incy)
 {
     cblas_zhbmv(native(layout), uplo_of(uplo), n, k, &alpha, a, lda, x, incx, &beta, y, incy);
 }
@@ -115,8 +116,8 @@ inline void hpmv(Layout layout, Integer uplo, Integer n, double alpha, const dou
 {
     cblas_dspmv(native(layout), uplo_of(uplo), n, alpha, ap, x, incx, beta, y, incy);
 }
-inline void hpmv(Layout layout, Integer uplo, Integer n, Complex alpha, const Complex *ap, const Complex *x,
-                 Integer incx, Complex beta, Complex *y, Integer incy)
+inline void hpmv(Layout layout, Integer uplo, Integer n, const Complex &alpha, const Complex *ap, const Complex *x,
+                 Integer incx, const Complex &beta, Complex *y, Integer incy)
 {
     cblas_zhpmv(native(layout), uplo_of(uplo), n, &alpha, ap, x, incx, &beta, y, incy);
 }
@@ -143,7 +144,7 @@ inline void her2(Layout layout, Integer uplo, Integer n, double alpha, const dou
 {
     cblas_dsyr2(native(layout), uplo_of(uplo), n, alpha, x, incx, y, incy, a, lda);
 }
-inline void her2(Layout layout, Integer uplo, Integer n, Complex alpha, const Complex *x, Integer incx,
+inline void her2(Layout layout, Integer uplo, Integer n, const Complex &alpha, const Complex *x, Integer incx,
                  const Complex *y, Integer incy, Complex *a, Integer lda)
 {
     cblas_zher2(native(layout), uplo_of(uplo), n, &alpha, x, incx, y, incy, a, lda);
@@ -153,7 +154,7 @@ inline void hpr2(Layout layout, Integer uplo, Integer n, double alpha, const dou
 {
     cblas_dspr2(native(layout), uplo_of(uplo), n, alpha, x, incx, y, incy, ap);
 }
-inline void hpr2(Layout layout, Integer uplo, Integer n, Complex alpha, const Complex *x, Integer incx,
+inline void hpr2(Layout layout, Integer uplo, Integer n, const Complex &alpha, const Complex *x, Integer incx,
                  const Complex *y, Integer incy, Complex *ap)
 {
     cblas_zhpr2(native(layout), uplo_of(uplo), n, &alpha, x, incx, y, incy, ap);
@@ -224,13 +225,13 @@ inline void geru(Layout layout, Integer m, Integer n, double alpha, const double
 {
     cblas_dger(native(layout), m, n, alpha, x, incx, y, incy, a, lda);
 }
-inline void geru(Layout layout, Integer m, Integer n, Complex alpha, const Complex *x, Integer incx, const Complex *y,
-                 Integer incy, Complex *a, Integer lda)
+inline void geru(Layout layout, Integer m, Integer n, const Complex &alpha, const Complex *x, Integer incx,
+                 const Complex *y, Integer incy, Complex *a, Integer lda)
 {
     cblas_zgeru(native(layout), m, n, &alpha, x, incx, y, incy, a, lda);
 }
-inline void gerc(Layout layout, Integer m, Integer n, Complex alpha, const Complex *x, Integer incx, const Complex *y,
-                 Integer incy, Complex *a, Integer lda)
+inline void gerc(Layout layout, Integer m, Integer n, const Complex &alpha, const Complex *x, Integer incx,
+                 const Complex *y, Integer incy, Complex *a, Integer lda)
 {
     cblas_zgerc(native(layout), m, n, &alpha, x, incx, y, incy, a, lda);
 }
@@ -242,8 +243,9 @@ inline void gemm(Layout layout, Integer transa, Integer transb, Integer m, Integ
 {
     cblas_dgemm(native(layout), trans_of(transa), trans_of(transb), m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
 }
-inline void gemm(Layout layout, Integer transa, Integer transb, Integer m, Integer n, Integer k, Complex alpha,
-                 const Complex *a, Integer lda, const Complex *b, Integer ldb, Complex beta, Complex *c, Integer ldc)
+inline void gemm(Layout layout, Integer transa, Integer transb, Integer m, Integer n, Integer k, const Complex &alpha,
+                 const Complex *a, Integer lda, const Complex *b, Integer ldb, const Complex &beta, Complex *c,
+                 Integer ldc)
 {
     cblas_zgemm(native(layout), trans_of(transa), trans_of(transb), m, n, k, &alpha, a, lda, b, ldb, &beta, c, ldc);
 }
@@ -252,13 +254,15 @@ inline void symm(Layout layout, Integer side, Integer uplo, Integer m, Integer n
 {
     cblas_dsymm(native(layout), side_of(side), uplo_of(uplo), m, n, alpha, a, lda, b, ldb, beta, c, ldc);
 }
-inline void symm(Layout layout, Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex *a,
-                 Integer lda, const Complex *b, Integer ldb, Complex beta, Complex *c, Integer ldc)
+inline void symm(Layout layout, Integer side, Integer uplo, Integer m, Integer n, const Complex &alpha,
+                 const Complex *a, Integer lda, const Complex *b, Integer ldb, const Complex &beta, Complex *c,
+                 Integer ldc)
 {
     cblas_zsymm(native(layout), side_of(side), uplo_of(uplo), m, n, &alpha, a, lda, b, ldb, &beta, c, ldc);
 }
-inline void hemm(Layout layout, Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex *a,
-                 Integer lda, const Complex *b, Integer ldb, Complex beta, Complex *c, Integer ldc)
+inline void hemm(Layout layout, Integer side, Integer uplo, Integer m, Integer n, const Complex &alpha,
+                 const Complex *a, Integer lda, const Complex *b, Integer ldb, const Complex &beta, Complex *c,
+                 Integer ldc)
 {
     cblas_zhemm(native(layout), side_of(side), uplo_of(uplo), m, n, &alpha, a, lda, b, ldb, &beta, c, ldc);
 }
@@ -269,7 +273,7 @@ inline void trmm(Layout layout, Integer side, Integer uplo, Integer transa, Inte
                 ldb);
 }
 inline void trmm(Layout layout, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n,
-                 Complex alpha, const Complex *a, Integer lda, Complex *b, Integer ldb)
+                 const Complex &alpha, const Complex *a, Integer lda, Complex *b, Integer ldb)
 {
     cblas_ztrmm(native(layout), side_of(side), uplo_of(uplo), trans_of(transa), diag_of(diag), m, n, &alpha, a, lda, b,
                 ldb);
@@ -281,7 +285,7 @@ inline void trsm(Layout layout, Integer side, Integer uplo, Integer transa, Inte
                 ldb);
 }
 inline void trsm(Layout layout, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n,
-                 Complex alpha, const Complex *a, Integer lda, Complex *b, Integer ldb)
+                 const Complex &alpha, const Complex *a, Integer lda, Complex *b, Integer ldb)
 {
     cblas_ztrsm(native(layout), side_of(side), uplo_of(uplo), trans_of(transa), diag_of(diag), m, n, &alpha, a, lda, b,
                 ldb);
@@ -291,8 +295,8 @@ inline void syrk(Layout layout, Integer uplo, Integer trans, Integer n, Integer 
 {
     cblas_dsyrk(native(layout), uplo_of(uplo), trans_of(trans), n, k, alpha, a, lda, beta, c, ldc);
 }
-inline void syrk(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex *a,
-                 Integer lda, Complex beta, Complex *c, Integer ldc)
+inline void syrk(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, const Complex &alpha,
+                 const Complex *a, Integer lda, const Complex &beta, Complex *c, Integer ldc)
 {
     cblas_zsyrk(native(layout), uplo_of(uplo), trans_of(trans), n, k, &alpha, a, lda, &beta, c, ldc);
 }
@@ -306,13 +310,14 @@ inline void syr2k(Layout layout, Integer uplo, Integer trans, Integer n, Integer
 {
     cblas_dsyr2k(native(layout), uplo_of(uplo), trans_of(trans), n, k, alpha, a, lda, b, ldb, beta, c, ldc);
 }
-inline void syr2k(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex *a,
-                  Integer lda, const Complex *b, Integer ldb, Complex beta, Complex *c, Integer ldc)
+inline void syr2k(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, const Complex &alpha,
+                  const Complex *a, Integer lda, const Complex *b, Integer ldb, const Complex &beta, Complex *c,
+                  Integer ldc)
 {
     cblas_zsyr2k(native(layout), uplo_of(uplo), trans_of(trans), n, k, &alpha, a, lda, b, ldb, &beta, c, ldc);
 }
-inline void her2k(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, Complex alpha, const Complex *a,
-                  Integer lda, const Complex *b, Integer ldb, double beta, Complex *c, Integer ldc)
+inline void her2k(Layout layout, Integer uplo, Integer trans, Integer n, Integer k, const Complex &alpha,
+                  const Complex *a, Integer lda, const Complex *b, Integer ldb, double beta, Complex *c, Integer ldc)
 {
     cblas_zher2k(native(layout), uplo_of(uplo), trans_of(trans), n, k, &alpha, a, lda, b, ldb, beta, c, ldc);
 }

@@ -6,12 +6,13 @@
 #include "linalg/arguments.hpp"
 #include "linalg/blas.hpp"
 #include "linalg/scalar.hpp"
+#include "linalg/tiny.hpp"
 
 namespace kor::linalg {
 
 // C := beta C; with beta = 0 C is cleared, whatever it holds.
 template <Scalar T>
-void scale_rows(Integer m, Integer n, T beta, T *c, Integer tdc)
+void scale_rows(Integer m, Integer n, const T &beta, T *c, Integer tdc)
 {
     const RowMajor<T> C{c, tdc};
     for (Integer i = 0; i < m; ++i)
@@ -20,8 +21,8 @@ void scale_rows(Integer m, Integer n, T beta, T *c, Integer tdc)
 
 // C := alpha op(A) op(B) + beta C
 template <Scalar T>
-void gemm(const char *routine, Integer transa, Integer transb, Integer m, Integer n, Integer k, T alpha, const T *a,
-          Integer tda, const T *b, Integer tdb, T beta, T *c, Integer tdc)
+void gemm(const char *routine, Integer transa, Integer transb, Integer m, Integer n, Integer k, const T &alpha,
+          const T *a, Integer tda, const T *b, Integer tdb, const T &beta, T *c, Integer tdc)
 {
     if (!accepted(routine, argument(1, is_transpose(transa)), argument(2, is_transpose(transb)), argument(3, m >= 0),
                   argument(4, n >= 0), argument(5, k >= 0), argument(8, row_fits(tda, transa == NoTranspose ? k : m)),
@@ -30,6 +31,8 @@ void gemm(const char *routine, Integer transa, Integer transb, Integer m, Intege
     if (m == 0 || n == 0 || ((k == 0 || alpha == T{}) && beta == one<T>())) return;
     // Kernels for small matrices multiply by alpha = 0, and a NaN in A or B would show.
     if (alpha == T{}) return scale_rows(m, n, beta, c, tdc);
+    if (is_tiny(kTinyMatrixProduct, m, n, k))
+        return tiny_gemm(transa, transb, m, n, k, alpha, a, tda, b, tdb, beta, c, tdc);
     blas::gemm(blas::kRowMajor, transa, transb, m, n, k, alpha, a, tda, b, tdb, beta, c, tdc);
 }
 
@@ -44,8 +47,8 @@ inline bool accepted_symm(const char *routine, Integer side, Integer uplo, Integ
 
 // A symmetric
 template <Scalar T>
-void symm(const char *routine, Integer side, Integer uplo, Integer m, Integer n, T alpha, const T *a, Integer tda,
-          const T *b, Integer tdb, T beta, T *c, Integer tdc)
+void symm(const char *routine, Integer side, Integer uplo, Integer m, Integer n, const T &alpha, const T *a,
+          Integer tda, const T *b, Integer tdb, const T &beta, T *c, Integer tdc)
 {
     if (!accepted_symm(routine, side, uplo, m, n, tda, tdb, tdc)) return;
     if (m == 0 || n == 0 || (alpha == T{} && beta == one<T>())) return;
@@ -53,8 +56,9 @@ void symm(const char *routine, Integer side, Integer uplo, Integer m, Integer n,
 }
 
 // A Hermitian
-inline void hemm(const char *routine, Integer side, Integer uplo, Integer m, Integer n, Complex alpha, const Complex *a,
-                 Integer tda, const Complex *b, Integer tdb, Complex beta, Complex *c, Integer tdc)
+inline void hemm(const char *routine, Integer side, Integer uplo, Integer m, Integer n, const Complex &alpha,
+                 const Complex *a, Integer tda, const Complex *b, Integer tdb, const Complex &beta, Complex *c,
+                 Integer tdc)
 {
     if (!accepted_symm(routine, side, uplo, m, n, tda, tdb, tdc)) return;
     if (m == 0 || n == 0 || (alpha == Complex{} && beta == one<Complex>())) return;
@@ -73,8 +77,8 @@ inline bool accepted_trmm(const char *routine, Integer side, Integer uplo, Integ
 
 // B := alpha op(A) B or alpha B op(A), A triangular.
 template <Scalar T>
-void trmm(const char *routine, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, T alpha,
-          const T *a, Integer tda, T *b, Integer tdb)
+void trmm(const char *routine, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n,
+          const T &alpha, const T *a, Integer tda, T *b, Integer tdb)
 {
     if (!accepted_trmm(routine, side, uplo, transa, diag, m, n, tda, tdb)) return;
     if (m == 0 || n == 0) return;
@@ -83,8 +87,8 @@ void trmm(const char *routine, Integer side, Integer uplo, Integer transa, Integ
 
 // B := alpha op(A)^-1 B or alpha B op(A)^-1, A triangular.
 template <Scalar T>
-void trsm(const char *routine, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n, T alpha,
-          const T *a, Integer tda, T *b, Integer tdb)
+void trsm(const char *routine, Integer side, Integer uplo, Integer transa, Integer diag, Integer m, Integer n,
+          const T &alpha, const T *a, Integer tda, T *b, Integer tdb)
 {
     if (!accepted_trmm(routine, side, uplo, transa, diag, m, n, tda, tdb)) return;
     if (m == 0 || n == 0) return;
@@ -118,8 +122,8 @@ inline bool accepted_rank_2k(const char *routine, Integer uplo, Integer trans, b
 
 // C := alpha A A' + beta C or alpha A' A + beta C, C symmetric.
 template <Scalar T>
-void syrk(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, T alpha, const T *a, Integer tda,
-          T beta, T *c, Integer tdc)
+void syrk(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, const T &alpha, const T *a,
+          Integer tda, const T &beta, T *c, Integer tdc)
 {
     if (!accepted_rank_k(routine, uplo, trans, is_symmetric_update<T>(trans), n, k, tda, tdc)) return;
     if (n == 0 || ((k == 0 || alpha == T{}) && beta == one<T>())) return;
@@ -137,8 +141,8 @@ inline void herk(const char *routine, Integer uplo, Integer trans, Integer n, In
 
 // C := alpha A B' + alpha B A' + beta C or alpha A' B + alpha B' A + beta C, C symmetric.
 template <Scalar T>
-void syr2k(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, T alpha, const T *a, Integer tda,
-           const T *b, Integer tdb, T beta, T *c, Integer tdc)
+void syr2k(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, const T &alpha, const T *a,
+           Integer tda, const T *b, Integer tdb, const T &beta, T *c, Integer tdc)
 {
     if (!accepted_rank_2k(routine, uplo, trans, is_symmetric_update<T>(trans), n, k, tda, tdb, tdc)) return;
     if (n == 0 || ((k == 0 || alpha == T{}) && beta == one<T>())) return;
@@ -146,7 +150,7 @@ void syr2k(const char *routine, Integer uplo, Integer trans, Integer n, Integer 
 }
 
 // C := alpha A conj(B)' + conj(alpha) B conj(A)' + beta C, or the same with A and B conjugate-transposed; C Hermitian.
-inline void her2k(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, Complex alpha,
+inline void her2k(const char *routine, Integer uplo, Integer trans, Integer n, Integer k, const Complex &alpha,
                   const Complex *a, Integer tda, const Complex *b, Integer tdb, double beta, Complex *c, Integer tdc)
 {
     if (!accepted_rank_2k(routine, uplo, trans, is_hermitian_update(trans), n, k, tda, tdb, tdc)) return;

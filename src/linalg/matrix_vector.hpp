@@ -5,6 +5,7 @@
 #include "linalg/arguments.hpp"
 #include "linalg/blas.hpp"
 #include "linalg/scalar.hpp"
+#include "linalg/tiny.hpp"
 
 namespace kor::linalg {
 
@@ -12,20 +13,24 @@ namespace kor::linalg {
 
 // y := alpha op(A) x + beta y, A general.
 template <Scalar T>
-void gemv(const char *routine, Integer trans, Integer m, Integer n, T alpha, const T *a, Integer tda, const T *x,
-          Integer incx, T beta, T *y, Integer incy)
+void gemv(const char *routine, Integer trans, Integer m, Integer n, const T &alpha, const T *a, Integer tda, const T *x,
+          Integer incx, const T &beta, T *y, Integer incy)
 {
     if (!accepted(routine, argument(1, is_transpose(trans)), argument(2, m >= 0), argument(3, n >= 0),
                   argument(6, row_fits(tda, n)), argument(8, incx != 0), argument(11, incy != 0)))
         return;
     if (m == 0 || n == 0 || (alpha == T{} && beta == one<T>())) return;
+    if (is_tiny(kTinyProduct, m, n) && !(alpha == T{})) {
+        const bool turned = trans != NoTranspose;
+        return tiny_gemv(trans, turned ? n : m, turned ? m : n, alpha, a, tda, x, incx, beta, y, incy);
+    }
     blas::gemv(blas::kRowMajor, trans, m, n, alpha, a, tda, x, incx, beta, y, incy);
 }
 
 // y := alpha op(A) x + beta y, A a band of kl diagonals below and ku above the main one.
 template <Scalar T>
-void gbmv(const char *routine, Integer trans, Integer m, Integer n, Integer kl, Integer ku, T alpha, const T *a,
-          Integer tda, const T *x, Integer incx, T beta, T *y, Integer incy)
+void gbmv(const char *routine, Integer trans, Integer m, Integer n, Integer kl, Integer ku, const T &alpha, const T *a,
+          Integer tda, const T *x, Integer incx, const T &beta, T *y, Integer incy)
 {
     if (!accepted(routine, argument(1, is_transpose(trans)), argument(2, m >= 0), argument(3, n >= 0),
                   argument(4, kl >= 0), argument(5, ku >= 0), argument(8, band_fits(tda, kl, ku)),
@@ -37,18 +42,19 @@ void gbmv(const char *routine, Integer trans, Integer m, Integer n, Integer kl, 
 
 // A := alpha x y' + A
 template <Scalar T>
-void geru(const char *routine, Integer m, Integer n, T alpha, const T *x, Integer incx, const T *y, Integer incy, T *a,
-          Integer tda)
+void geru(const char *routine, Integer m, Integer n, const T &alpha, const T *x, Integer incx, const T *y, Integer incy,
+          T *a, Integer tda)
 {
     if (!accepted(routine, argument(1, m >= 0), argument(2, n >= 0), argument(5, incx != 0), argument(7, incy != 0),
                   argument(9, row_fits(tda, n))))
         return;
     if (m == 0 || n == 0 || alpha == T{}) return;
+    if (is_tiny(kTinyProduct, m, n)) return tiny_ger(m, n, alpha, x, incx, y, incy, a, tda);
     blas::geru(blas::kRowMajor, m, n, alpha, x, incx, y, incy, a, tda);
 }
 
 // A := alpha x conj(y)' + A
-inline void gerc(const char *routine, Integer m, Integer n, Complex alpha, const Complex *x, Integer incx,
+inline void gerc(const char *routine, Integer m, Integer n, const Complex &alpha, const Complex *x, Integer incx,
                  const Complex *y, Integer incy, Complex *a, Integer tda)
 {
     if (!accepted(routine, argument(1, m >= 0), argument(2, n >= 0), argument(5, incx != 0), argument(7, incy != 0),
@@ -62,8 +68,8 @@ inline void gerc(const char *routine, Integer m, Integer n, Complex alpha, const
 
 // y := alpha A x + beta y
 template <Scalar T>
-void hemv(const char *routine, Integer uplo, Integer n, T alpha, const T *a, Integer tda, const T *x, Integer incx,
-          T beta, T *y, Integer incy)
+void hemv(const char *routine, Integer uplo, Integer n, const T &alpha, const T *a, Integer tda, const T *x,
+          Integer incx, const T &beta, T *y, Integer incy)
 {
     if (!accepted(routine, argument(1, is_triangle(uplo)), argument(2, n >= 0), argument(5, row_fits(tda, n)),
                   argument(7, incx != 0), argument(10, incy != 0)))
@@ -74,8 +80,8 @@ void hemv(const char *routine, Integer uplo, Integer n, T alpha, const T *a, Int
 
 // y := alpha A x + beta y, A a band of k diagonals on either side of the main one.
 template <Scalar T>
-void hbmv(const char *routine, Integer uplo, Integer n, Integer k, T alpha, const T *a, Integer tda, const T *x,
-          Integer incx, T beta, T *y, Integer incy)
+void hbmv(const char *routine, Integer uplo, Integer n, Integer k, const T &alpha, const T *a, Integer tda, const T *x,
+          Integer incx, const T &beta, T *y, Integer incy)
 {
     if (!accepted(routine, argument(1, is_triangle(uplo)), argument(2, n >= 0), argument(3, k >= 0),
                   argument(6, band_fits(tda, k)), argument(8, incx != 0), argument(11, incy != 0)))
@@ -86,8 +92,8 @@ void hbmv(const char *routine, Integer uplo, Integer n, Integer k, T alpha, cons
 
 // y := alpha A x + beta y, A packed.
 template <Scalar T>
-void hpmv(const char *routine, Integer uplo, Integer n, T alpha, const T *ap, const T *x, Integer incx, T beta, T *y,
-          Integer incy)
+void hpmv(const char *routine, Integer uplo, Integer n, const T &alpha, const T *ap, const T *x, Integer incx,
+          const T &beta, T *y, Integer incy)
 {
     if (!accepted(routine, argument(1, is_triangle(uplo)), argument(2, n >= 0), argument(6, incx != 0),
                   argument(9, incy != 0)))
@@ -118,8 +124,8 @@ void hpr(const char *routine, Integer uplo, Integer n, double alpha, const T *x,
 
 // A := alpha x conj(y)' + conj(alpha) y conj(x)' + A
 template <Scalar T>
-void her2(const char *routine, Integer uplo, Integer n, T alpha, const T *x, Integer incx, const T *y, Integer incy,
-          T *a, Integer tda)
+void her2(const char *routine, Integer uplo, Integer n, const T &alpha, const T *x, Integer incx, const T *y,
+          Integer incy, T *a, Integer tda)
 {
     if (!accepted(routine, argument(1, is_triangle(uplo)), argument(2, n >= 0), argument(5, incx != 0),
                   argument(7, incy != 0), argument(9, row_fits(tda, n))))
@@ -130,8 +136,8 @@ void her2(const char *routine, Integer uplo, Integer n, T alpha, const T *x, Int
 
 // A := alpha x conj(y)' + conj(alpha) y conj(x)' + A, A packed.
 template <Scalar T>
-void hpr2(const char *routine, Integer uplo, Integer n, T alpha, const T *x, Integer incx, const T *y, Integer incy,
-          T *ap)
+void hpr2(const char *routine, Integer uplo, Integer n, const T &alpha, const T *x, Integer incx, const T *y,
+          Integer incy, T *ap)
 {
     if (!accepted(routine, argument(1, is_triangle(uplo)), argument(2, n >= 0), argument(5, incx != 0),
                   argument(7, incy != 0)))
@@ -156,7 +162,8 @@ void trmv(const char *routine, Integer uplo, Integer trans, Integer diag, Intege
     if (!accepted_triangle(routine, uplo, trans, diag, n) ||
         !accepted(routine, argument(6, row_fits(tda, n)), argument(8, incx != 0)))
         return;
-    if (n > 0) blas::trmv(blas::kRowMajor, uplo, trans, diag, n, a, tda, x, incx);
+    if (n <= kTinyTriangle) return tiny_trmv(uplo, trans, diag, n, a, tda, x, incx);
+    blas::trmv(blas::kRowMajor, uplo, trans, diag, n, a, tda, x, incx);
 }
 
 template <Scalar T>
@@ -166,6 +173,8 @@ void trsv(const char *routine, Integer uplo, Integer trans, Integer diag, Intege
     if (!accepted_triangle(routine, uplo, trans, diag, n) ||
         !accepted(routine, argument(6, row_fits(tda, n)), argument(8, incx != 0)))
         return;
+    if constexpr (std::is_same_v<T, double>)
+        if (n <= kTinyTriangle) return tiny_trsv(uplo, trans, diag, n, a, tda, x, incx);
     if (n > 0) blas::trsv(blas::kRowMajor, uplo, trans, diag, n, a, tda, x, incx);
 }
 

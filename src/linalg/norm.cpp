@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 #include "frame/constants.hpp"
 #include "frame/dispatch.hpp"
@@ -13,10 +15,29 @@ namespace kor::linalg {
 
 namespace {
 
-// A piece is summed in independent lanes, 16 terms a lane at most, and the sums of the pieces are added with their
-// rounding errors kept: the error of a long sum stays that of a short one.
-constexpr std::ptrdiff_t kLanes = 32;
-constexpr std::ptrdiff_t kPiece = 16 * kLanes;
+// Eight doubles, and as many integers: the compiler makes of them what the processor has.
+constexpr std::ptrdiff_t kWidth = 8;
+typedef double Lanes __attribute__((vector_size(8 * kWidth)));
+typedef std::int64_t Places __attribute__((vector_size(8 * kWidth)));
+
+[[gnu::always_inline]] inline Lanes load(const double *x)
+{
+    Lanes lanes;
+    std::memcpy(&lanes, x, sizeof lanes);
+    return lanes;
+}
+[[gnu::always_inline]] inline Lanes absolute(Lanes x)
+{
+    constexpr std::int64_t kAllButSign = 0x7fffffffffffffff;
+    return (Lanes)((Places)x & kAllButSign);
+}
+[[gnu::always_inline]] inline Lanes greater(Lanes a, Lanes b) { return a > b ? a : b; } // b, if a is NaN
+
+// Elements that are taken at once, in four independent sets of lanes.
+constexpr std::ptrdiff_t kStride = 4 * kWidth;
+// A piece is summed in lanes, 16 terms a lane at most, and the sums of the pieces are added with their rounding errors
+// kept: the error of a long sum stays that of a short one.
+constexpr std::ptrdiff_t kPiece = 16 * kStride;
 
 // A sum of squares within these bounds lost nothing: no square overflowed, and what underflowed was negligible even
 // 2^31 times over. One below 2^-960 or above is formed again from scaled numbers.
@@ -37,44 +58,112 @@ struct Sum {
 // Adds the squares of x[i] factor.
 KOR_CLONES void add_contiguous_squares(Sum &sum, std::ptrdiff_t n, const double *x, double factor)
 {
+    const auto square = [=](const double *at) __attribute__((always_inline))
+    {
+        const Lanes scaled = load(at) * factor;
+        return scaled * scaled;
+    };
     for (std::ptrdiff_t start = 0; start < n; start += kPiece) {
-        const double *piece = x + start;
+        const double *const piece = x + start;
         const std::ptrdiff_t length = std::min(kPiece, n - start);
-        double lane[kLanes] = {};
+        Lanes sum0{}, sum1{}, sum2{}, sum3{};
         std::ptrdiff_t i = 0;
-        for (; i + kLanes <= length; i += kLanes)
-            for (std::ptrdiff_t j = 0; j < kLanes; ++j) {
-                const double scaled = piece[i + j] * factor;
-                lane[j] += scaled * scaled;
-            }
-        for (std::ptrdiff_t j = 0; i + j < length; ++j) {
-            const double scaled = piece[i + j] * factor;
-            lane[j] += scaled * scaled;
+        for (; i + kStride <= length; i += kStride) {
+            sum0 += square(piece + i);
+            sum1 += square(piece + i + kWidth);
+            sum2 += square(piece + i + 2 * kWidth);
+            sum3 += square(piece + i + 3 * kWidth);
         }
-        for (std::ptrdiff_t half = kLanes / 2; half > 0; half /= 2)
-            for (std::ptrdiff_t j = 0; j < half; ++j) lane[j] += lane[j + half];
-        sum.add(lane[0]);
+        for (; i + kWidth <= length; i += kWidth) sum0 += square(piece + i);
+        const Lanes total = (sum0 + sum1) + (sum2 + sum3);
+        double rest = 0.0;
+        for (; i < length; ++i) {
+            const double scaled = piece[i] * factor;
+            rest += scaled * scaled;
+        }
+        sum.add(((total[0] + total[1]) + (total[2] + total[3])) + ((total[4] + total[5]) + (total[6] + total[7])));
+        sum.add(rest);
     }
 }
 
 // Greatest |x[i]| of all that are not NaN, not less than `least`.
 KOR_CLONES double greatest_contiguous(std::ptrdiff_t n, const double *x, double least)
 {
-    double lane[kLanes];
-    for (double &greatest : lane) greatest = least;
+    Lanes greatest0 = Lanes{} + least, greatest1 = greatest0, greatest2 = greatest0, greatest3 = greatest0;
     std::ptrdiff_t i = 0;
-    for (; i + kLanes <= n; i += kLanes)
-        for (std::ptrdiff_t j = 0; j < kLanes; ++j) {
-            const double a = std::fabs(x[i + j]);
-            lane[j] = a > lane[j] ? a : lane[j];
-        }
+    for (; i + kStride <= n; i += kStride) {
+        greatest0 = greater(absolute(load(x + i)), greatest0);
+        greatest1 = greater(absolute(load(x + i + kWidth)), greatest1);
+        greatest2 = greater(absolute(load(x + i + 2 * kWidth)), greatest2);
+        greatest3 = greater(absolute(load(x + i + 3 * kWidth)), greatest3);
+    }
+    const Lanes all = greater(greater(greatest0, greatest1), greater(greatest2, greatest3));
+    double greatest = least;
+    for (std::ptrdiff_t j = 0; j < kWidth; ++j) greatest = all[j] > greatest ? all[j] : greatest;
     for (; i < n; ++i) {
         const double a = std::fabs(x[i]);
-        lane[0] = a > lane[0] ? a : lane[0];
+        greatest = a > greatest ? a : greatest;
     }
-    double greatest = least;
-    for (const double a : lane) greatest = a > greatest ? a : greatest;
     return greatest;
+}
+
+// The greatest size so far in each lane, and where it stood.
+struct Greatest {
+    Lanes size = Lanes{} - 1.0;
+    Places place = {};
+    [[gnu::always_inline]] void take(Lanes sizes, std::ptrdiff_t at)
+    {
+        const Places more = sizes > size;
+        size = more ? sizes : size;
+        place = more ? Places{} + at : place;
+    }
+};
+
+// Index of the first greatest of n sizes, none of them negative, the first no NaN: sizes(i) are eight from i on, size(i)
+// is one.
+template <class Sizes, class Size>
+[[gnu::always_inline]] inline std::ptrdiff_t first_greatest(std::ptrdiff_t n, Sizes sizes, Size size)
+{
+    Greatest even, odd;
+    std::ptrdiff_t i = 0;
+    for (; i + 2 * kWidth <= n; i += 2 * kWidth) {
+        even.take(sizes(i), i);
+        odd.take(sizes(i + kWidth), i + kWidth);
+    }
+    double greatest = -1.0;
+    std::int64_t index = 0;
+    for (const Greatest &lanes : {even, odd})
+        for (std::ptrdiff_t j = 0; j < kWidth; ++j) {
+            const std::int64_t place = lanes.place[j] + j;
+            if (lanes.size[j] > greatest || (lanes.size[j] == greatest && place < index)) {
+                greatest = lanes.size[j];
+                index = place;
+            }
+        }
+    for (; i < n; ++i)
+        if (size(i) > greatest) {
+            greatest = size(i);
+            index = i;
+        }
+    return static_cast<std::ptrdiff_t>(index);
+}
+KOR_CLONES std::ptrdiff_t first_greatest_contiguous(std::ptrdiff_t n, const double *x)
+{
+    return first_greatest(
+        n, [=](std::ptrdiff_t i) __attribute__((always_inline)) { return absolute(load(x + i)); },
+        [=](std::ptrdiff_t i) __attribute__((always_inline)) { return std::fabs(x[i]); });
+}
+KOR_CLONES std::ptrdiff_t first_greatest_contiguous(std::ptrdiff_t n, const Complex *x)
+{
+    return first_greatest(
+        n,
+        [=](std::ptrdiff_t i) __attribute__((always_inline)) {
+            const double *const parts = reinterpret_cast<const double *>(x + i);
+            const Lanes low = absolute(load(parts)), high = absolute(load(parts + kWidth));
+            return __builtin_shufflevector(low, high, 0, 2, 4, 6, 8, 10, 12, 14) +
+                   __builtin_shufflevector(low, high, 1, 3, 5, 7, 9, 11, 13, 15);
+        },
+        [=](std::ptrdiff_t i) __attribute__((always_inline)) { return std::fabs(x[i].re) + std::fabs(x[i].im); });
 }
 
 // Calls work(numbers, count) on the elements of x as runs of real numbers: on x itself if it is contiguous, else on
@@ -166,17 +255,62 @@ void add_squares_of(ScaledSquares &norm, Integer n, const T *x, Integer incx)
     norm.scale = scale;
 }
 
+// The sum of squares of a few numbers: in place, two terms at a time.
+double few_squares(Integer n, const double *x, Integer incx)
+{
+    const Strided<const double> u{x, n, incx};
+    Sum even, odd;
+    Integer i = 0;
+    for (; i + 1 < n; i += 2) {
+        even.add(u[i] * u[i]);
+        odd.add(u[i + 1] * u[i + 1]);
+    }
+    if (i < n) even.add(u[i] * u[i]);
+    return even.value() + odd.value();
+}
+double few_squares(Integer n, const Complex *x, Integer incx)
+{
+    const Strided<const Complex> u{x, n, incx};
+    Sum real, imaginary;
+    for (Integer i = 0; i < n; ++i) {
+        real.add(u[i].re * u[i].re);
+        imaginary.add(u[i].im * u[i].im);
+    }
+    return real.value() + imaginary.value();
+}
+
 template <class T>
 double euclidean_norm_of(Integer n, const T *x, Integer incx)
 {
+    constexpr Integer kFew = 64 * sizeof(double) / sizeof(T) / 2;
     if (n <= 0) return 0.0;
-    const double plain = sum_of_squares(n, x, incx, 1.0);
+    const double plain = n <= kFew ? few_squares(n, x, incx) : sum_of_squares(n, x, incx, 1.0);
     if (plain > kLeastSquare && plain <= kLargest) return std::sqrt(plain);
 
     const double greatest = greatest_part(n, x, incx, 0.0);
     if (greatest == 0.0 || std::isinf(greatest)) return plain; // 0, infinity, or NaN
     const double factor = scaling_of(greatest);
     return std::sqrt(sum_of_squares(n, x, incx, factor)) / factor;
+}
+
+template <class T>
+Integer index_of_greatest_of(Integer n, const T *x, Integer incx)
+{
+    constexpr Integer kFew = 32; // lanes do not pay
+    if (n <= 0) return -1;
+    const Strided<const T> u{x, n, incx};
+    double greatest = modulus_sum(u[0]);
+    if (std::isnan(greatest)) return 0;
+    if (incx == 1 && n > kFew) return static_cast<Integer>(first_greatest_contiguous(n, x));
+
+    // The value first, then its place: two loops without a branch that could be guessed wrong.
+    for (Integer i = 1; i < n; ++i) {
+        const double a = modulus_sum(u[i]);
+        greatest = a > greatest ? a : greatest;
+    }
+    Integer index = 0;
+    while (modulus_sum(u[index]) != greatest) ++index;
+    return index;
 }
 
 } // namespace
@@ -198,34 +332,7 @@ double euclidean_norm(Integer n, const double *x, Integer incx)
 }
 double euclidean_norm(Integer n, const Complex *x, Integer incx) { return euclidean_norm_of(n, x, incx); }
 
-Integer index_of_greatest(Integer n, const double *x, Integer incx)
-{
-    if (n <= 0) return -1;
-    const Strided<const double> u{x, n, incx};
-    if (std::isnan(u[0])) return 0;
-    if (incx == 1) {
-        // The value first: without an index to carry, the search for it runs in lanes.
-        const double greatest = greatest_contiguous(n, x, -1.0);
-        return static_cast<Integer>(std::find_if(x, x + n, [=](double a) { return std::fabs(a) == greatest; }) - x);
-    }
-    Integer greatest = 0;
-    for (Integer i = 1; i < n; ++i)
-        if (std::fabs(u[i]) > std::fabs(u[greatest])) greatest = i;
-    return greatest;
-}
-
-Integer index_of_greatest(Integer n, const Complex *x, Integer incx)
-{
-    if (n <= 0) return -1;
-    const Strided<const Complex> u{x, n, incx};
-    Integer index = 0;
-    double greatest = modulus_sum(u[0]);
-    for (Integer i = 1; i < n; ++i)
-        if (const double a = modulus_sum(u[i]); a > greatest) {
-            index = i;
-            greatest = a;
-        }
-    return index;
-}
+Integer index_of_greatest(Integer n, const double *x, Integer incx) { return index_of_greatest_of(n, x, incx); }
+Integer index_of_greatest(Integer n, const Complex *x, Integer incx) { return index_of_greatest_of(n, x, incx); }
 
 } // namespace kor::linalg

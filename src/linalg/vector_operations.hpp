@@ -9,19 +9,21 @@
 
 namespace kor::linalg {
 
-// Up to this length a loop in place is quicker than the call of BLAS. Measured: bench/linalg/bench_overhead.
-inline constexpr Integer kShortVector = 8;
+// Up to this length a loop in place is quicker than the call of BLAS: see bench/linalg/bench_operations.
+template <Scalar T>
+inline constexpr Integer kShortVector = std::is_same_v<T, double> ? 8 : 4;
 
-inline bool plain_loop(Integer n, Integer incx, Integer incy = 1)
+template <Scalar T>
+bool plain_loop(Integer n, Integer incx, Integer incy = 1)
 {
-    return n <= kShortVector || incx == 0 || incy == 0;
+    return n <= kShortVector<T> || incx == 0 || incy == 0;
 }
 
 // conj(x)' y
 template <Scalar T>
 T dot(Integer n, const T *x, Integer incx, const T *y, Integer incy)
 {
-    if (!plain_loop(n, incx, incy)) return blas::dot(n, x, incx, y, incy);
+    if (!plain_loop<T>(n, incx, incy)) return blas::dot(n, x, incx, y, incy);
     const Strided<const T> u{x, n, incx}, v{y, n, incy};
     T sum{};
     for (Integer i = 0; i < n; ++i) sum += conj(u[i]) * v[i];
@@ -30,10 +32,10 @@ T dot(Integer n, const T *x, Integer incx, const T *y, Integer incy)
 
 // y := alpha x + y
 template <Scalar T>
-void axpy(Integer n, T alpha, const T *x, Integer incx, T *y, Integer incy)
+void axpy(Integer n, const T &alpha, const T *x, Integer incx, T *y, Integer incy)
 {
     if (n <= 0 || alpha == T{}) return;
-    if (!plain_loop(n, incx, incy)) return blas::axpy(n, alpha, x, incx, y, incy);
+    if (!plain_loop<T>(n, incx, incy)) return blas::axpy(n, alpha, x, incx, y, incy);
     const Strided<const T> u{x, n, incx};
     const Strided<T> v{y, n, incy};
     for (Integer i = 0; i < n; ++i) v[i] += alpha * u[i];
@@ -41,9 +43,9 @@ void axpy(Integer n, T alpha, const T *x, Integer incx, T *y, Integer incy)
 
 // x := alpha x. BLAS libraries take alpha = 0 for an order to clear x; here a NaN or an infinity shows in the result.
 template <Scalar T, Scalar Factor>
-void scal(Integer n, Factor alpha, T *x, Integer incx)
+void scal(Integer n, const Factor &alpha, T *x, Integer incx)
 {
-    if (!plain_loop(n, incx) && !(alpha == Factor{})) return blas::scal(n, alpha, x, forward(incx));
+    if (!plain_loop<T>(n, incx) && !(alpha == Factor{})) return blas::scal(n, alpha, x, forward(incx));
     const Strided<T> u{x, n, incx};
     for (Integer i = 0; i < n; ++i) u[i] = alpha * u[i];
 }
@@ -52,7 +54,7 @@ void scal(Integer n, Factor alpha, T *x, Integer incx)
 template <Scalar T>
 void copy(Integer n, const T *x, Integer incx, T *y, Integer incy)
 {
-    if (!plain_loop(n, incx, incy)) return blas::copy(n, x, incx, y, incy);
+    if (!plain_loop<T>(n, incx, incy)) return blas::copy(n, x, incx, y, incy);
     const Strided<const T> u{x, n, incx};
     const Strided<T> v{y, n, incy};
     for (Integer i = 0; i < n; ++i) v[i] = u[i];
@@ -61,7 +63,7 @@ void copy(Integer n, const T *x, Integer incx, T *y, Integer incy)
 template <Scalar T>
 void swap(Integer n, T *x, Integer incx, T *y, Integer incy)
 {
-    if (!plain_loop(n, incx, incy)) return blas::swap(n, x, incx, y, incy);
+    if (!plain_loop<T>(n, incx, incy)) return blas::swap(n, x, incx, y, incy);
     const Strided<T> u{x, n, incx}, v{y, n, incy};
     for (Integer i = 0; i < n; ++i) {
         const T kept = u[i];
@@ -73,7 +75,7 @@ void swap(Integer n, T *x, Integer incx, T *y, Integer incy)
 // x := c x + s y, y := c y - s x
 inline void rot(Integer n, double *x, Integer incx, double *y, Integer incy, double c, double s)
 {
-    if (!plain_loop(n, incx, incy)) return blas::rot(n, x, incx, y, incy, c, s);
+    if (!plain_loop<double>(n, incx, incy)) return blas::rot(n, x, incx, y, incy, c, s);
     const Strided<double> u{x, n, incx}, v{y, n, incy};
     for (Integer i = 0; i < n; ++i) turn(u[i], v[i], c, s);
 }
@@ -82,7 +84,7 @@ inline void rot(Integer n, double *x, Integer incx, double *y, Integer incy, dou
 template <Scalar T>
 double asum(Integer n, const T *x, Integer incx)
 {
-    if (!plain_loop(n, incx)) return blas::asum(n, x, forward(incx));
+    if (!plain_loop<T>(n, incx)) return blas::asum(n, x, forward(incx));
     const Strided<const T> u{x, n, incx};
     double sum = 0.0;
     for (Integer i = 0; i < n; ++i) sum += modulus_sum(u[i]);
