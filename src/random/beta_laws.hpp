@@ -32,7 +32,7 @@ class BetaAbove1 {
         const double s = (y - kLog4) - a_ * e.defect;
         const double rest = sum_ * lane_log1p(share_ * (v + e.defect)).defect;
         const double x = (of_a_ * w + of_b_ * b_) / (b_ + w);
-        return {x, s + rest >= lane_log(u1 * u1 * u2)};
+        return {x, u1 * u1 * u2, s + rest};
     }
 
   private:
@@ -68,7 +68,7 @@ class BetaBelow1 {
         // w / (b + w) = part / (part + other)
         const double part = positive ? a_ : a_ * decay, other = positive ? b_ * decay : b_;
         const double x = (of_a_ * part + of_b_ * other) / (part + other);
-        return {x, log_ratio - kLog4 >= lane_log(u1 * u1 * u2)};
+        return {x, u1 * u1 * u2, log_ratio - kLog4};
     }
 
   private:

@@ -19,13 +19,32 @@ namespace lane {
 KOR_LANE std::uint64_t bits(double x) { return std::bit_cast<std::uint64_t>(x); }
 KOR_LANE double real(std::uint64_t bits) { return std::bit_cast<double>(bits); }
 
+// a or b without a branch, where a processor could only guess.
+KOR_LANE double choose(bool first, double a, double b)
+{
+    const std::uint64_t mask = 0 - static_cast<std::uint64_t>(first);
+    return real((bits(a) & mask) | (bits(b) & ~mask));
+}
+
+// By halves, not from one end: what counts is the length of the chain of operations.
+template <std::size_t first, std::size_t count, std::size_t n>
+KOR_LANE double polynomial_part(const std::array<double, n> &coefficient, const double (&power)[4])
+{
+    if constexpr (count == 1) {
+        return coefficient[first];
+    } else {
+        constexpr std::size_t half = std::bit_ceil(count) / 2;
+        return polynomial_part<first, half>(coefficient, power) +
+               power[std::countr_zero(half)] * polynomial_part<first + half, count - half>(coefficient, power);
+    }
+}
+
 template <std::size_t n>
 KOR_LANE double polynomial(const std::array<double, n> &coefficient, double x)
 {
-    double sum = coefficient[n - 1];
-#pragma GCC unroll 16
-    for (int i = static_cast<int>(n) - 2; i >= 0; --i) sum = sum * x + coefficient[i];
-    return sum;
+    static_assert(n <= 16);
+    const double x2 = x * x, x4 = x2 * x2;
+    return polynomial_part<0, n>(coefficient, {x, x2, x4, x4 * x4});
 }
 
 // 2^52 and, for signed values, 2^52 + 2^51: added to a small integer they put it into the last bits of the fraction.

@@ -5,6 +5,7 @@
 #include <kor/g05.h>
 
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
 
@@ -15,6 +16,7 @@
 namespace {
 
 using namespace kor::random;
+using lane::choose;
 
 constexpr double kSmallMean = 7.5;
 constexpr double kLargestMean = 1073741823.5;
@@ -36,6 +38,7 @@ PoissonConstants constants_of(double mean)
     const double root = std::sqrt(1.0 / mean), height = 1.0 + 0.0435 / mean;
     c.centre = mean + 0.5;
     c.hat_scale = 0.2 * root + 1.051 / root + 0.305;
+    c.shift = 0.5 / c.hat_scale;
     c.hat_height = height;
     c.lower_height = height * (1.0 - 0.13 / mean);
     c.upper_height = height * (1.0 + 0.25 * root);
@@ -88,25 +91,27 @@ double log_relative_mass(PoissonConstants &c, double k)
 
 Integer by_ratio_of_uniforms(State &state)
 {
+    constexpr double kBeyond = 0x1p62, kLargest = std::numeric_limits<Integer>::max();
     PoissonConstants &c = state.poisson;
     for (;;) {
         const double u = 2.0 * uniform(state) - 1.0, v = 2.0 * uniform(state) - 1.0;
         if (u == 0.0 && v == 0.0) continue;
-        const double t = std::fabs(v) < std::fabs(u) ? v / (u * u) : u / (v * v);
+        const bool steep = std::fabs(v) < std::fabs(u);
+        const double t = choose(steep, v, u) / choose(steep, u * u, v * v);
         const double y = c.centre + c.hat_scale * t;
         if (y < 0.0) continue;
-        const double k = std::trunc(y); // as a double: far out under the hat it is beyond every integer
+        // Far out under the hat y is beyond every integer.
+        const auto k = static_cast<double>(static_cast<std::int64_t>(y < kBeyond ? y : kBeyond));
 
-        const double q = t + 0.5 / c.hat_scale;
-        const double lower = c.lower_height * (q <= 0.0 ? 1.0 + c.lower_left * q : 1.0 - c.lower_right * q);
-        const double hat = std::fabs(t) <= 1.0 ? c.hat_height : c.hat_height / std::fabs(t * t * t);
-        const double w = uniform(state) * hat;
-        if (w > lower) {
-            const double r = c.upper_curvature * q * q;
+        const double q = t + c.shift;
+        const double lower = c.lower_height * (1.0 + choose(q <= 0.0, c.lower_left, -c.lower_right) * q);
+        const double far = std::fabs(t * t * t), fall = far > 1.0 ? far : 1.0;
+        const double under_hat = uniform(state) * c.hat_height;
+        if (under_hat > lower * fall) {
+            const double w = under_hat / fall, r = c.upper_curvature * q * q;
             if (c.upper_height - r + 0.5 * r * r < w) continue;
             if (!(lane_log(w) <= log_relative_mass(c, k))) continue;
         }
-        constexpr double kLargest = std::numeric_limits<Integer>::max();
         return static_cast<Integer>(k < kLargest ? k : kLargest);
     }
 }

@@ -14,12 +14,12 @@ using namespace kor::random;
 
 constexpr double kLargestParameter = 1e300;
 
-KOR_CLONES void try_above_1(BetaAbove1 law, std::ptrdiff_t trials, const double *u, double *x, std::int64_t *taken)
+KOR_CLONES void try_above_1(BetaAbove1 law, std::ptrdiff_t trials, const double *u, double *x, double *taken)
 {
     trial_loop(law, trials, u, x, taken);
 }
 
-KOR_CLONES void try_below_1(BetaBelow1 law, std::ptrdiff_t trials, const double *u, double *x, std::int64_t *taken)
+KOR_CLONES void try_below_1(BetaBelow1 law, std::ptrdiff_t trials, const double *u, double *x, double *taken)
 {
     trial_loop(law, trials, u, x, taken);
 }

@@ -15,12 +15,12 @@ using namespace kor::random;
 constexpr double kLargestShape = 1e300;
 constexpr std::ptrdiff_t kChunk = 1024; // numbers that stay in the first-level cache between two passes
 
-KOR_CLONES void try_above_1(GammaAbove1 law, std::ptrdiff_t trials, const double *u, double *x, std::int64_t *taken)
+KOR_CLONES void try_above_1(GammaAbove1 law, std::ptrdiff_t trials, const double *u, double *x, double *taken)
 {
     trial_loop(law, trials, u, x, taken);
 }
 
-KOR_CLONES void try_below_1(GammaBelow1 law, std::ptrdiff_t trials, const double *u, double *x, std::int64_t *taken)
+KOR_CLONES void try_below_1(GammaBelow1 law, std::ptrdiff_t trials, const double *u, double *x, double *taken)
 {
     trial_loop(law, trials, u, x, taken);
 }

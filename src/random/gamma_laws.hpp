@@ -13,11 +13,12 @@ class GammaAbove1 {
 
     KOR_LANE Trial trial(double u, double v) const
     {
+        constexpr double kNever = -1e3; // below log z
         const double w = u * (1.0 - u), y = (u - 0.5) * std::sqrt(spread_ / w), x = mode_ + y;
         const double z = 64.0 * w * w * w * v * v;
         // (mode) log(x / mode) - y, without the cancellation of large shapes.
         const double log_ratio = -mode_ * lane_log1p(y / mode_).defect;
-        return {x, (x > 0.0) & (lane_log(z) <= 2.0 * log_ratio)};
+        return {x, z, x > 0.0 ? 2.0 * log_ratio : kNever};
     }
 
   private:
@@ -41,7 +42,7 @@ class GammaBelow1 {
         const double power = cut_ * lane_exp(log_part / shape_).value;
         const double x = inner ? power : cut_ - log_part;
         const double log_accept = inner ? -x : -cut_ * lane_log(inner ? 1.0 : x / cut_);
-        return {x, v <= lane_exp(log_accept).value};
+        return {x, v, log_accept};
     }
 
   private:

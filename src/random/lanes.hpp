@@ -26,21 +26,28 @@ KOR_LANE void exponential_loop(std::ptrdiff_t n, double scale, double *__restric
     for (std::ptrdiff_t i = 0; i < n; ++i) x[i] = -scale * lane_log(x[i]);
 }
 
-// A trial of a rejection sampler: a candidate, and whether it is taken (1 or 0).
+// A trial of a rejection sampler: the candidate x is taken if log z is at most `limit`.
 struct Trial {
-    double x;
-    std::int64_t taken;
+    double x, z, limit;
 };
 
-// Tries u[2i], u[2i+1] for each i. `Law::trial(u1, u2)` must be inline and without branches.
+// Tries u[2i], u[2i+1] for each i; taken[i] is 1 or 0. `Law::trial(u1, u2)` must be inline and without branches. In two
+// loops: the chain of operations for one element is long, and shorter ones overlap better.
 template <class Law>
 KOR_LANE void trial_loop(const Law law, std::ptrdiff_t trials, const double *__restrict u, double *__restrict x,
-                         std::int64_t *__restrict taken)
+                         double *__restrict taken)
 {
-    for (std::ptrdiff_t i = 0; i < trials; ++i) {
-        const Trial trial = law.trial(u[2 * i], u[2 * i + 1]);
-        x[i] = trial.x;
-        taken[i] = trial.taken;
+    constexpr std::ptrdiff_t kGroup = 64;
+    double z[kGroup], limit[kGroup];
+    for (std::ptrdiff_t done = 0; done < trials; done += kGroup) {
+        const std::ptrdiff_t count = trials - done < kGroup ? trials - done : kGroup;
+        for (std::ptrdiff_t i = 0; i < count; ++i) {
+            const Trial trial = law.trial(u[2 * (done + i)], u[2 * (done + i) + 1]);
+            x[done + i] = trial.x;
+            z[i] = trial.z;
+            limit[i] = trial.limit;
+        }
+        for (std::ptrdiff_t i = 0; i < count; ++i) taken[done + i] = lane_log(z[i]) <= limit[i] ? 1.0 : 0.0;
     }
 }
 

@@ -40,7 +40,8 @@ void report_too_short(const Report &report, double needed, Integer nr)
 
 void set_reference(const double weights[], std::ptrdiff_t points, bool cumulative, double first, double r[], Integer nr)
 {
-    const std::ptrdiff_t cells = std::min<std::ptrdiff_t>(nr - kReferenceHead - points, kCellsPerPoint * points);
+    const std::ptrdiff_t cells =
+        std::min<std::ptrdiff_t>(nr - kReferenceHead - points - kReferenceTail, kCellsPerPoint * points);
     double *const cell = r + kReferenceHead, *const table = cell + cells;
 
     CarefulSum sum;
@@ -51,6 +52,7 @@ void set_reference(const double weights[], std::ptrdiff_t points, bool cumulativ
     }
     const double total = table[points - 1];
     for (std::ptrdiff_t k = 0; k < points; ++k) table[k] /= total;
+    std::fill(table + points, table + points + kReferenceTail, 1.0);
 
     std::ptrdiff_t entry = 0;
     for (std::ptrdiff_t i = 0; i < cells; ++i) {

@@ -21,13 +21,13 @@ void sample_by_rejection(State &state, const Tries tries, std::ptrdiff_t n, doub
         const std::ptrdiff_t wanted = n + n / 2 + 1;
         const std::ptrdiff_t trials = std::min(kTrials, (wanted + kTrialStep - 1) / kTrialStep * kTrialStep);
         double u[2 * kTrials], candidate[kTrials];
-        std::int64_t taken[kTrials];
+        double taken[kTrials];
         ahead.peek(2 * trials, u);
         tries(trials, u, candidate, taken);
         std::ptrdiff_t tried = 0, kept = 0;
         for (; tried < trials && kept < n; ++tried) {
             x[kept] = candidate[tried];
-            kept += taken[tried];
+            kept += taken[tried] > 0.0;
         }
         ahead.draw(2 * tried);
         x += kept;

@@ -5,15 +5,29 @@
 // with no exponential. What is left of the last number is uniform again: it gives the sign and the next call's fraction.
 #include "random/standard_normal.hpp"
 
+#include <algorithm>
+
+#include "random/elementary.hpp"
 #include "random/standard_normal_tables.hpp"
 
 namespace kor::random {
 
+namespace {
+
+// How often v, at most 1, must be doubled to exceed 1/2, but not beyond the table: the exponent of the next smaller double
+// tells. What is not positive never gets there.
+std::size_t interval_of(double v)
+{
+    constexpr std::uint64_t kHalfExponent = 1022;
+    constexpr std::uint64_t kLast = kDyadicQuantiles.size() - 2;
+    return static_cast<std::size_t>(std::min(kHalfExponent - ((lane::bits(v) - 1) >> lane::kFractionBits), kLast));
+}
+
+} // namespace
+
 double standard_normal(State &state)
 {
-    constexpr int kLastInterval = static_cast<int>(kDyadicQuantiles.size()) - 2;
-    int interval = 0;
-    for (double v = state.normal_fraction; !(v > 0.5) && interval < kLastInterval; v += v) ++interval;
+    const std::size_t interval = interval_of(std::min(state.normal_fraction, 1.0));
     const double left = kDyadicQuantiles[interval], width = kDyadicQuantiles[interval + 1] - left;
 
     for (double u = uniform(state);;) {
@@ -26,14 +40,10 @@ double standard_normal(State &state)
             next = uniform(state);
         }
         if (t <= next) {
-            const double fraction = (next - t) / (1.0 - t);
-            const double size = w + left;
-            if (fraction > 0.5) {
-                state.normal_fraction = 2.0 * fraction - 1.0;
-                return -size;
-            }
-            state.normal_fraction = 2.0 * fraction;
-            return size;
+            const double twice = 2.0 * ((next - t) / (1.0 - t));
+            const bool upper = twice > 1.0;
+            state.normal_fraction = lane::choose(upper, twice - 1.0, twice);
+            return lane::choose(upper, -(w + left), w + left);
         }
         u = (t - next) / (1.0 - next);
     }

@@ -18,7 +18,7 @@ inline constexpr double kFirstFraction = 1.0;
 // What g05drc keeps of the mean that it was last called with.
 struct PoissonConstants {
     double mean;                                  // 0: none yet
-    double centre, hat_scale, hat_height;         // k = trunc(centre + hat_scale t) under a hat of height hat_height
+    double centre, hat_scale, shift, hat_height;  // k = trunc(centre + hat_scale t) under a hat of height hat_height
     double lower_height, lower_left, lower_right; // the bound below which t is accepted at once
     double upper_height, upper_curvature;         // the bound above which it is rejected
     double root;                                  // sqrt(1 / mean)

@@ -25,14 +25,14 @@ constexpr int kPairs = 1024;
     attribute void box_muller_##suffix(const double *u, double *z) { box_muller_loop(kPairs, u, z); }                  \
     attribute void exponential_##suffix(double *x) { exponential_loop(2 * kPairs, 1.75, x); }                          \
     template <class Law>                                                                                               \
-    attribute void trials_##suffix(Law law, const double *u, double *x, std::int64_t *taken)                           \
+    attribute void trials_##suffix(Law law, const double *u, double *x, double *taken)                                 \
     {                                                                                                                  \
         trial_loop(law, kPairs, u, x, taken);                                                                          \
     }                                                                                                                  \
     attribute Values all_##suffix(const Values &u)                                                                     \
     {                                                                                                                  \
         Values all(2 * kPairs), x(kPairs), exponential = u;                                                            \
-        std::vector<std::int64_t> taken(kPairs);                                                                       \
+        Values taken(kPairs);                                                                                          \
         box_muller_##suffix(u.data(), all.data());                                                                     \
         exponential_##suffix(exponential.data());                                                                      \
         all.insert(all.end(), exponential.begin(), exponential.end());                                                 \
