@@ -1,6 +1,7 @@
 // Accuracy of the special functions but the Bessel family, over their whole domains, against Arb.
 #include "sweep.hpp"
 
+#include <acb_elliptic.h>
 #include <arb_hypgeom.h>
 
 #include <boost/math/distributions/normal.hpp>
@@ -18,6 +19,7 @@
 #include <kor/s14.h>
 #include <kor/s15.h>
 #include <kor/s20.h>
+#include <kor/s21.h>
 
 #include "special/elementary.hpp"
 
@@ -229,6 +231,76 @@ void run_incomplete_gamma(long count)
     arb_clear(a), arb_clear(x), arb_clear(y);
 }
 
+// Carlson's integrals at random arguments: three spreads, from one binade to thirty, some with a zero.
+void run_carlson(long count)
+{
+    struct Integral {
+        const char *name;
+        double (*f)(const double *);
+        double (*peer)(const double *);
+        void (*truth)(acb_t, acb_srcptr);
+    };
+    static KorError fail{};
+    const Integral integrals[] = {
+        {"s21bac", [](const double *w) { return s21bac(w[0], w[1], &fail); },
+         [](const double *w) { return boost::math::ellint_rc(w[0], w[1], Policy{}); },
+         [](acb_t y, acb_srcptr w) { acb_elliptic_rf(y, w, w + 1, w + 1, 0, kBits); }},
+        {"s21bac<0", [](const double *w) { return s21bac(w[0], -w[1], &fail); },
+         [](const double *w) { return boost::math::ellint_rc(w[0], -w[1], Policy{}); },
+         [](acb_t y, acb_srcptr w) {
+             acb_t a, b;
+             acb_init(a), acb_init(b);
+             acb_add(a, w, w + 1, kBits);
+             acb_elliptic_rf(y, a, w + 1, w + 1, 0, kBits);
+             acb_div(b, w, a, kBits);
+             acb_sqrt(b, b, kBits);
+             acb_mul(y, y, b, kBits);
+             acb_clear(a), acb_clear(b);
+         }},
+        {"s21bbc", [](const double *w) { return s21bbc(w[0], w[1], w[2], &fail); },
+         [](const double *w) { return boost::math::ellint_rf(w[0], w[1], w[2], Policy{}); },
+         [](acb_t y, acb_srcptr w) { acb_elliptic_rf(y, w, w + 1, w + 2, 0, kBits); }},
+        {"s21bcc", [](const double *w) { return s21bcc(w[0], w[1], w[2], &fail); },
+         [](const double *w) { return boost::math::ellint_rd(w[0], w[1], w[2], Policy{}); },
+         [](acb_t y, acb_srcptr w) { acb_elliptic_rj(y, w, w + 1, w + 2, w + 2, 0, kBits); }},
+        {"s21bdc", [](const double *w) { return s21bdc(w[0], w[1], w[2], w[3], &fail); },
+         [](const double *w) { return boost::math::ellint_rj(w[0], w[1], w[2], w[3], Policy{}); },
+         [](acb_t y, acb_srcptr w) { acb_elliptic_rj(y, w, w + 1, w + 2, w + 3, 0, kBits); }},
+    };
+    acb_ptr w = _acb_vec_init(4);
+    acb_t y;
+    acb_init(y);
+    for (const Integral &integral : integrals)
+        for (const double spread : {0.5, 3.0, 20.0, 200.0}) {
+            std::mt19937_64 random{5};
+            std::uniform_real_distribution<double> uniform{-spread / 2, spread / 2};
+            sweep::Worst ours, peers;
+            for (long k = 0; k < count; ++k) {
+                double x[4];
+                for (double &v : x) v = std::exp(uniform(random));
+                if (k % 7 == 0) x[0] = 0.0;
+                for (int i = 0; i < 4; ++i) acb_set_d(w + i, x[i]);
+                integral.truth(y, w);
+                const double exact = arf_get_d(arb_midref(acb_realref(y)), ARF_RND_NEAR);
+                arf_t difference;
+                arf_init(difference);
+                const auto error = [&](double computed) {
+                    arf_set_d(difference, computed);
+                    arf_sub(difference, difference, arb_midref(acb_realref(y)), kBits, ARF_RND_NEAR);
+                    return std::fabs(arf_get_d(difference, ARF_RND_NEAR)) / sweep::ulp_of(exact);
+                };
+                ours.add(error(integral.f(x)), x[0]);
+                peers.add(error(integral.peer(x)), x[0]);
+                arf_clear(difference);
+            }
+            std::printf("%-9s spread %5g: worst %6.3f ulp mean %.3f over 2: %ld; boost %.3g mean %.3g\n", integral.name,
+                        spread, ours.error, ours.sum / count, ours.over, peers.error, peers.sum / count);
+            std::fflush(stdout);
+        }
+    _acb_vec_clear(w, 4);
+    acb_clear(y);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -239,6 +311,10 @@ int main(int argc, char **argv)
     }
     if (argc > 1 && !std::strcmp(argv[1], "incomplete")) {
         run_incomplete_gamma(argc > 2 ? std::atol(argv[2]) : 5000);
+        return 0;
+    }
+    if (argc > 1 && !std::strcmp(argv[1], "carlson")) {
+        run_carlson(argc > 2 ? std::atol(argv[2]) : 20000);
         return 0;
     }
     gsl_set_error_handler_off();

@@ -1,0 +1,10 @@
+#ifndef KOR_S21_H
+#define KOR_S21_H
+#include <kor.h>
+KOR_BEGIN_DECLS
+double s21bac(double x, double y, KorError *fail);
+double s21bbc(double x, double y, double z, KorError *fail);
+double s21bcc(double x, double y, double z, KorError *fail);
+double s21bdc(double x, double y, double z, double r, KorError *fail);
+KOR_END_DECLS
+#endif
