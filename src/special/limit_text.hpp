@@ -12,6 +12,7 @@ class LimitText {
         std::snprintf(text_, sizeof text_, format, limit);
     }
     operator const char *() const { return text_; }
+    const char *text() const { return text_; }
 
   private:
     char text_[24];

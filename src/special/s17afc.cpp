@@ -1,0 +1,24 @@
+// s17afc: the Bessel function J1.
+#include <kor/s17.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/bessel_jy.hpp"
+#include "special/bessel_limits.hpp"
+#include "special/limit_text.hpp"
+
+double s17afc(double x, KorError *fail)
+{
+    using namespace kor::special;
+    const kor::Report report{"s17afc", fail};
+    if (std::isnan(x)) return x;
+
+    if (std::fabs(x) > kLargestOscillating) {
+        report.error<NE_REAL_ARG_GT>("|x|", LimitText{kLargestOscillating}.text(), "x", x);
+        return bessel_amplitude(std::fabs(x));
+    }
+    const double value = bessel_j1(x);
+    report.success();
+    return value;
+}

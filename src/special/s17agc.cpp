@@ -1,0 +1,24 @@
+// s17agc: the Airy function Ai.
+#include <kor/s17.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/airy.hpp"
+#include "special/bessel_limits.hpp"
+#include "special/limit_text.hpp"
+
+double s17agc(double x, KorError *fail)
+{
+    using namespace kor::special;
+    const kor::Report report{"s17agc", fail};
+    if (std::isnan(x)) return x;
+
+    if (x < kSmallestAiry) {
+        report.error<NE_REAL_ARG_GT>("-x", LimitText{-kSmallestAiry, "%7.2g"}.text(), "x", x);
+        return 0.0;
+    }
+    const double value = airy_ai(x);
+    report.success();
+    return value;
+}

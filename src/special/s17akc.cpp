@@ -1,0 +1,28 @@
+// s17akc: the derivative of the Airy function Bi.
+#include <kor/s17.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/airy.hpp"
+#include "special/bessel_limits.hpp"
+#include "special/limit_text.hpp"
+
+double s17akc(double x, KorError *fail)
+{
+    using namespace kor::special;
+    const kor::Report report{"s17akc", fail};
+    if (std::isnan(x)) return x;
+
+    if (x < kSmallestAirySlope) {
+        report.error<NE_REAL_ARG_GT>("-x", LimitText{-kSmallestAirySlope, "%7.2g"}.text(), "x", x);
+        return 0.0;
+    }
+    if (x > kLargestBi) {
+        report.error<NE_REAL_ARG_GT>("x", LimitText{kLargestBi, "%7.4g"}.text(), "x", x);
+        return kBiSlopeAtLargest;
+    }
+    const double value = airy_bi_slope(x);
+    report.success();
+    return value;
+}

@@ -1,0 +1,27 @@
+// s18cdc: the scaled modified Bessel function exp(x) K1.
+#include <kor/s18.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "special/bessel_ik.hpp"
+#include "special/bessel_limits.hpp"
+
+double s18cdc(double x, KorError *fail)
+{
+    using namespace kor::special;
+    const kor::Report report{"s18cdc", fail};
+    if (std::isnan(x)) return x;
+
+    if (x <= 0.0) {
+        report.error<NE_REAL_ARG_LE>("x", "0.0", "x", x);
+        return 0.0;
+    }
+    if (x < kSmallestWithPole) {
+        report.error<NE_REAL_ARG_TOO_SMALL>(x);
+        return kK1AtPole;
+    }
+    const double value = std::isinf(x) ? 0.0 : scaled_bessel_k1(x);
+    report.success();
+    return value;
+}

@@ -1,0 +1,35 @@
+#include <kor/s17.h>
+#include <kor/s18.h>
+#include <kor/s19.h>
+
+#include "support/specimen.hpp"
+
+// Functions of one variable.
+#define BESSEL_SPECIMEN(name, x)                                                                                       \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        double value = 99.0;                                                                                           \
+        call([&](KorError *fail) { value = name(x, fail); });                                                          \
+        outputs(value);                                                                                                \
+    }
+
+BESSEL_SPECIMEN(s17acc, 12.3)
+BESSEL_SPECIMEN(s17adc, 12.3)
+BESSEL_SPECIMEN(s17aec, 1234.5)
+BESSEL_SPECIMEN(s17afc, -12.3)
+BESSEL_SPECIMEN(s17agc, -34.5)
+BESSEL_SPECIMEN(s17ahc, 12.3)
+BESSEL_SPECIMEN(s17ajc, -2.3)
+BESSEL_SPECIMEN(s17akc, 2.3)
+BESSEL_SPECIMEN(s18acc, 0.123)
+BESSEL_SPECIMEN(s18adc, 1.23)
+BESSEL_SPECIMEN(s18aec, 12.3)
+BESSEL_SPECIMEN(s18afc, 123.4)
+BESSEL_SPECIMEN(s18ccc, 0.123)
+BESSEL_SPECIMEN(s18cdc, 1.23)
+BESSEL_SPECIMEN(s18cec, -12.3)
+BESSEL_SPECIMEN(s18cfc, -123.4)
+BESSEL_SPECIMEN(s19aac, 12.3)
+BESSEL_SPECIMEN(s19abc, -12.3)
+BESSEL_SPECIMEN(s19acc, 12.3)
+BESSEL_SPECIMEN(s19adc, 123.4)
