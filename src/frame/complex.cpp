@@ -151,7 +151,7 @@ Complex power(Complex z, Integer n)
     Wide base{z.re, z.im};
     for (auto m = static_cast<std::uint64_t>(std::abs(static_cast<std::int64_t>(n))); m > 0; m /= 2) {
         if (m % 2 == 1) result = result * base;
-        if (m > 1) base = base * base; // an overflow in a square that nobody needs would poison the result
+        if (m > 1) base = base * base; // nobody needs the square after the last factor
     }
     if (n < 0) result = reciprocal(result);
     // Products of infinities end in NaN; the logarithm knows what they stand for.
