@@ -18,6 +18,12 @@ struct Elements {
     {
     }
     unsigned char *operator[](std::ptrdiff_t i) const { return first + i * stride; }
+    Elements from(std::ptrdiff_t i) const
+    {
+        Elements rest = *this;
+        rest.first = (*this)[i];
+        return rest;
+    }
     Elements reversed(std::ptrdiff_t n) const
     {
         Elements backwards = *this;
@@ -34,6 +40,11 @@ template <bool descending>
 constexpr bool sorts_after(Integer comparison)
 {
     return descending ? comparison < 0 : comparison > 0;
+}
+template <bool descending>
+constexpr bool sorts_before(Integer comparison)
+{
+    return descending ? comparison > 0 : comparison < 0;
 }
 
 // The size of an element: one that the compiler knows, so that a copy is one or two moves, or any other.
@@ -62,10 +73,35 @@ auto with_width(std::size_t size, Work &&work)
     }
 }
 
-template <class Width>
-void copy_element(Width width, unsigned char *to, const unsigned char *from)
+template <std::size_t bytes>
+void copy_element(FixedWidth<bytes>, unsigned char *to, const unsigned char *from)
 {
-    std::memcpy(to, from, width.size());
+    std::memcpy(to, from, bytes);
+}
+
+// Elements are short as a rule, and there are many: what a call costs counts. The pieces may overlap.
+inline void copy_element(AnyWidth width, unsigned char *to, const unsigned char *from)
+{
+    const std::size_t n = width.size();
+    const auto piece = [&](auto bytes, std::size_t at) { copy_element(bytes, to + at, from + at); };
+    if (n > 64) {
+        std::memcpy(to, from, n);
+    } else if (n >= 16) {
+        piece(FixedWidth<16>{}, 0);
+        if (n > 32) {
+            piece(FixedWidth<16>{}, 16);
+            piece(FixedWidth<16>{}, n - 32);
+        }
+        piece(FixedWidth<16>{}, n - 16);
+    } else if (n >= 8) {
+        piece(FixedWidth<8>{}, 0);
+        piece(FixedWidth<8>{}, n - 8);
+    } else if (n >= 4) {
+        piece(FixedWidth<4>{}, 0);
+        piece(FixedWidth<4>{}, n - 4);
+    } else {
+        for (std::size_t i = 0; i < n; ++i) to[i] = from[i];
+    }
 }
 
 template <std::size_t bytes>
@@ -82,6 +118,7 @@ inline void swap_elements(AnyWidth width, unsigned char *a, unsigned char *b)
 {
     std::size_t left = width.size();
     for (; left >= 16; left -= 16, a += 16, b += 16) swap_elements(FixedWidth<16>{}, a, b);
+    for (; left >= 8; left -= 8, a += 8, b += 8) swap_elements(FixedWidth<8>{}, a, b);
     for (; left >= 4; left -= 4, a += 4, b += 4) swap_elements(FixedWidth<4>{}, a, b);
     for (; left > 0; --left, ++a, ++b) swap_elements(FixedWidth<1>{}, a, b);
 }

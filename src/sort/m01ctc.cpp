@@ -6,6 +6,7 @@
 #include "sort/permutation.hpp"
 #include "sort/ranking.hpp"
 #include "sort/spare_element.hpp"
+#include "sort/stable_sort.hpp"
 
 void m01ctc(void *vec, Integer n, Integer size, Integer stride, Integer (*compare)(const void *a, const void *b),
             Integer order, KorError *fail)
@@ -15,14 +16,17 @@ void m01ctc(void *vec, Integer n, Integer size, Integer stride, Integer (*compar
     if (!sort_arguments_are_right(report, n, size, stride, order)) return;
     if (n < 2) return report.success();
 
-    const kor::Workspace<Integer> ranks{n};
-    const SpareElement spare{n, size};
-    if (!ranks || !spare) return report.error<NE_ALLOC_FAIL>();
-
     const Elements elements{vec, stride};
-    rank_elements(elements, n, compare, order, ranks.data());
-    invert_permutation(ranks.data(), n);
-    if (rearrange(elements, n, static_cast<std::size_t>(size), ranks.data(), spare.data()) != Permuted::done)
-        return report.error<NE_INTERNAL_ERROR>();
+    if (size <= kMergedSize) {
+        const kor::Workspace<unsigned char> buffer{kor::Count{n} * size};
+        if (!buffer) return report.error<NE_ALLOC_FAIL>();
+        merge_sort_elements(elements, n, static_cast<std::size_t>(size), compare, order, buffer.data());
+    } else {
+        const kor::Workspace<Integer> indices{n};
+        const SpareElement spare{n, size};
+        if (!indices || !spare) return report.error<NE_ALLOC_FAIL>();
+        order_elements(elements, n, compare, order, indices.data());
+        rearrange(elements, n, static_cast<std::size_t>(size), indices.data(), spare.data());
+    }
     report.success();
 }

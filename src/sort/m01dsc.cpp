@@ -2,6 +2,7 @@
 #include <kor/m01.h>
 
 #include "sort/arguments.hpp"
+#include "sort/permutation.hpp"
 #include "sort/ranking.hpp"
 
 void m01dsc(const void *vec, Integer n, Integer stride, Integer (*compare)(const void *a, const void *b), Integer order,
@@ -12,6 +13,7 @@ void m01dsc(const void *vec, Integer n, Integer stride, Integer (*compare)(const
     if (!order_is_right(report, order) || !count_is_right(report, n)) return;
     if (!stride_is_right(report, stride, greatest_stride(n, kMaxBytes), "p (p = %ld)")) return;
 
-    rank_elements({vec, stride}, n, compare, order, ranks);
+    order_elements({vec, stride}, n, compare, order, ranks);
+    invert_good_permutation(ranks, n);
     report.success();
 }

@@ -41,6 +41,42 @@ bool mark_places(Integer *rank, Integer n, Integer base)
     return true;
 }
 
+// Turns the cycles of a permutation over, all of whose indices are marked: each place receives, without a mark, the one that
+// leads to it.
+//
+// A walk goes from place to place until one is done. Several walks at once, from different starts, hide the time that
+// memory takes; where one comes to the start of another, that place is not yet done, and what follows is.
+void turn_cycles(Integer *rank, Integer n, Integer base)
+{
+    constexpr int walks = 8;
+    struct {
+        Integer from, place;
+    } walk[walks];
+    Integer next_start = 0;
+    const auto start = [&](auto &at) {
+        while (next_start < n && !is_marked(rank[next_start])) ++next_start;
+        if (next_start == n) return false;
+        at = {next_start, value_of(rank[next_start]) - base};
+        ++next_start;
+        return true;
+    };
+
+    int active = 0;
+    while (active < walks && start(walk[active])) ++active;
+    while (active > 0)
+        for (int i = 0; i < active; ++i) {
+            auto &[from, place] = walk[i];
+            const Integer next = rank[place];
+            if (is_marked(next)) {
+                rank[place] = from + base;
+                from = place;
+                place = value_of(next) - base;
+            } else if (!start(walk[i])) {
+                walk[i--] = walk[--active];
+            }
+        }
+}
+
 template <class Width>
 Permuted follow_cycles(Width width, Elements elements, Integer n, Integer *indices, unsigned char *spare)
 {
@@ -67,19 +103,21 @@ Permuted invert_permutation(Integer *rank, Integer n, Integer base)
 {
     if (!all_in_range(rank, n, base)) return Permuted::out_of_range;
     if (!mark_places(rank, n, base)) return Permuted::repeated;
-    for (Integer start = 0; start < n; ++start) {
-        if (!is_marked(rank[start])) continue;
-        Integer before = start;
-        Integer place = value_of(rank[start]) - base;
-        while (place != start) {
-            const Integer next = value_of(rank[place]) - base;
-            rank[place] = before + base;
-            before = place;
-            place = next;
-        }
-        rank[start] = before + base;
-    }
+    turn_cycles(rank, n, base);
     return Permuted::done;
+}
+
+void invert_good_permutation(Integer *rank, Integer n)
+{
+    constexpr Integer few = 1024;
+    if (n <= few) {
+        Integer copy[few];
+        std::copy_n(rank, n, copy);
+        for (Integer i = 0; i < n; ++i) rank[copy[i]] = i;
+    } else {
+        for (Integer i = 0; i < n; ++i) rank[i] = marked(rank[i]);
+        turn_cycles(rank, n, 0);
+    }
 }
 
 Permuted rearrange(Elements elements, Integer n, std::size_t size, Integer *indices, unsigned char *spare)

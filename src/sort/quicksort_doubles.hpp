@@ -21,24 +21,10 @@
 #include "sort/heap_sort.hpp"
 #include "sort/natural_runs.hpp"
 #include "sort/pending_parts.hpp"
+#include "sort/positions.hpp"
 
 namespace kor::sort {
 namespace { // each including file compiles it for a target of its own
-
-// Numbers that are random enough to look for a pivot by, the same in every call: a linear congruential sequence.
-class Positions {
-  public:
-    void advance() { state_ = state_ * 6364136223846793005u + 1442695040888963407u; }
-    // One of 0 to n-1, for each i another.
-    std::ptrdiff_t choose(int i, std::ptrdiff_t n) const
-    {
-        const uint64_t random = (state_ * static_cast<uint64_t>(2 * i + 1)) >> 32;
-        return static_cast<std::ptrdiff_t>(random * static_cast<uint64_t>(n) >> 32);
-    }
-
-  private:
-    uint64_t state_ = 123456789;
-};
 
 struct Pivot {
     double value;
@@ -174,8 +160,10 @@ std::ptrdiff_t sort_few_numbers(double *a, std::ptrdiff_t n)
             insertion_sort(a, n, run);
         else if (end_of_run<L, true>(a, 0, n) == n)
             reverse<L>(a, n);
-        else
+        else if (n <= Kernel::kShort)
             Kernel::sort_short(a, n);
+        else
+            quicksort<Kernel>(a, n);
     }
     if (any_negative_zero<L>(a, n)) order_zeros(a, n);
     return n;
@@ -185,7 +173,8 @@ std::ptrdiff_t sort_few_numbers(double *a, std::ptrdiff_t n)
 template <class Kernel>
 std::ptrdiff_t sort_numbers(double *a, std::ptrdiff_t n)
 {
-    if (n <= Kernel::kShort / 2) return sort_few_numbers<Kernel>(a, n);
+    constexpr std::ptrdiff_t few = 128; // it would take as long to look for runs as to sort
+    if (n <= few) return sort_few_numbers<Kernel>(a, n);
     std::ptrdiff_t numbers = merge_leading_runs<Kernel>(a, n);
     if (numbers < n) {
         const std::ptrdiff_t sorted = numbers, rest = quicksort<Kernel>(a + sorted, n - sorted);

@@ -1,52 +1,54 @@
-// Ranks of elements, by merging chains of their indices.
+// The order of elements that keep their place: their indices are sorted.
 #include "sort/ranking.hpp"
 
-#include "sort/chains.hpp"
+#include <numeric>
+#include <utility>
+
+#include "sort/comparison_sort.hpp"
 
 namespace kor::sort {
 
 namespace {
 
-constexpr Integer kNone = -1;
-
-// Elements chained through an array of indices.
+// Of two equal elements the one of the smaller index comes first: so the sort is stable, though it moves indices about.
 template <bool descending>
-struct IndexChain {
-    using Node = Integer;
+struct IndexSequence {
+    using Handle = Integer;
+    static constexpr bool kMayTie = false;
 
     Elements elements;
     Comparator compare;
-    Integer *successor;
+    Integer *indices;
 
-    static constexpr Node end() { return kNone; }
-    Node next(Node i) const { return successor[i]; }
-    void link(Node i, Node j) const { successor[i] = j; }
-    bool after(Node i, Node j) const { return sorts_after<descending>(compare(elements[i], elements[j])); }
-};
-
-template <bool descending>
-void rank_in_order(Elements elements, Integer n, Comparator compare, Integer *ranks)
-{
-    const IndexChain<descending> chain{elements, compare, ranks};
-    ChainSorter<IndexChain<descending>> sorter{chain};
-    for (Integer i = 0; i < n; ++i) sorter.add(i);
-
-    Integer rank = 0;
-    for (Integer i = sorter.finish(); i != kNone;) {
-        const Integer next = ranks[i];
-        ranks[i] = rank++;
-        i = next;
+    Handle at(std::ptrdiff_t i) const { return indices[i]; }
+    auto scan(std::ptrdiff_t i, std::ptrdiff_t step) const
+    {
+        return [p = indices + i, step]() mutable { return *std::exchange(p, p + step); };
     }
-}
+    bool before(Handle a, Handle b) const
+    {
+        const Integer sign = compare(elements[a], elements[b]);
+        return sorts_before<descending>(sign) | ((sign == 0) & (a < b));
+    }
+    void swap(std::ptrdiff_t i, std::ptrdiff_t j) const { std::swap(indices[i], indices[j]); }
+    void arrange(std::ptrdiff_t low, const Handle *handle, std::ptrdiff_t n) const
+    {
+        std::copy_n(handle, n, indices + low);
+    }
+};
 
 } // namespace
 
-void rank_elements(Elements elements, Integer n, Comparator compare, Integer order, Integer *ranks)
+void order_elements(Elements elements, Integer n, Comparator compare, Integer order, Integer *indices)
 {
-    if (order == Kor_Descending)
-        rank_in_order<true>(elements, n, compare, ranks);
-    else
-        rank_in_order<false>(elements, n, compare, ranks);
+    std::iota(indices, indices + n, 0);
+    if (order == Kor_Descending) {
+        const IndexSequence<true> sequence{elements, compare, indices};
+        ComparisonSort{sequence}.sort(n);
+    } else {
+        const IndexSequence<false> sequence{elements, compare, indices};
+        ComparisonSort{sequence}.sort(n);
+    }
 }
 
 } // namespace kor::sort

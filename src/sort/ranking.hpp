@@ -1,12 +1,12 @@
-// Ranks of elements.
+// The order of elements that keep their place.
 #pragma once
 
 #include "sort/elements.hpp"
 
 namespace kor::sort {
 
-// ranks[i] = rank of element i, from 0; equal elements rank in their order. Needs no memory beyond `ranks`. Whatever the
-// comparator says, the ranks are a permutation of 0 to n-1.
-void rank_elements(Elements elements, Integer n, Comparator compare, Integer order, Integer *ranks);
+// indices[k] = which element is the k-th in order, from 0; equal elements stay in their order. Needs no memory beyond
+// `indices`. Whatever the comparator says, the result is a permutation of 0 to n-1.
+void order_elements(Elements elements, Integer n, Comparator compare, Integer order, Integer *indices);
 
 } // namespace kor::sort

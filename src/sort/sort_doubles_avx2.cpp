@@ -15,6 +15,7 @@
 #include "sort/count_below.hpp"
 #include "sort/heap_sort.hpp"
 #include "sort/pending_parts.hpp"
+#include "sort/positions.hpp"
 
 #pragma GCC target("arch=x86-64-v3")
 // The intrinsics leave lanes that no one reads without a value.

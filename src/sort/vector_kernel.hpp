@@ -294,8 +294,8 @@ struct VectorKernel {
             sort_block<Small, 4>(a, n);
         } else if (n <= 8 * Small::width) {
             sort_block<Small, 8>(a, n);
-        } else if (n <= 8 * L::width) {
-            sort_block<L, 8>(a, n);
+        } else if (n <= 16 * Small::width) {
+            sort_block<Small, 16>(a, n);
         } else if (n <= 16 * L::width) {
             sort_block<L, 16>(a, n);
         } else if (n <= 24 * L::width) {

@@ -6,6 +6,7 @@
 
 #include <kor/m01.h>
 
+#include "sort/adversary.hpp"
 #include "sort/records.hpp"
 #include "sort/shapes.hpp"
 #include "support/expect_report.hpp"
@@ -51,7 +52,10 @@ TEST(Ranks, AgreeWithTheStableSortOnAllShapesAndSizes)
                     m01dsc(records.first(), n, stride, Records::compare, order, ranks.data(), &fail);
                     EXPECT_SUCCESS(fail);
                     ASSERT_EQ(ranks, stable_ranks(keys, order)) << shape.name << ", n = " << n;
-                    EXPECT_LE(Records::comparisons(), 1.0 + n * std::log2(n + 1.0)) << shape.name << ", n = " << n;
+                    // Sorting takes n log2 n - 1.44 n at least on average; order that is there takes n.
+                    const bool in_order = order == Kor_Ascending && std::is_sorted(keys.begin(), keys.end());
+                    const double most = in_order ? n : 1.1 * n * std::log2(n + 1.0) + 2.0;
+                    EXPECT_LE(Records::comparisons(), most) << shape.name << ", n = " << n;
                 }
 }
 
@@ -69,6 +73,20 @@ TEST(Ranks, ALyingComparatorStillGivesAPermutation)
         std::sort(ranks.begin(), ranks.end());
         for (int i = 0; i < n; ++i) ASSERT_EQ(ranks[static_cast<std::size_t>(i)], i);
     }
+}
+
+// As in the test of sorting: whatever pivot is chosen, it turns out to be bad.
+TEST(Ranks, NeverQuadratic)
+{
+    constexpr int n = 20000;
+    Adversary adversary{n};
+    std::vector<int> elements(n);
+    std::iota(elements.begin(), elements.end(), 0);
+    std::vector<Integer> ranks(n);
+    Record fail;
+    m01dsc(elements.data(), n, sizeof(int), Adversary::compare, Kor_Ascending, ranks.data(), &fail);
+    EXPECT_SUCCESS(fail);
+    EXPECT_LT(adversary.comparisons, 3.0 * n * std::log2(n));
 }
 
 TEST(Ranks, Refusals)
