@@ -531,10 +531,9 @@ double f06ejc(Integer n, const double x[], Integer incx);
 /// \par Errors
 /// None, and no error record: there is nothing to refuse.
 /// \par Accuracy
-/// At most about n times the precision, relative.
+/// At most about n/32 times the precision, relative.
 /// \par Method
-/// The standard operation dasum (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// The standard operation dasum (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323). Summed in 32 lanes.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1040,8 +1039,8 @@ void f06gcc(Integer n, Complex alpha, const Complex x[], Integer incx, Complex y
 /// \par Accuracy
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
-/// The standard operation zscal (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// The standard operation zscal (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323). In place; with an
+/// increment other than 1 or -1 from the BLAS library that is linked.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1357,10 +1356,9 @@ double f06jjc(Integer n, const Complex x[], Integer incx);
 /// \par Errors
 /// None, and no error record: there is nothing to refuse.
 /// \par Accuracy
-/// At most about n times the precision, relative.
+/// At most about n/16 times the precision, relative.
 /// \par Method
-/// The standard operation dzasum (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// The standard operation dzasum (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323). Summed in 32 lanes.
 /// \par Thread safety
 /// Safe.
 /// \par See also

@@ -31,7 +31,7 @@ KOR_BEGIN_DECLS
 /// geometric mean of two diagonal elements, in each element.
 /// \par Method
 /// The operation potrf of LAPACK (E. Anderson et al., LAPACK Users' Guide, 3rd ed., SIAM 1999), blocked, from the library
-/// that is linked.
+/// that is linked; up to order 24 elimination row by row.
 /// \par Thread safety
 /// Safe.
 /// \par See also

@@ -39,8 +39,6 @@ inline Complex dot(Integer n, const Complex *x, Integer incx, const Complex *y, 
     cblas_zdotc_sub(n, x, incx, y, incy, &sum);
     return sum;
 }
-inline double asum(Integer n, const double *x, Integer incx) { return cblas_dasum(n, x, incx); }
-inline double asum(Integer n, const Complex *x, Integer incx) { return cblas_dzasum(n, x, incx); }
 inline void rot(Integer n, double *x, Integer incx, double *y, Integer incy, double c, double s)
 {
     cblas_drot(n, x, incx, y, incy, c, s);

@@ -4,34 +4,16 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 
 #include "frame/constants.hpp"
 #include "frame/dispatch.hpp"
+#include "linalg/lanes.hpp"
 #include "linalg/scalar.hpp"
 #include "linalg/strided.hpp"
 
 namespace kor::linalg {
 
 namespace {
-
-// Eight doubles, and as many integers: the compiler makes of them what the processor has.
-constexpr std::ptrdiff_t kWidth = 8;
-typedef double Lanes __attribute__((vector_size(8 * kWidth)));
-typedef std::int64_t Places __attribute__((vector_size(8 * kWidth)));
-
-[[gnu::always_inline]] inline Lanes load(const double *x)
-{
-    Lanes lanes;
-    std::memcpy(&lanes, x, sizeof lanes);
-    return lanes;
-}
-[[gnu::always_inline]] inline Lanes absolute(Lanes x)
-{
-    constexpr std::int64_t kAllButSign = 0x7fffffffffffffff;
-    return (Lanes)((Places)x & kAllButSign);
-}
-[[gnu::always_inline]] inline Lanes greater(Lanes a, Lanes b) { return a > b ? a : b; } // b, if a is NaN
 
 // Elements that are taken at once, in four independent sets of lanes.
 constexpr std::ptrdiff_t kStride = 4 * kWidth;
@@ -81,7 +63,7 @@ KOR_CLONES void add_contiguous_squares(Sum &sum, std::ptrdiff_t n, const double 
             const double scaled = piece[i] * factor;
             rest += scaled * scaled;
         }
-        sum.add(((total[0] + total[1]) + (total[2] + total[3])) + ((total[4] + total[5]) + (total[6] + total[7])));
+        sum.add(sum_of(total));
         sum.add(rest);
     }
 }
@@ -105,6 +87,23 @@ KOR_CLONES double greatest_contiguous(std::ptrdiff_t n, const double *x, double 
         greatest = a > greatest ? a : greatest;
     }
     return greatest;
+}
+
+// Sum of |x[i]|.
+KOR_CLONES double contiguous_moduli(std::ptrdiff_t n, const double *x)
+{
+    Lanes sum0{}, sum1{}, sum2{}, sum3{};
+    std::ptrdiff_t i = 0;
+    for (; i + kStride <= n; i += kStride) {
+        sum0 += absolute(load(x + i));
+        sum1 += absolute(load(x + i + kWidth));
+        sum2 += absolute(load(x + i + 2 * kWidth));
+        sum3 += absolute(load(x + i + 3 * kWidth));
+    }
+    const Lanes total = (sum0 + sum1) + (sum2 + sum3);
+    double sum = 0.0;
+    for (; i < n; ++i) sum += std::fabs(x[i]);
+    return sum_of(total) + sum;
 }
 
 // The greatest size so far in each lane, and where it stood.
@@ -217,6 +216,15 @@ double sum_of_squares(Integer n, const T *x, Integer incx, double factor)
 
 // A power of two that brings a finite positive number near to 1; a subnormal one at least to 2^-53.
 double scaling_of(double greatest) { return std::ldexp(1.0, -std::max(std::ilogb(greatest), -1021)); }
+
+template <class T>
+double sum_of_moduli_of(Integer n, const T *x, Integer incx)
+{
+    double sum = 0.0;
+    in_pieces(n, x, incx,
+              [&](const double *numbers, std::ptrdiff_t count) { sum += contiguous_moduli(count, numbers); });
+    return sum;
+}
 
 // The update, number by number, as it is defined.
 template <class T>
@@ -331,6 +339,9 @@ double euclidean_norm(Integer n, const double *x, Integer incx)
     return n == 1 ? std::fabs(*x) : euclidean_norm_of(n, x, incx);
 }
 double euclidean_norm(Integer n, const Complex *x, Integer incx) { return euclidean_norm_of(n, x, incx); }
+
+double sum_of_moduli(Integer n, const double *x, Integer incx) { return sum_of_moduli_of(n, x, incx); }
+double sum_of_moduli(Integer n, const Complex *x, Integer incx) { return sum_of_moduli_of(n, x, incx); }
 
 Integer index_of_greatest(Integer n, const double *x, Integer incx) { return index_of_greatest_of(n, x, incx); }
 Integer index_of_greatest(Integer n, const Complex *x, Integer incx) { return index_of_greatest_of(n, x, incx); }

@@ -1,4 +1,4 @@
-// Euclidean norms and largest elements of vectors, without spurious overflow or underflow.
+// Norms and largest elements of vectors, the Euclidean norm without spurious overflow or underflow.
 #pragma once
 
 #include <cstddef>
@@ -24,6 +24,10 @@ double length_of(const ScaledSquares &norm);
 // sqrt(x' x), to about 1 ulp. 0 for an empty vector.
 double euclidean_norm(Integer n, const double *x, Integer incx);
 double euclidean_norm(Integer n, const Complex *x, Integer incx);
+
+// Sum of |x|, of |re| + |im| if complex.
+double sum_of_moduli(Integer n, const double *x, Integer incx);
+double sum_of_moduli(Integer n, const Complex *x, Integer incx);
 
 // Index from 0 of the first element of greatest |x|, or of greatest |re| + |im|; -1 for an empty vector. A NaN in front
 // is the greatest, elsewhere it is passed over: the rule of the comparison x[i] > x[greatest].

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "linalg/blas.hpp"
+#include "linalg/complex_scale.hpp"
+#include "linalg/norm.hpp"
 #include "linalg/rotation.hpp"
 #include "linalg/scalar.hpp"
 #include "linalg/strided.hpp"
@@ -45,6 +47,8 @@ void axpy(Integer n, const T &alpha, const T *x, Integer incx, T *y, Integer inc
 template <Scalar T, Scalar Factor>
 void scal(Integer n, const Factor &alpha, T *x, Integer incx)
 {
+    if constexpr (std::is_same_v<Factor, Complex>)
+        if (incx == 1 || incx == -1) return scale_contiguous(n, alpha, x);
     if (!plain_loop<T>(n, incx) && !(alpha == Factor{})) return blas::scal(n, alpha, x, forward(incx));
     const Strided<T> u{x, n, incx};
     for (Integer i = 0; i < n; ++i) u[i] = alpha * u[i];
@@ -84,7 +88,7 @@ inline void rot(Integer n, double *x, Integer incx, double *y, Integer incy, dou
 template <Scalar T>
 double asum(Integer n, const T *x, Integer incx)
 {
-    if (!plain_loop<T>(n, incx)) return blas::asum(n, x, forward(incx));
+    if (n > 2 * kShortVector<T>) return sum_of_moduli(n, x, incx);
     const Strided<const T> u{x, n, incx};
     double sum = 0.0;
     for (Integer i = 0; i < n; ++i) sum += modulus_sum(u[i]);
