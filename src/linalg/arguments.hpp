@@ -13,6 +13,9 @@ namespace kor::linalg {
 // Tells that parameter number `position` of `routine` is illegal. Never ends the process.
 [[gnu::cold]] void f06aaz(const char *routine, Integer position);
 
+// The same for kernels, which report in the words of their layer.
+[[gnu::cold]] void f06aaz_f(const char *routine, Integer position);
+
 // One tested argument: its position in the list, and whether it is legal.
 struct Argument {
     Integer position;
