@@ -17,7 +17,7 @@ void sample_by_rejection(State &state, const Tries tries, std::ptrdiff_t n, doub
 {
     Lookahead ahead{state};
     while (n > 0) {
-        // Nearly half the trials of these samplers fail at worst.
+        // Most often two trials in three succeed, or more.
         const std::ptrdiff_t wanted = n + n / 2 + 1;
         const std::ptrdiff_t trials = std::min(kTrials, (wanted + kTrialStep - 1) / kTrialStep * kTrialStep);
         double u[2 * kTrials], candidate[kTrials];
