@@ -1,11 +1,10 @@
 // g05ccc: starts this thread's stream from the clock, differently in each call.
 #include <kor/g05.h>
+#include <kor/x05.h>
 
 #include <atomic>
-#include <ctime>
 #include <limits>
 
-#include "frame/report.hpp"
 #include "random/state.hpp"
 
 namespace {
@@ -13,20 +12,13 @@ namespace {
 // The last seed that came from the clock, in any thread: two calls in the same second must not share a stream.
 std::atomic<Integer> last_seed{0};
 
-Integer seconds()
-{
-    const std::time_t now = std::time(nullptr);
-    if (now == static_cast<std::time_t>(-1)) kor::Report{"x05aac", nullptr}.error<NE_SYSTEM_TIME>();
-    return static_cast<Integer>(now);
-}
-
 Integer after(Integer seed) { return seed < std::numeric_limits<Integer>::max() ? seed + 1 : 0; }
 
 } // namespace
 
 void g05ccc(void)
 {
-    const Integer now = seconds();
+    const Integer now = x05aac();
     Integer last = last_seed.load(std::memory_order_relaxed), seed;
     do {
         seed = now > last ? now : after(last);
