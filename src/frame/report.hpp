@@ -36,9 +36,10 @@ constexpr bool arguments_fit()
     return (converts_to<Args>(expected.kind[i++]) && ... && true);
 }
 
-// What travels through the ellipsis: %ld takes a long, whatever the width of an Integer.
+// What travels through the ellipsis: %ld takes a long, whatever the width of an Integer. Taken by reference: a text may live in
+// the argument itself.
 template <class T>
-auto promoted(T value)
+auto promoted(const T &value)
 {
     if constexpr (std::is_integral_v<T>)
         return static_cast<long>(value);
