@@ -1,46 +1,40 @@
-// Jacobi's elliptic functions, by descending Landen transformations; for complex argument by the addition theorem.
+// Jacobi's elliptic functions as quotients of theta functions; for complex argument by the addition theorem.
 #include "special/jacobi.hpp"
 
 #include <cmath>
 
 #include "frame/constants.hpp"
+#include "special/theta.hpp"
 
 namespace kor::special {
 
 namespace {
 
-constexpr int kMaxLevels = 40; // the moduli fall quadratically; the smallest complement takes ten
+// The arithmetic-geometric mean of 1 and b, 0 < b <= 1.
+double mean_with_one(double b)
+{
+    double a = 1.0;
+    while (a - b > kPrecision * a) {
+        const double mean = 0.5 * (a + b);
+        // The last step is quadratic: once the gap is below sqrt(eps) the arithmetic mean is the limit.
+        if (a - b < 0x1p-28 * a) return mean;
+        b = std::sqrt(a * b);
+        a = mean;
+    }
+    return a;
+}
 
 } // namespace
 
 JacobiElliptic<double> jacobi_elliptic(double u, double m, double complement)
 {
+    if (m == 0.0) return {std::sin(u), std::cos(u), 1.0};
     if (complement == 0.0) return {std::tanh(u), 1.0 / std::cosh(u), 1.0 / std::cosh(u)};
 
-    // The modulus of the next level is k1 = (a - b)/(a + b), of the arithmetic-geometric mean of 1 and sqrt(complement).
-    double a = 1.0, b = std::sqrt(complement), k1[kMaxLevels], less_k1[kMaxLevels];
-    double c_square = m; // a^2 - b^2
-    int level = 0;
-    while (level < kMaxLevels && c_square > kPrecision * kPrecision * a * a) {
-        const double sum = a + b;
-        k1[level] = c_square / (sum * sum);
-        less_k1[level] = 2.0 * b / sum;
-        const double next = 0.5 * sum;
-        c_square = 0.25 * c_square * k1[level];
-        b = std::sqrt(a * b);
-        a = next;
-        ++level;
-    }
-    // Functions of modulus zero, then back up. Every sum is of positive terms.
-    double s = std::sin(a * u), c = std::cos(a * u), d = 1.0;
-    while (level-- > 0) {
-        const double square = s * s, denominator = 1.0 + k1[level] * square;
-        const double next_d = (c * c + less_k1[level] * square) / denominator;
-        s = (1.0 + k1[level]) * s / denominator;
-        c = c * d / denominator;
-        d = next_d;
-    }
-    return {s, c, d};
+    // The quarter periods are pi/2 over these means.
+    const double mean = mean_with_one(std::sqrt(complement)), other_mean = mean_with_one(std::sqrt(m));
+    const auto [sn, cn, dn] = theta_quotients(u * mean / kPi, kPi * mean / other_mean);
+    return {sn, cn, dn};
 }
 
 JacobiElliptic<std::complex<double>> jacobi_elliptic(std::complex<double> z, double m)

@@ -16,105 +16,139 @@ namespace {
 
 constexpr double kSeriesUpTo = 0.0432139182637723; // exp(-pi)
 
-struct DoubleAngles {
-    double c2, c4, c6; // cosines of 2 pi x, 4 pi x, 6 pi x
-};
+// What the series are made of: for q up to exp(-pi) the terms left out are below 1e-21.
+struct Harmonics {
+    DoubleDouble sine, cosine; // of pi x
+    double c2, c4, c6;         // cosines of 2 pi x, 4 pi x, 6 pi x
+    double q;
 
-DoubleAngles double_angles(const SineAndCosine &angle)
-{
-    const double c2 = (angle.cosine.hi - angle.sine.hi) * (angle.cosine.hi + angle.sine.hi);
-    const double c4 = 2.0 * c2 * c2 - 1.0;
-    return {c2, c4, c2 * (2.0 * c4 - 1.0)};
-}
-
-// 1 + 2 sign q cos 2 pi x + 2 q^4 cos 4 pi x + 2 sign q^9 cos 6 pi x + ...
-double even_series(double sign, double x, double q)
-{
-    const auto [c2, c4, c6] = double_angles(extended_sine_cosine_pi(x));
-    const double q3 = q * q * q;
-    return 1.0 + 2.0 * q * (sign * c2 + q3 * (c4 + sign * q3 * q * q * c6));
-}
-
-// 2 q^(1/4) (first -+ q^2 third harmonic + q^6 fifth -+ ...): the harmonics divided by the first are 1 + 2 sign cos 2 pi x,
-// 1 + 2 sign cos 2 pi x + 2 cos 4 pi x, ..., with sign 1 for sines and -1 for cosines.
-double odd_series(bool sines, double x, double q)
-{
-    const SineAndCosine angle = extended_sine_cosine_pi(x);
-    const auto [c2, c4, c6] = double_angles(angle);
-    const double sign = sines ? 1.0 : -1.0, q2 = q * q, q4 = q2 * q2;
-    const double third = 1.0 + 2.0 * sign * c2, fifth = third + 2.0 * c4, seventh = fifth + 2.0 * sign * c6;
-    const double rest = -sign * q2 * (third - sign * q4 * (fifth - sign * q4 * q2 * seventh));
-    const DoubleDouble root = sqrt(sqrt(DoubleDouble{q})).scaled(2.0);
-    return (root * (sines ? angle.sine : angle.cosine) * fast_two_sum(1.0, rest)).rounded();
-}
-
-// For h = -ln q: rate = pi^2 / h, amplitude = sqrt(pi / h).
-struct Gaussians {
-    DoubleDouble rate, amplitude;
-
-    explicit Gaussians(double q)
+    Harmonics(double x, double nome) : q{nome}
     {
-        const DoubleDouble over_h = tables::kPi / -extended_log({q});
-        rate = tables::kPi * over_h;
-        amplitude = sqrt(over_h);
+        const auto [s, c] = extended_sine_cosine_pi(x);
+        sine = s;
+        cosine = c;
+        c2 = (c.hi - s.hi) * (c.hi + s.hi);
+        c4 = 2.0 * c2 * c2 - 1.0;
+        c6 = c2 * (2.0 * c4 - 1.0);
     }
-    // amplitude exp(-rate r^2) times `rest`, the sum relative to its largest term.
-    double times(DoubleDouble r, DoubleDouble rest) const
+    // theta_3 (sign 1) or theta_4 (sign -1) less 1.
+    double even_rest(double sign) const
     {
-        constexpr double kUnderflow = 800.0;
-        const DoubleDouble exponent = rate * square(r);
-        if (exponent.hi > kUnderflow) return 0.0;
-        const Exponential e = extended_exp(-exponent);
-        return times_power_of_two((e.value * amplitude * rest).rounded(), e.exponent);
+        const double q3 = q * q * q;
+        return 2.0 * q * (sign * c2 + q3 * (c4 + sign * q3 * q * q * c6));
+    }
+    // theta_1 / (2 q^(1/4) sin pi x) (sign 1) or theta_2 / (2 q^(1/4) cos pi x) (sign -1), less 1: higher harmonics
+    // divided by the first are 1 + 2 sign cos 2 pi x, 1 + 2 sign cos 2 pi x + 2 cos 4 pi x, ...
+    double odd_rest(double sign) const
+    {
+        const double third = 1.0 + 2.0 * sign * c2, fifth = third + 2.0 * c4, seventh = fifth + 2.0 * sign * c6;
+        const double q2 = q * q, q4 = q2 * q2;
+        return -q2 * (third - q4 * (fifth - q4 * q2 * seventh));
     }
 };
 
-// sum exp(-rate (r+n)^2), 0 <= r <= 1/2, with gap = 1 - 2 r.
-double even_sum(DoubleDouble r, double gap, double q)
+// A point as its distances from the nearest integer and, the other way, from the nearest half integer.
+struct Distances {
+    double from_integer; // 0 to 1/2
+    DoubleDouble from_half;
+    double sign_1, sign_2; // of theta_1 and theta_2 there
+
+    explicit Distances(double x)
+    {
+        const double nearest = std::rint(x), r = x - nearest; // exact
+        const double parity = std::fmod(nearest, 2.0) != 0.0 ? -1.0 : 1.0;
+        from_integer = std::fabs(r);
+        from_half = fast_two_sum(0.5, -from_integer);
+        sign_1 = r < 0.0 ? -parity : parity;
+        sign_2 = parity;
+    }
+};
+
+// sum exp(-rate (r+n)^2) / exp(-rate r^2) - 1, 0 <= r <= 1/2, with gap = 1 - 2 r: the terms n = -1, 1, -2, 2, -3, 3.
+double even_rest(double rate, double gap)
 {
-    const Gaussians g{q};
-    const double a = g.rate.hi;
-    // n = -1, 1, -2, 2, -3 relative to n = 0.
-    const double rest = std::exp(-a * gap) + std::exp(-a * (2.0 - gap)) + std::exp(-2.0 * a * (1.0 + gap)) +
-                        std::exp(-2.0 * a * (3.0 - gap)) + std::exp(-3.0 * a * (2.0 + gap));
-    return g.times(r, two_sum(1.0, rest));
+    return std::exp(-rate * gap) + std::exp(-rate * (2.0 - gap)) + std::exp(-2.0 * rate * (1.0 + gap)) +
+           std::exp(-2.0 * rate * (3.0 - gap)) + std::exp(-3.0 * rate * (2.0 + gap)) +
+           std::exp(-3.0 * rate * (4.0 - gap));
 }
 
-// sum (-1)^n exp(-rate (r+n)^2), 0 <= r <= 1/2: with gap = 1 - 2 r the terms n and -1-n make exp(-rate (r+n)^2) times
-// 1 - exp(-rate (2n+1) gap), which shows the zero at r = 1/2.
-double alternating_sum(DoubleDouble r, double gap, double q)
+// sum (-1)^n exp(-rate (r+n)^2) / exp(-rate r^2), 0 <= r <= 1/2: with gap = 1 - 2 r the terms n and -1-n make
+// exp(-rate (r+n)^2) times 1 - exp(-rate (2n+1) gap), which shows the zero at r = 1/2.
+DoubleDouble alternating(DoubleDouble rate, double gap)
 {
-    const Gaussians g{q};
-    const double a = g.rate.hi;
-    const DoubleDouble small = g.rate * gap;
+    const double a = rate.hi;
+    const DoubleDouble small = rate * gap;
     const double first = -std::expm1(-small.hi) + small.lo * std::exp(-small.hi);
     const double rest = std::exp(-a * (2.0 - gap)) * std::expm1(-3.0 * a * gap) -
                         std::exp(-2.0 * a * (3.0 - gap)) * std::expm1(-5.0 * a * gap) +
                         std::exp(-3.0 * a * (4.0 - gap)) * std::expm1(-7.0 * a * gap);
-    return g.times(r, two_sum(first, rest));
+    return two_sum(first, rest);
+}
+
+// sqrt(pi/h) exp(-rate r^2) rest, rate = pi^2 / h.
+double gauss_curve(DoubleDouble over_h, DoubleDouble rate, DoubleDouble r, DoubleDouble rest)
+{
+    constexpr double kUnderflow = 800.0;
+    const DoubleDouble exponent = rate * square(r);
+    if (exponent.hi > kUnderflow) return 0.0;
+    const Exponential e = extended_exp(-exponent);
+    return times_power_of_two((e.value * sqrt(over_h) * rest).rounded(), e.exponent);
+}
+
+double by_series(int k, double x, double q)
+{
+    const Harmonics h{x, q};
+    if (k == 3) return 1.0 + h.even_rest(1.0);
+    if (k != 1 && k != 2) return 1.0 + h.even_rest(-1.0);
+    const DoubleDouble factor = sqrt(sqrt(DoubleDouble{q})).scaled(2.0) * (k == 1 ? h.sine : h.cosine);
+    return (factor * fast_two_sum(1.0, h.odd_rest(k == 1 ? 1.0 : -1.0))).rounded();
 }
 
 } // namespace
 
 double theta(int k, double x, double q)
 {
-    const bool sines = k == 1;
-    if (q <= kSeriesUpTo) return k == 1 || k == 2 ? odd_series(sines, x, q) : even_series(k == 3 ? 1.0 : -1.0, x, q);
+    if (q <= kSeriesUpTo) return by_series(k, x, q);
 
-    // Distances from the nearest integer and, the other way, from the nearest half integer.
-    const double nearest = std::rint(x), r = x - nearest, size = std::fabs(r);
-    const DoubleDouble to_half = fast_two_sum(0.5, -size);
-    const double parity = std::fmod(nearest, 2.0) != 0.0 ? -1.0 : 1.0;
+    const DoubleDouble over_h = tables::kPi / -extended_log({q}), rate = tables::kPi * over_h;
+    const Distances d{x};
+    const double r = d.from_integer, gap = 1.0 - 2.0 * r;
     switch (k) {
     case 1:
-        return parity * std::copysign(alternating_sum(to_half, 2.0 * size, q), r);
+        return d.sign_1 * gauss_curve(over_h, rate, d.from_half, alternating(rate, 2.0 * r));
     case 2:
-        return parity * alternating_sum({size}, 1.0 - 2.0 * size, q);
+        return d.sign_2 * gauss_curve(over_h, rate, {r}, alternating(rate, gap));
     case 3:
-        return even_sum({size}, 1.0 - 2.0 * size, q);
+        return gauss_curve(over_h, rate, {r}, two_sum(1.0, even_rest(rate.hi, gap)));
     default:
-        return even_sum(to_half, 2.0 * size, q);
+        return gauss_curve(over_h, rate, d.from_half, two_sum(1.0, even_rest(rate.hi, 2.0 * r)));
     }
+}
+
+ThetaQuotients theta_quotients(double x, double h)
+{
+    // The factors that the numerators and denominators share, q^(1/4) and exp(-rate r^2), never appear.
+    if (h >= tables::kPi.hi) {
+        const double q = std::exp(-h);
+        const Harmonics a{x, q}, origin{0.0, q};
+        const double first = 1.0 + a.odd_rest(1.0), second = 1.0 + a.odd_rest(-1.0);
+        const double third = 1.0 + a.even_rest(1.0), fourth = 1.0 + a.even_rest(-1.0);
+        const double second_0 = 1.0 + origin.odd_rest(-1.0), third_0 = 1.0 + origin.even_rest(1.0);
+        const double fourth_0 = 1.0 + origin.even_rest(-1.0);
+        return {a.sine.hi * (first * third_0 / (fourth * second_0)),
+                a.cosine.hi * (second * fourth_0 / (fourth * second_0)), third * fourth_0 / (fourth * third_0)};
+    }
+    const double rate = tables::kPi.hi * tables::kPi.hi / h;
+    const Distances d{x};
+    const double r = d.from_integer, gap = 1.0 - 2.0 * r;
+    const double first = alternating({rate}, 2.0 * r).hi, second = alternating({rate}, gap).hi;
+    const double third = 1.0 + even_rest(rate, gap), fourth = 1.0 + even_rest(rate, 2.0 * r);
+    const double second_0 = alternating({rate}, 1.0).hi, third_0 = 1.0 + even_rest(rate, 1.0);
+    const double fourth_0 = 1.0 + even_rest(rate, 0.0);
+    const double decay = std::exp(-rate * r);
+    return {d.sign_1 * (first * third_0 / (fourth * second_0)),
+            d.sign_2 * (decay * second * fourth_0 / (fourth * second_0)),
+            decay * third * fourth_0 / (fourth * third_0)};
 }
 
 } // namespace kor::special

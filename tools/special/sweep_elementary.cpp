@@ -2,6 +2,7 @@
 #include "sweep.hpp"
 
 #include <acb_elliptic.h>
+#include <acb_modular.h>
 #include <arb_hypgeom.h>
 
 #include <boost/math/distributions/normal.hpp>
@@ -301,10 +302,138 @@ void run_carlson(long count)
     acb_clear(y);
 }
 
+void run_theta(long count)
+{
+    static KorError fail{};
+    acb_t z, tau, t[4];
+    acb_init(z), acb_init(tau);
+    for (auto &v : t) acb_init(v);
+    arb_t l;
+    arb_init(l);
+    for (int k = 0; k < 4; ++k)
+        for (const double top : {1e-3, 0.0432, 0.1, 0.9, 0.9999}) {
+            std::mt19937_64 random{5};
+            std::uniform_real_distribution<double> uniform{0, 1};
+            sweep::Worst ours, conditioned;
+            for (long n = 0; n < count; ++n) {
+                const double q = n % 3 ? top * std::exp(-3 * uniform(random)) : top * uniform(random);
+                double x = 3 * uniform(random) - 1.5;
+                if (n % 10 == 0) x = std::rint(2 * x) / 2 + (uniform(random) - 0.5) * std::exp(-30 * uniform(random));
+                arb_set_d(l, q);
+                arb_log(l, l, kBits);
+                arb_const_pi(acb_imagref(tau), kBits);
+                arb_div(acb_imagref(tau), l, acb_imagref(tau), kBits);
+                arb_neg(acb_imagref(tau), acb_imagref(tau));
+                arb_zero(acb_realref(tau));
+                acb_set_d(z, x);
+                acb_modular_theta(t[0], t[1], t[2], t[3], z, tau, 2 * kBits);
+                arb_srcptr y = acb_realref(t[k]); // theta_1, ..., theta_4
+                const double exact = arf_get_d(arb_midref(y), ARF_RND_NEAR);
+                arf_t d;
+                arf_init(d);
+                arf_set_d(d, s21ccc(k + 1, x, q, &fail));
+                arf_sub(d, d, arb_midref(y), kBits, ARF_RND_NEAR);
+                const double e = std::fabs(arf_get_d(d, ARF_RND_NEAR)) / sweep::ulp_of(exact);
+                arf_clear(d);
+                if (std::fabs(exact) > 1e-300) ours.add(e, x);
+            }
+            std::printf("theta_%d q to %g: worst %.3f at x=%.17g mean %.3f\n", k + 1, top, ours.error, ours.at,
+                        ours.sum / count);
+            std::fflush(stdout);
+        }
+    acb_clear(z), acb_clear(tau);
+    for (auto &v : t) acb_clear(v);
+    arb_clear(l);
+}
+
+// |computed - exact| / |exact| in units of 2^-53 for complex values.
+double complex_error(Complex computed, const acb_t exact)
+{
+    acb_t d;
+    acb_init(d);
+    acb_set_d_d(d, computed.re, computed.im);
+    acb_sub(d, d, exact, kBits);
+    arb_t a, b;
+    arb_init(a), arb_init(b);
+    acb_abs(a, d, kBits);
+    acb_abs(b, exact, kBits);
+    arb_div(a, a, b, kBits);
+    const double e = arf_get_d(arb_midref(a), ARF_RND_NEAR) * 0x1p53;
+    acb_clear(d);
+    arb_clear(a), arb_clear(b);
+    return e;
+}
+
+void run_complex(long count)
+{
+    static KorError fail{};
+    acb_t z, s, y;
+    acb_init(z), acb_init(s), acb_init(y);
+    std::mt19937_64 random{17};
+    std::uniform_real_distribution<double> uniform{-1, 1};
+    for (int k = 0; k <= 4; ++k)
+        for (const double size : {0.1, 1.0, 10.0, 30.0, 300.0}) {
+            sweep::Worst w;
+            Complex at{};
+            for (long n = 0; n < count; ++n) {
+                const Complex x{size * uniform(random), size * uniform(random) * (n % 4 == 0 ? 1e-3 : 1.0)};
+                acb_set_d_d(z, x.re, x.im);
+                acb_set_si(s, k);
+                for (slong bits = kBits; bits < 3000; bits *= 2) {
+                    acb_polygamma(y, s, z, bits);
+                    if (acb_rel_accuracy_bits(y) > 80) break;
+                }
+                const double e = complex_error(s14afc(x, k, &fail), y);
+                if (e > w.error) at = x;
+                w.add(e, x.re);
+            }
+            std::printf("s14afc k=%d |z| to %g: worst %.2f (2^-53) at (%.17g, %.17g) mean %.2f\n", k, size, w.error,
+                        at.re, at.im, w.sum / count);
+        }
+    acb_t kk, kp, tau, t0[4], t[4];
+    acb_init(kk), acb_init(kp), acb_init(tau);
+    for (auto &v : t0) acb_init(v);
+    for (auto &v : t) acb_init(v);
+    for (const double m : {1e-20, 1e-6, 0.1, 0.5, 0.9, 0.999999, 1 - 1e-12})
+        for (const double size : {1e-3, 1.0, 5.0, 50.0}) {
+            sweep::Worst w[3];
+            for (long n = 0; n < count; ++n) {
+                const Complex x{size * uniform(random), n % 5 == 0 ? 0.0 : size * uniform(random)};
+                acb_set_d(s, m);
+                acb_elliptic_k(kk, s, kBits);
+                acb_sub_ui(s, s, 1, kBits);
+                acb_neg(s, s);
+                acb_elliptic_k(kp, s, kBits);
+                acb_div(tau, kp, kk, kBits);
+                acb_mul_onei(tau, tau);
+                acb_set_d_d(z, x.re, x.im);
+                acb_div(z, z, kk, kBits);
+                acb_mul_2exp_si(z, z, -1);
+                acb_modular_theta(t[0], t[1], t[2], t[3], z, tau, 2 * kBits);
+                acb_zero(z);
+                acb_modular_theta(t0[0], t0[1], t0[2], t0[3], z, tau, 2 * kBits);
+                Complex v[3];
+                s21cbc(x, m, &v[0], &v[1], &v[2], &fail);
+                // sn = t3 t1(z) / (t2 t4(z)), cn = t4 t2(z) / (t2 t4(z)), dn = t4 t3(z) / (t3 t4(z))
+                const int num0[] = {2, 3, 3}, num[] = {0, 1, 2}, den0[] = {1, 1, 2};
+                for (int f = 0; f < 3; ++f) {
+                    acb_mul(y, t0[num0[f]], t[num[f]], kBits);
+                    acb_div(y, y, t0[den0[f]], kBits);
+                    acb_div(y, y, t[3], kBits);
+                    w[f].add(complex_error(v[f], y), x.re);
+                }
+            }
+            std::printf("s21cbc m=%g |z| to %g: worst sn %.3g cn %.3g dn %.3g mean %.2f %.2f %.2f (2^-53)\n", m, size,
+                        w[0].error, w[1].error, w[2].error, w[0].sum / count, w[1].sum / count, w[2].sum / count);
+        }
+    acb_clear(z), acb_clear(s), acb_clear(y);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
     if (argc > 1 && !std::strcmp(argv[1], "extended")) {
         run_extended();
         return 0;
@@ -315,6 +444,14 @@ int main(int argc, char **argv)
     }
     if (argc > 1 && !std::strcmp(argv[1], "carlson")) {
         run_carlson(argc > 2 ? std::atol(argv[2]) : 20000);
+        return 0;
+    }
+    if (argc > 1 && !std::strcmp(argv[1], "theta")) {
+        run_theta(argc > 2 ? std::atol(argv[2]) : 10000);
+        return 0;
+    }
+    if (argc > 1 && !std::strcmp(argv[1], "complex")) {
+        run_complex(argc > 2 ? std::atol(argv[2]) : 2000);
         return 0;
     }
     gsl_set_error_handler_off();
