@@ -198,7 +198,7 @@ double carlson_rj(double x0, double y0, double z0, double p0)
 }
 
 // With x <= y <= z, p = -q and r = z - (z-x)(z-y)/(z+q):
-// (q + z) RJ(x,y,z,-q) = (r - z) RJ(x,y,z,r) - 3 RF(x,y,z) + 3 sqrt(xyz/(xz+rq)) RC(xz+rq, rq).
+// (q + z) RJ(x,y,z,-q) = (r - z) RJ(x,y,z,r) - 3 RF(x,y,z) + 3 sqrt(xyz/(xy+rq)) RC(xy+rq, rq).
 double carlson_rj_principal(double x, double y, double z, double p)
 {
     double sorted[] = {x, y, z};
@@ -206,8 +206,8 @@ double carlson_rj_principal(double x, double y, double z, double p)
     const auto [a, b, c] = sorted;
     const double q = -p;
     const double shift = (c - b) / (c + q) * (c - a), r = c - shift;
-    const double rq = r * q, ac = a * c;
-    const double last = a > 0.0 ? 3.0 * std::sqrt(ac * b / (ac + rq)) * carlson_rc(ac + rq, rq) : 0.0;
+    const double rq = r * q, ab = a * b;
+    const double last = a > 0.0 ? 3.0 * std::sqrt(ab / (ab + rq) * c) * carlson_rc(ab + rq, rq) : 0.0;
     return (last - (shift * carlson_rj(a, b, c, r) + 3.0 * carlson_rf(a, b, c))) / (q + c);
 }
 

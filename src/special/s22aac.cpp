@@ -1,19 +1,51 @@
 // s22aac: Legendre functions and associated Legendre functions of the first kind, a sequence of degrees.
 //
-// P_m^m = (2m-1)!! (1-x^2)^(m/2), then the three-term recurrence in the degree, which is stable for |x| <= 1.
+// P_l^m(x) = (1-x^2)^(m/2) W_l R_l(x), where R_l is 1 at x = 1 and (l+m+1) R_(l+1) = (2l+1) x R_l - (l-m) R_(l-1), which is
+// stable for |x| <= 1. Near 1 the differences of the R are what is computed, from 1 - x, which is exact there.
 #include <kor/s22.h>
 
 #include <cmath>
 #include <cstdlib>
 
 #include "frame/report.hpp"
+#include "special/evaluate.hpp"
 
 namespace {
+
+using kor::special::DoubleDouble;
 
 constexpr Integer kUnnormalised = 1, kNormalised = 2;
 constexpr Integer kLargestOrder = 27;
 constexpr Integer kLargestDegree = 100;   // for order 0
 constexpr Integer kLargestDegreeSum = 55; // of degree and |order| otherwise: the factorials stay in range
+
+// R_m, R_(m+1), ..., R_nl in r[m..nl], 0 <= x <= 1.
+void ratios_to_end_value(double x, Integer m, Integer nl, double r[])
+{
+    constexpr double kDifferencesFrom = 0.5;
+    r[m] = 1.0;
+    double difference = 0.0; // R_l - R_(l-1); the factor l - m takes it away in the first step
+    for (Integer l = m; l < nl; ++l) {
+        if (x >= kDifferencesFrom) {
+            difference = ((l - m) * difference - (2 * l + 1) * (1.0 - x) * r[l]) / (l + m + 1);
+            r[l + 1] = r[l] + difference;
+        } else {
+            const double before = l > m ? r[l - 1] : 0.0;
+            r[l + 1] = ((2 * l + 1) * x * r[l] - (l - m) * before) / (l + m + 1);
+        }
+    }
+}
+
+// (1 - x^2)^(m/2) / (2^m m!)
+DoubleDouble order_factor(double x, Integer m)
+{
+    using namespace kor::special;
+    const DoubleDouble square = two_sum(1.0, -x) * two_sum(1.0, x);
+    const DoubleDouble sine = square.hi > 0.0 ? sqrt(square) : DoubleDouble{0.0};
+    DoubleDouble factor{1.0};
+    for (Integer k = 1; k <= m; ++k) factor = factor * sine / (2.0 * k);
+    return factor;
+}
 
 } // namespace
 
@@ -29,26 +61,23 @@ void s22aac(Integer mode, double x, Integer m, Integer nl, double p[], KorError 
     if (m != 0 && nl > kLargestDegreeSum - order)
         return report.error<NE_INT>("nl", nl, "nl <= 55 - ABS(m) when m != 0");
 
-    // Unnormalised with order |m|; nothing below the order.
     for (Integer l = 0; l <= nl && l < order; ++l) p[l] = 0.0;
     if (order <= nl) {
-        const double sine = std::sqrt((1.0 - x) * (1.0 + x));
-        double diagonal = 1.0;
-        for (Integer k = 1; k <= order; ++k) diagonal *= (2 * k - 1) * sine;
-        p[order] = diagonal;
-        if (order < nl) p[order + 1] = (2 * order + 1) * x * diagonal;
-        for (Integer l = order + 2; l <= nl; ++l)
-            p[l] = ((2 * l - 1) * x * p[l - 1] - (l + order - 1) * p[l - 2]) / (l - order);
-
-        // (l-|m|)! / (l+|m|)!, which a negative order takes as a factor and the norm under a square root.
-        double ratio = 1.0;
-        for (Integer k = 1; k <= 2 * order; ++k) ratio /= k;
+        using namespace kor::special;
+        ratios_to_end_value(std::fabs(x), order, nl, p);
+        const DoubleDouble factor = order_factor(std::fabs(x), order);
+        DoubleDouble growth{
+            1.0}; // (l+|m|)! / (l-|m|)!: order m has it as a factor, order -m does not, the norm its root
+        for (Integer k = 2; k <= 2 * order; ++k) growth = growth * k;
         for (Integer l = order; l <= nl; ++l) {
-            if (l > order) ratio = ratio * (l - order) / (l + order);
+            if (l > order && order > 0) growth = growth * (l + order) / (l - order);
+            DoubleDouble weight = factor;
             if (mode == kNormalised)
-                p[l] *= std::sqrt((l + 0.5) * ratio);
-            else if (m < 0)
-                p[l] *= ratio;
+                weight = weight * sqrt(growth * (l + 0.5));
+            else if (m > 0)
+                weight = weight * growth;
+            const bool odd = (l - order) % 2 != 0;
+            p[l] = (weight * (odd && std::signbit(x) ? -p[l] : p[l])).rounded();
         }
     }
     if (!std::isnan(x)) report.success();
