@@ -99,12 +99,19 @@ TEST(Catalogue, ChapterTablesHaveTheirSizesAndEnds)
 
 TEST(LookUp, EveryEnumeratorByItsName)
 {
-    Integer place = 0;
-#define KOR_ENUMERATOR(name)                                                                                           \
-    EXPECT_EQ(name, ++place);                                                                                          \
-    EXPECT_EQ(x04mac(#name), place);
+    const struct {
+        const char *name;
+        Integer value;
+    } enumerators[] = {
+#define KOR_ENUMERATOR(name) {#name, name},
 #include <kor/enumerators.def>
 #undef KOR_ENUMERATOR
+    };
+    Integer place = 0;
+    for (const auto &enumerator : enumerators) {
+        EXPECT_EQ(enumerator.value, ++place) << enumerator.name;
+        EXPECT_EQ(x04mac(enumerator.name), place) << enumerator.name;
+    }
     EXPECT_EQ(place, 519);
     EXPECT_EQ(x04mac("NoTranspose"), 1);
     EXPECT_EQ(x04mac("Kor_Smooth_Param_DF"), 427);
