@@ -34,10 +34,11 @@ KOR_BEGIN_DECLS
 /// descending order, and all NaNs come last in either order (among themselves in no particular order). An infinity is a
 /// value like any other.
 /// \par Method
-/// Runs that are in order, or in reverse, are found and merged; else quicksort, with vector instructions where the
-/// processor has them, and a switch to heapsort when the partitions are bad, so that the time is O(n log n) whatever the
-/// data. Uses no memory beyond the array. R. Sedgewick, Comm. ACM 21 (1978) 847-857; D. R. Musser, Softw. Pract. Exper.
-/// 27 (1997) 983-993.
+/// Data that come in a few runs, ascending or descending, are merged in near-linear time; all else is sorted by quicksort,
+/// with short parts sorted in registers by networks, on vectors where the processor has AVX2 or AVX-512. Heapsort takes
+/// over when partitions are bad, so that the time is O(n log n) whatever the data. Uses no memory beyond the array.
+/// M. Blacher, J. Giesen, P. Sanders and J. Wassenberg, Softw. Pract. Exper. 52 (2022) 2684-2699; D. R. Musser, Softw.
+/// Pract. Exper. 27 (1997) 983-993; K. E. Batcher, AFIPS Conf. Proc. 32 (1968) 307-314.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -72,10 +73,13 @@ void m01cac(double vec[], Integer n, Integer order, KorError *fail);
 ///
 /// `vec` is untouched after an error.
 /// \par Accuracy
-/// At most O(n log n) comparisons, whatever the data.
+/// About n log2 n comparisons on average, n - 1 when the elements are in order already or in reverse, few more when they
+/// come in a few runs, and never more than a small multiple of n log2 n. Uses no memory for elements of up to 256 bytes.
 /// \par Method
-/// Quicksort with block partitions; short parts are merged by way of pointers; heapsort when partitions are bad.
-/// S. Edelkamp and A. Weiss, ACM J. Exp. Algorithmics 24 (2019) 1.4.
+/// Runs are found, and merged in place; all else is sorted by quicksort that notes misplaced elements block by block, with
+/// short parts sorted by merging pointers, so that no branch depends on what the comparator says; heapsort takes over when
+/// partitions are bad. S. Edelkamp and A. Weiss, ACM J. Exp. Algorithmics 24 (2019) 1.4; P.-S. Kim and A. Kutzner, ESA 2004,
+/// LNCS 3221, 714-723.
 /// \par Thread safety
 /// Safe, and reentrant: the comparator may itself call the routine.
 /// \par Example
@@ -97,15 +101,19 @@ void m01csc(void *vec, Integer n, Integer size, Integer stride, Integer (*compar
 /// \param[in]     n       number of elements, at most 268435455; 0 is allowed
 /// \param[in]     size    size of an element in bytes, from 1 to 2147483647/n
 /// \param[in]     stride  distance of the elements in bytes; |stride| from `size` to 2147483647/n
-/// \param[in]     compare the comparator, as in m01csc()
+/// \param[in]     compare the comparator; may also be shown copies of elements, at multiples of `size` in memory as `malloc`
+///                        gives it
 /// \param[in]     order   Kor_Ascending or Kor_Descending
 /// \param[in,out] fail    the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
-/// As m01csc(); NE_ALLOC_FAIL: no memory for `n` integers, or for a work element of more than 256 bytes. `vec` is
-/// untouched after an error.
+/// As m01csc(); NE_ALLOC_FAIL: no memory for `n` elements if they have up to 64 bytes, else for `n` integers, and for one
+/// element of more than 256 bytes. `vec` is untouched after an error.
+/// \par Accuracy
+/// About n log2 n comparisons at most, n - 1 when the elements are in order already.
 /// \par Method
-/// The elements are ranked as by m01dsc(), and each is moved once to its place.
+/// Elements of up to 64 bytes are merged from the bottom up, from both ends of a pair of runs at once; wider ones are ranked
+/// as by m01dsc(), and each is moved once to its place. D. E. Knuth, The Art of Computer Programming 3 (1998) section 5.2.4.
 /// \par Thread safety
 /// Safe and reentrant.
 /// \par Example
@@ -166,10 +174,10 @@ void m01cuc(void **head, Integer link, Integer (*compare)(const void *a, const v
 ///
 /// `ranks` is untouched after an error.
 /// \par Accuracy
-/// About n log2 n comparisons at most, n - 1 when the elements are in order already.
+/// About n log2 n comparisons on average, n - 1 when the elements are in order already. Uses no memory beyond `ranks`.
 /// \par Method
-/// Bottom-up merging of chains that are linked through `ranks`; no memory beyond it. D. E. Knuth, The Art of Computer
-/// Programming 3 (1998) section 5.2.4.
+/// The indices are sorted in `ranks` as in m01csc(), by the elements and, of equal elements, by the indices themselves; the
+/// permutation is then inverted.
 /// \par Thread safety
 /// Safe, and reentrant.
 /// \par Example

@@ -2,9 +2,9 @@
 #include <kor/m01.h>
 
 #include <cstring>
+#include <utility>
 
 #include "sort/arguments.hpp"
-#include "sort/chains.hpp"
 #include "sort/elements.hpp"
 
 namespace {
@@ -27,14 +27,73 @@ struct Links {
     }
 };
 
+// Sorts a list by relinking it: merges from the bottom up, with no memory but a stack of lists.
 template <bool descending>
-struct ListChain : Links {
-    using Node = void *;
+class ListSorter {
+  public:
+    ListSorter(Links links, Comparator compare) : links_{links}, compare_{compare} {}
 
-    Comparator compare;
+    void *sort(void *head)
+    {
+        // Pairs are sorted and go on the stack, where lists of equal length merge as a binary counter carries.
+        for (Integer pairs = 1; head != nullptr; ++pairs) {
+            void *first = head, *second = links_.next(first);
+            if (second == nullptr) {
+                push(first);
+                break;
+            }
+            head = links_.next(second);
+            if (after(first, second)) std::swap(first, second);
+            links_.link(first, second);
+            links_.link(second, nullptr);
+            push(first);
+            for (Integer carry = pairs; carry % 2 == 0; carry /= 2) merge_top();
+        }
+        while (depth_ > 1) merge_top();
+        return stack_[0];
+    }
 
-    static constexpr Node end() { return nullptr; }
-    bool after(Node a, Node b) const { return sorts_after<descending>(compare(a, b)); }
+  private:
+    static constexpr int kMaxLists = 32; // their lengths are different powers of two
+
+    bool after(void *a, void *b) const { return sorts_after<descending>(compare_(a, b)); }
+    void push(void *list) { stack_[depth_++] = list; }
+    void merge_top()
+    {
+        --depth_;
+        stack_[depth_ - 1] = merged(stack_[depth_ - 1], stack_[depth_]);
+    }
+
+    // Ties are taken from the first list, which came earlier.
+    void *merged(void *a, void *b) const
+    {
+        bool take_b = after(a, b);
+        void *const head = take_b ? b : a;
+        for (;; take_b = !take_b) {
+            // Along one list for as long as it supplies the next element; then over to the other.
+            void *last;
+            if (take_b) {
+                do {
+                    last = b;
+                    b = links_.next(b);
+                } while (b != nullptr && after(a, b));
+                links_.link(last, a);
+                if (b == nullptr) return head;
+            } else {
+                do {
+                    last = a;
+                    a = links_.next(a);
+                } while (a != nullptr && !after(a, b));
+                links_.link(last, b);
+                if (a == nullptr) return head;
+            }
+        }
+    }
+
+    Links links_;
+    Comparator compare_;
+    void *stack_[kMaxLists];
+    int depth_ = 0;
 };
 
 // Whether the list ends, within the number of elements that can be sorted. A mark is left behind at elements 1, 2, 4, ...:
@@ -53,19 +112,6 @@ bool list_ends(Links links, void *head)
     return true;
 }
 
-template <bool descending>
-void *sorted_list(Links links, void *head, Comparator compare)
-{
-    const ListChain<descending> chain{links, compare};
-    ChainSorter<ListChain<descending>> sorter{chain};
-    for (void *element = head; element != nullptr;) {
-        void *next = links.next(element);
-        sorter.add(element);
-        element = next;
-    }
-    return sorter.finish();
-}
-
 } // namespace
 
 void m01cuc(void **head, Integer link, Integer (*compare)(const void *a, const void *b), Integer order, KorError *fail)
@@ -76,7 +122,7 @@ void m01cuc(void **head, Integer link, Integer (*compare)(const void *a, const v
 
     const Links links{link};
     if (!list_ends(links, *head)) return report.error<NE_CH_LOOP>();
-    *head =
-        order == Kor_Descending ? sorted_list<true>(links, *head, compare) : sorted_list<false>(links, *head, compare);
+    *head = order == Kor_Descending ? ListSorter<true>{links, compare}.sort(*head)
+                                    : ListSorter<false>{links, compare}.sort(*head);
     report.success();
 }

@@ -138,8 +138,8 @@ class ShortSort {
             std::copy(a, a + n, merged);
             return;
         }
-        const Handle *left = a, *right = a + middle, *left_last = right - 1, *right_last = a + n - 1;
-        Handle *front = merged, *back = merged + n - 1;
+        const Handle *left = a, *left_end = a + middle, *right = left_end, *right_end = a + n;
+        Handle *front = merged, *back = merged + n;
         // From both ends at once, for so many steps that neither sequence can be at its end.
         for (std::ptrdiff_t steps = std::min(middle, n - middle); steps > 0; --steps) {
             const bool take_right = sequence.before(*right, *left);
@@ -147,24 +147,23 @@ class ShortSort {
             right += take_right;
             left += !take_right;
 
-            const bool take_left = sequence.before(*right_last, *left_last);
-            *back-- = *select(take_left, left_last, right_last);
-            left_last -= take_left;
-            right_last -= !take_left;
+            const bool take_left = sequence.before(right_end[-1], left_end[-1]);
+            *--back = select(take_left, left_end, right_end)[-1];
+            left_end -= take_left;
+            right_end -= !take_left;
         }
         // Both ends have taken the same element: before() contradicts itself.
-        if (left > left_last + 1 || right > right_last + 1) {
+        if (left > left_end || right > right_end) {
             std::copy(a, a + n, merged);
             return;
         }
-        while (left <= left_last && right <= right_last) {
+        while (left < left_end && right < right_end) {
             const bool take_right = sequence.before(*right, *left);
             *front++ = *select(take_right, right, left);
             right += take_right;
             left += !take_right;
         }
-        std::copy(left, left_last + 1, front);
-        std::copy(right, right_last + 1, front);
+        std::copy(right, right_end, std::copy(left, left_end, front));
     }
 
     const Sequence sequence_;

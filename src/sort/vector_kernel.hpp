@@ -35,20 +35,20 @@ KOR_INLINE void exchange(typename L::V &a, typename L::V &b)
     a = low;
 }
 
-struct Comparator2 {
+struct RowPair {
     unsigned char low, high;
 };
 
 // Networks of fewest exchanges: Knuth, section 5.3.4; that of 16 is due to M. W. Green, in the arrangement of least depth.
 template <int rows>
-constexpr auto kNetwork = nullptr;
+constexpr RowPair kNetwork[1] = {};
 template <>
-constexpr Comparator2 kNetwork<4>[] = {{0, 1}, {2, 3}, {0, 2}, {1, 3}, {1, 2}};
+constexpr RowPair kNetwork<4>[] = {{0, 1}, {2, 3}, {0, 2}, {1, 3}, {1, 2}};
 template <>
-constexpr Comparator2 kNetwork<8>[] = {{0, 2}, {1, 3}, {4, 6}, {5, 7}, {0, 4}, {1, 5}, {2, 6}, {3, 7}, {0, 1}, {2, 3},
-                                       {4, 5}, {6, 7}, {2, 4}, {3, 5}, {1, 4}, {3, 6}, {1, 2}, {3, 4}, {5, 6}};
+constexpr RowPair kNetwork<8>[] = {{0, 2}, {1, 3}, {4, 6}, {5, 7}, {0, 4}, {1, 5}, {2, 6}, {3, 7}, {0, 1}, {2, 3},
+                                   {4, 5}, {6, 7}, {2, 4}, {3, 5}, {1, 4}, {3, 6}, {1, 2}, {3, 4}, {5, 6}};
 template <>
-constexpr Comparator2 kNetwork<16>[] = {
+constexpr RowPair kNetwork<16>[] = {
     {0, 13},  {1, 12}, {2, 15},  {3, 14},  {4, 8},   {5, 6}, {7, 11},  {9, 10},  {0, 5},   {1, 7},   {2, 9},   {3, 4},
     {6, 13},  {8, 14}, {10, 15}, {11, 12}, {0, 1},   {2, 3}, {4, 5},   {6, 8},   {7, 9},   {10, 11}, {12, 13}, {14, 15},
     {0, 2},   {1, 3},  {4, 10},  {5, 11},  {6, 7},   {8, 9}, {12, 14}, {13, 15}, {1, 2},   {3, 12},  {4, 6},   {5, 7},
@@ -59,7 +59,7 @@ template <class L, int rows>
 KOR_INLINE void sort_columns(typename L::V *row)
 {
 #pragma GCC unroll 64
-    for (const Comparator2 &c : kNetwork<rows>) exchange<L>(row[c.low], row[c.high]);
+    for (const RowPair &pair : kNetwork<rows>) exchange<L>(row[pair.low], row[pair.high]);
 }
 
 // Sorts `rows` vectors that hold one bitonic sequence: exchanges at halving distances.
