@@ -7,6 +7,7 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <kor/f06.h>
@@ -60,14 +61,19 @@ struct Data {
 int repeats(double work) { return work > 2e4 ? 1 : static_cast<int>(2e4 / (work + 20.0)) + 1; }
 
 template <class Work>
-void entry(const std::string &name, double work, Work once)
+void entry(const std::string &name, double work, Work once, double error)
 {
     const int count = repeats(work);
-    add(name,
-        [=] {
-            for (int r = 0; r < count; ++r) once();
-        },
-        {.items = static_cast<double>(count)});
+    const auto several = [=] {
+        for (int r = 0; r < count; ++r) once();
+    };
+    add(name, several, {.error = error, .items = static_cast<double>(count)});
+}
+
+// A result against one of extended precision, in eps of the sum of the moduli of its terms.
+double error_of(long double result, long double exact, long double terms)
+{
+    return static_cast<double>(std::fabs(result - exact) / terms * 0x1p53L);
 }
 
 const Complex kZSmall{kSmall, 0.0}, kZOne{1.0, 0.0}, kZZero{0.0, 0.0};
@@ -81,29 +87,32 @@ Eigen::Map<Eigen::VectorXd> vector(double *p, int n) { return {p, n}; }
 Eigen::Map<Eigen::VectorXcd> vector(Complex *p, int n) { return {reinterpret_cast<std::complex<double> *>(p), n}; }
 #endif
 
-// One line a contestant: the call stands as a user writes it.
-#define OURS(name, work, ...)                                                                                          \
-    entry(name + size + "/KOR", work, [=] {                                                                            \
-        auto &d = *data;                                                                                               \
-        (void)d;                                                                                                       \
-        __VA_ARGS__;                                                                                                   \
-    })
-#define BLAS(name, work, ...)                                                                                          \
-    entry(name + size + "/OpenBLAS", work, [=] {                                                                       \
-        auto &d = *data;                                                                                               \
-        (void)d;                                                                                                       \
-        __VA_ARGS__;                                                                                                   \
-    })
+// A scalar result, with its error.
+template <class Value>
+void value_entry(const std::string &name, double work, Value value, long double exact, long double terms)
+{
+    entry(
+        name, work, [=] { keep(value()); }, error_of(value(), exact, terms));
+}
+
+// One line a contestant: the call stands as a user writes it. `error` runs it once and looks at what it made.
+#define CONTEST(who, name, work, error, ...)                                                                           \
+    do {                                                                                                               \
+        const auto once = [=] {                                                                                        \
+            auto &d = *data;                                                                                           \
+            (void)d;                                                                                                   \
+            __VA_ARGS__;                                                                                               \
+        };                                                                                                             \
+        entry(name + size + who, work, once, error(once));                                                             \
+    } while (false)
+#define OURS(name, work, ...) CONTEST("/KOR", name, work, unchecked, __VA_ARGS__)
+#define BLAS(name, work, ...) CONTEST("/OpenBLAS", name, work, unchecked, __VA_ARGS__)
 #ifdef KOR_HAVE_EIGEN
-#define EIGEN(name, work, ...)                                                                                         \
-    entry(name + size + "/Eigen", work, [=] {                                                                          \
-        auto &d = *data;                                                                                               \
-        (void)d;                                                                                                       \
-        __VA_ARGS__;                                                                                                   \
-    })
+#define EIGEN(name, work, ...) CONTEST("/Eigen", name, work, unchecked, __VA_ARGS__)
 #else
 #define EIGEN(...)
 #endif
+constexpr auto unchecked = [](const auto &) { return -1.0; };
 
 using std::string_literals::operator""s;
 
@@ -111,9 +120,38 @@ void vectors(int n)
 {
     auto *data = new Data{n, false};
     const std::string size = ", n = " + std::to_string(n);
-    OURS("dot"s, n, keep(f06eac(n, d.x.data(), 1, d.y.data(), 1)));
-    BLAS("dot"s, n, keep(cblas_ddot(n, d.x.data(), 1, d.y.data(), 1)));
-    EIGEN("dot"s, n, keep(vector(d.x.data(), n).dot(vector(d.y.data(), n))));
+    const double *x = data->x.data(), *y = data->y.data();
+    long double product = 0.0, terms = 0.0, squares = 0.0, sum = 0.0;
+    for (int i = 0; i < n; ++i) {
+        product += static_cast<long double>(x[i]) * y[i];
+        terms += std::fabs(static_cast<long double>(x[i]) * y[i]);
+        squares += static_cast<long double>(x[i]) * x[i];
+        sum += std::fabs(x[i]);
+    }
+    const long double length = std::sqrt(squares);
+    value_entry(
+        "dot" + size + "/KOR", n, [=] { return f06eac(n, x, 1, y, 1); }, product, terms);
+    value_entry(
+        "dot" + size + "/OpenBLAS", n, [=] { return cblas_ddot(n, x, 1, y, 1); }, product, terms);
+    value_entry(
+        "nrm2" + size + "/KOR", n, [=] { return f06ejc(n, x, 1); }, length, length);
+    value_entry(
+        "nrm2" + size + "/OpenBLAS", n, [=] { return cblas_dnrm2(n, x, 1); }, length, length);
+    value_entry(
+        "asum" + size + "/KOR", n, [=] { return f06ekc(n, x, 1); }, sum, sum);
+    value_entry(
+        "asum" + size + "/OpenBLAS", n, [=] { return cblas_dasum(n, x, 1); }, sum, sum);
+#ifdef KOR_HAVE_EIGEN
+    const Eigen::Map<const Eigen::VectorXd> u{x, n}, v{y, n};
+    value_entry(
+        "dot" + size + "/Eigen", n, [=] { return u.dot(v); }, product, terms);
+    value_entry(
+        "nrm2" + size + "/Eigen", n, [=] { return u.stableNorm(); }, length, length);
+    value_entry(
+        "asum" + size + "/Eigen", n, [=] { return u.lpNorm<1>(); }, sum, sum);
+#endif
+    // What follows overwrites its operands: with others.
+    data = new Data{n, false};
     OURS("axpy"s, n, f06ecc(n, kSmall, d.x.data(), 1, d.y.data(), 1));
     BLAS("axpy"s, n, cblas_daxpy(n, kSmall, d.x.data(), 1, d.y.data(), 1));
     EIGEN("axpy"s, n, vector(d.y.data(), n) += kSmall * vector(d.x.data(), n));
@@ -125,11 +163,6 @@ void vectors(int n)
     BLAS("swap"s, n, cblas_dswap(n, d.x.data(), 1, d.y.data(), 1));
     OURS("rot"s, n, f06epc(n, d.x.data(), 1, d.y.data(), 1, 1.0, kSmall));
     BLAS("rot"s, n, cblas_drot(n, d.x.data(), 1, d.y.data(), 1, 1.0, kSmall));
-    OURS("nrm2"s, n, keep(f06ejc(n, d.x.data(), 1)));
-    BLAS("nrm2"s, n, keep(cblas_dnrm2(n, d.x.data(), 1)));
-    EIGEN("nrm2"s, n, keep(vector(d.x.data(), n).stableNorm()));
-    OURS("asum"s, n, keep(f06ekc(n, d.x.data(), 1)));
-    BLAS("asum"s, n, keep(cblas_dasum(n, d.x.data(), 1)));
     OURS("iamax"s, n, keep(f06jlc(n, d.x.data(), 1)));
     BLAS("iamax"s, n, keep(cblas_idamax(n, d.x.data(), 1)));
     OURS("zdotc"s, n, keep(f06gbc(n, d.zx.data(), 1, d.zy.data(), 1)));
@@ -229,16 +262,39 @@ void matrix_matrix(int n)
     unit->near_unit();
     const double work = 0.5 * n * n * n;
     const std::string size = ", n = " + std::to_string(n);
-    for (const bool at : {false, true})
-        for (const bool bt : {false, true}) {
-            const std::string name = "gemm "s + (at ? "T" : "N") + (bt ? "T" : "N");
-            const Integer ta = at ? Transpose : NoTranspose, tb = bt ? Transpose : NoTranspose;
-            OURS(name, work, f06yac(ta, tb, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0, d.c.data(), n));
-            BLAS(name, work,
-                 cblas_dgemm(kRow, at ? kTr : kNo, bt ? kTr : kNo, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0,
-                             d.c.data(), n));
-        }
-    EIGEN("gemm NN"s, work, matrix(d.c.data(), n).noalias() = matrix(d.a.data(), n) * matrix(d.b.data(), n));
+    const auto checked = [data](const auto &once) {
+        once();
+        const int order = data->n;
+        double worst = 0.0;
+        for (int i = 0; i < order; ++i)
+            for (int j = 0; j < order; ++j) {
+                long double exact = 0.0, terms = 0.0;
+                for (int k = 0; k < order; ++k) {
+                    const long double term = static_cast<long double>(data->a[i * order + k]) * data->b[k * order + j];
+                    exact += term;
+                    terms += std::fabs(term);
+                }
+                worst = std::fmax(worst, error_of(data->c[i * order + j], exact, terms));
+            }
+        return worst;
+    };
+    CONTEST("/KOR", "gemm NN"s, work, checked,
+            f06yac(NoTranspose, NoTranspose, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0, d.c.data(), n));
+    CONTEST("/OpenBLAS", "gemm NN"s, work, checked,
+            cblas_dgemm(kRow, kNo, kNo, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0, d.c.data(), n));
+#ifdef KOR_HAVE_EIGEN
+    CONTEST("/Eigen", "gemm NN"s, work, checked,
+            matrix(d.c.data(), n).noalias() = matrix(d.a.data(), n) * matrix(d.b.data(), n));
+#endif
+    for (const auto &[name, ta, tb] : {std::tuple{"gemm NT"s, NoTranspose, Transpose},
+                                       {"gemm TN"s, Transpose, NoTranspose},
+                                       {"gemm TT"s, Transpose, Transpose}}) {
+        const Integer transa = ta, transb = tb;
+        OURS(name, work, f06yac(transa, transb, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0, d.c.data(), n));
+        const auto cblas_a = ta == Transpose ? kTr : kNo, cblas_b = tb == Transpose ? kTr : kNo;
+        BLAS(name, work,
+             cblas_dgemm(kRow, cblas_a, cblas_b, n, n, n, 1.0, d.a.data(), n, d.b.data(), n, 0.0, d.c.data(), n));
+    }
     OURS("zgemm NN"s, work,
          f06zac(NoTranspose, NoTranspose, n, n, n, kZOne, d.za.data(), n, d.zb.data(), n, kZZero, d.zc.data(), n));
     BLAS("zgemm NN"s, work,

@@ -352,7 +352,7 @@ void f06dfc(Integer n, const Integer x[], Integer incx, Integer y[], Integer inc
 /// sum of the moduli of the terms.
 /// \par Method
 /// The standard operation ddot (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -384,7 +384,7 @@ double f06eac(Integer n, const double x[], Integer incx, const double y[], Integ
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation daxpy (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -414,7 +414,7 @@ void f06ecc(Integer n, double alpha, const double x[], Integer incx, double y[],
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dscal (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -445,7 +445,7 @@ void f06edc(Integer n, double alpha, double x[], Integer incx);
 /// Exact.
 /// \par Method
 /// The standard operation dcopy (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -476,7 +476,7 @@ void f06efc(Integer n, const double x[], Integer incx, double y[], Integer incy)
 /// Exact.
 /// \par Method
 /// The standard operation dswap (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -566,7 +566,7 @@ double f06ekc(Integer n, const double x[], Integer incx);
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation drot (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -978,7 +978,7 @@ void f06fuc(Integer n, const double z[], Integer incz, double z1, double *alpha,
 /// sum of the moduli of the terms.
 /// \par Method
 /// The standard operation zdotc (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1010,7 +1010,7 @@ Complex f06gbc(Integer n, const Complex x[], Integer incx, const Complex y[], In
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zaxpy (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1071,7 +1071,7 @@ void f06gdc(Integer n, Complex alpha, Complex x[], Integer incx);
 /// Exact.
 /// \par Method
 /// The standard operation zcopy (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1102,7 +1102,7 @@ void f06gfc(Integer n, const Complex x[], Integer incx, Complex y[], Integer inc
 /// Exact.
 /// \par Method
 /// The standard operation zswap (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1301,7 +1301,7 @@ void f06hrc(Integer n, Complex *alpha, Complex x[], Integer incx, double tol, Co
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zdscal (C. L. Lawson et al., ACM Trans. Math. Softw. 5 (1979) 308-323), from the BLAS library
-/// that is linked; up to 8 elements, and with an increment of 0, a loop in place.
+/// that is linked; short vectors, and those with an increment of 0, by a loop in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1552,7 +1552,7 @@ Integer f06klc(Integer n, const double x[], Integer incx, double tol);
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dgemv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1603,7 +1603,7 @@ void f06pac(Integer trans, Integer m, Integer n, double alpha, const double a[],
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dgbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1647,7 +1647,7 @@ void f06pbc(Integer trans, Integer m, Integer n, Integer kl, Integer ku, double 
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dsymv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1694,7 +1694,7 @@ void f06pcc(Integer uplo, Integer n, double alpha, const double a[], Integer tda
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dsbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1738,7 +1738,7 @@ void f06pdc(Integer uplo, Integer n, Integer k, double alpha, const double a[], 
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dspmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1779,7 +1779,7 @@ void f06pec(Integer uplo, Integer n, double alpha, const double ap[], const doub
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dtrmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1824,7 +1824,7 @@ void f06pfc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dtbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1865,7 +1865,7 @@ void f06pgc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, con
 /// precision, relative to each.
 /// \par Method
 /// The standard operation dtpmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1906,7 +1906,7 @@ void f06phc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// precision.
 /// \par Method
 /// The standard operation dtrsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1952,7 +1952,7 @@ void f06pjc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// precision.
 /// \par Method
 /// The standard operation dtbsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -1994,7 +1994,7 @@ void f06pkc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, con
 /// precision.
 /// \par Method
 /// The standard operation dtpsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -2033,7 +2033,7 @@ void f06plc(Integer uplo, Integer trans, Integer diag, Integer n, const double a
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dger (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -2071,7 +2071,7 @@ void f06pmc(Integer m, Integer n, double alpha, const double x[], Integer incx, 
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dsyr (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -2106,7 +2106,7 @@ void f06ppc(Integer uplo, Integer n, double alpha, const double x[], Integer inc
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dspr (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -2144,7 +2144,7 @@ void f06pqc(Integer uplo, Integer n, double alpha, const double x[], Integer inc
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dsyr2 (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -2183,7 +2183,7 @@ void f06prc(Integer uplo, Integer n, double alpha, const double x[], Integer inc
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation dspr2 (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -2870,7 +2870,7 @@ double f06rjc(Integer norm, Integer uplo, Integer diag, Integer m, Integer n, co
 /// precision, relative to each.
 /// \par Method
 /// The standard operation zgemv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -2923,7 +2923,7 @@ void f06sac(Integer trans, Integer m, Integer n, Complex alpha, const Complex a[
 /// precision, relative to each.
 /// \par Method
 /// The standard operation zgbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -2969,7 +2969,7 @@ void f06sbc(Integer trans, Integer m, Integer n, Integer kl, Integer ku, Complex
 /// precision, relative to each.
 /// \par Method
 /// The standard operation zhemv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3019,7 +3019,7 @@ void f06scc(Integer uplo, Integer n, Complex alpha, const Complex a[], Integer t
 /// precision, relative to each.
 /// \par Method
 /// The standard operation zhbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3065,7 +3065,7 @@ void f06sdc(Integer uplo, Integer n, Integer k, Complex alpha, const Complex a[]
 /// precision, relative to each.
 /// \par Method
 /// The standard operation zhpmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3108,7 +3108,7 @@ void f06sec(Integer uplo, Integer n, Complex alpha, const Complex ap[], const Co
 /// precision, relative to each.
 /// \par Method
 /// The standard operation ztrmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3153,7 +3153,7 @@ void f06sfc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// precision, relative to each.
 /// \par Method
 /// The standard operation ztbmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3195,7 +3195,7 @@ void f06sgc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, con
 /// precision, relative to each.
 /// \par Method
 /// The standard operation ztpmv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3236,7 +3236,7 @@ void f06shc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// precision.
 /// \par Method
 /// The standard operation ztrsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3282,7 +3282,7 @@ void f06sjc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// precision.
 /// \par Method
 /// The standard operation ztbsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3325,7 +3325,7 @@ void f06skc(Integer uplo, Integer trans, Integer diag, Integer n, Integer k, con
 /// precision.
 /// \par Method
 /// The standard operation ztpsv (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3364,7 +3364,7 @@ void f06slc(Integer uplo, Integer trans, Integer diag, Integer n, const Complex 
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zgeru (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3406,7 +3406,7 @@ void f06smc(Integer m, Integer n, Complex alpha, const Complex x[], Integer incx
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zgerc (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -3446,7 +3446,7 @@ void f06snc(Integer m, Integer n, Complex alpha, const Complex x[], Integer incx
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zher (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -3481,7 +3481,7 @@ void f06spc(Integer uplo, Integer n, double alpha, const Complex x[], Integer in
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zhpr (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -3520,7 +3520,7 @@ void f06sqc(Integer uplo, Integer n, double alpha, const Complex x[], Integer in
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zher2 (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -3562,7 +3562,7 @@ void f06src(Integer uplo, Integer n, Complex alpha, const Complex x[], Integer i
 /// Each element is rounded as the formula says; the processor may fuse its multiplication and addition.
 /// \par Method
 /// The standard operation zhpr2 (J. J. Dongarra et al., ACM Trans. Math. Softw. 14 (1988) 1-17), in row-major order,
-/// from the BLAS library that is linked.
+/// from the BLAS library that is linked; the smallest sizes by loops in place.
 /// \par Thread safety
 /// Safe.
 /// \par Example
