@@ -29,6 +29,9 @@ namespace {
 using Values = std::vector<double>;
 using Cdf = std::function<double(double)>;
 
+// Boost.Math in plain doubles.
+constexpr boost::math::policies::policy<boost::math::policies::promote_double<false>> kPlain;
+
 constexpr Integer kDraws = 10000000;
 Integer seed = 1;
 Values p_values;
@@ -49,19 +52,21 @@ double kolmogorov_tail(double t)
     return std::clamp(sum, 0.0, 1.0);
 }
 
+// The law is compared at one in fifty of the sorted draws, which hides at most 2 percent of a standard deviation.
 // `below(x)` and `upto(x)`: the probabilities of what rounds to less than x, and to x or less. They differ only where a
 // part of the law falls on one double.
 void kolmogorov_smirnov(const std::string &name, Values x, const Cdf &upto, const Cdf &below)
 {
     std::sort(x.begin(), x.end());
     const auto n = static_cast<double>(x.size());
+    constexpr std::size_t kStride = 50;
     double worst = 0.0;
     for (std::size_t i = 0; i < x.size();) {
         std::size_t next = i;
         while (next < x.size() && x[next] == x[i]) ++next;
         worst = std::max({worst, std::fabs(static_cast<double>(next) / n - upto(x[i])),
                           std::fabs(static_cast<double>(i) / n - below(x[i]))});
-        i = next;
+        i = next + kStride;
     }
     show(name, "Kolmogorov-Smirnov", n, kolmogorov_tail(worst * std::sqrt(n)));
 }
@@ -258,7 +263,7 @@ void simple_laws()
                        [](double y) { return boost::math::cdf(boost::math::cauchy(), y); });
     for (const double g : {0.5, 1.0, 1.5, 20.0})
         kolmogorov_smirnov(with("g05dgc", {g}), draws([g] { return g05dgc(g, 1.0, nullptr); }, kDraws / 10),
-                           [g](double y) { return boost::math::gamma_p(g, y); });
+                           [g](double y) { return boost::math::gamma_p(g, y, kPlain); });
     {
         start();
         Values counts(6);
@@ -283,7 +288,7 @@ void gammas()
         Values x(kDraws);
         g05ffc(a, 1.0, kDraws, x.data(), nullptr);
         const double at_0 = std::exp(a * kLogLeast - std::lgamma(1.0 + a));
-        const auto cdf = [=](double y) { return y > 0.0 ? boost::math::gamma_p(a, y) : at_0; };
+        const auto cdf = [=](double y) { return y > 0.0 ? boost::math::gamma_p(a, y, kPlain) : at_0; };
         kolmogorov_smirnov(with("g05ffc", {a}), x, cdf, [=](double y) { return y > 0.0 ? cdf(y) : 0.0; });
     }
 }
@@ -297,9 +302,9 @@ void betas()
         Values x(kDraws);
         g05fec(a, b, kDraws, x.data(), nullptr);
         // What rounds to 0 and to 1.
-        const double scale = boost::math::beta(a, b), at_0 = std::exp(a * kLogLeast) / (a * scale);
+        const double scale = boost::math::beta(a, b, kPlain), at_0 = std::exp(a * kLogLeast) / (a * scale);
         const double at_1 = std::exp(b * -54.0 * std::log(2.0)) / (b * scale);
-        const auto cdf = [=, a = a, b = b](double y) { return boost::math::ibeta(a, b, y); };
+        const auto cdf = [=, a = a, b = b](double y) { return boost::math::ibeta(a, b, y, kPlain); };
         kolmogorov_smirnov(
             with("g05fec", {a, b}), x, [=](double y) { return y == 0.0   ? at_0
                                                               : y == 1.0 ? 1.0
