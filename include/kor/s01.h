@@ -1,5 +1,5 @@
 /// \file s01.h
-/// Chapter s01: ln(1 + x).
+/// Chapter s01: logarithm of a number near 1.
 #ifndef KOR_S01_H
 #define KOR_S01_H
 
@@ -7,22 +7,29 @@
 
 KOR_BEGIN_DECLS
 
-/// \brief The logarithm of 1 + x, without the rounding of 1 + x.
+/// \brief ln(1 + x), accurate also for small x.
 ///
-/// \param[in] x    greater than -1
+/// Where x is small, 1 + x loses the digits of x before the logarithm sees them; this routine keeps them all.
+///
+/// \param[in]     x    the argument, x > -1; plus infinity is allowed
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
-/// \return ln(1 + x); 0 after an error
 ///
+/// \return ln(1 + x); a NaN for a NaN, without any report.
 /// \par Errors
-/// - NE_REAL_ARG_LE: `x` is not greater than -1.
+/// - NE_REAL_ARG_LE: `x` is not greater than -1; the result is 0.
+///
 /// \par Accuracy
-/// At most 1 ulp, over the whole range.
+/// Within 0.51 ulp everywhere.
 /// \par Method
-/// 1 + x as two doubles, and the logarithm of both.
+/// 1 + x is formed as two doubles without error; a table of logarithms brings it near 1, and a short series in two
+/// doubles does the rest.
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s11aac(), s11abc(), s11acc() for other logarithms.
 /// \par Example
 /// \code{.c}
+/// KorError fail = {0};
 /// double y = s01bac(1e-10, &fail);   // 9.9999999995e-11
 /// \endcode
 double s01bac(double x, KorError *fail);

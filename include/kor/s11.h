@@ -9,60 +9,74 @@ KOR_BEGIN_DECLS
 
 /// \brief The inverse hyperbolic tangent.
 ///
-/// \param[in] x    less than 1 in modulus
-/// \param[in,out] fail the error record; may be null, and then a failure ends the process
-/// \return artanh x; 0 after an error
+/// arctanh x = ln((1 + x) / (1 - x)) / 2.
 ///
+/// \param[in]     x    the argument, |x| < 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \return arctanh x; a NaN for a NaN, without any report.
 /// \par Errors
-/// - NE_REAL_ARG_GE: |x| is not less than 1.
+/// - NE_REAL_ARG_GE: |x| is 1 or more; the result is 0.
+///
 /// \par Accuracy
-/// At most 1 ulp, over the whole range.
+/// Within 0.6 ulp.
 /// \par Method
-/// A series for small x; else a logarithm of a quotient in two doubles.
+/// An odd series below 1/4, beyond it the logarithm of the quotient in numbers of two doubles.
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s10aac() for the inverse.
 /// \par Example
 /// \code{.c}
-/// double y = s11aac(0.5, &fail);   // 0.5493061443340548
+/// KorError fail = {0};
+/// double y = s11aac(0.5, &fail);   // 0.549306144334055
 /// \endcode
 double s11aac(double x, KorError *fail);
 
 /// \brief The inverse hyperbolic sine.
 ///
-/// \param[in] x    any
-/// \return arsinh x
+/// arcsinh x = ln(x + sqrt(x^2 + 1)); beyond 1e9, ln(2 |x|) with the sign of x.
 ///
-/// \par Errors
-/// None.
+/// \param[in] x the argument, any
+///
+/// \return arcsinh x; a NaN for a NaN.
 /// \par Accuracy
-/// At most 1 ulp, over the whole range.
+/// Within 0.6 ulp.
 /// \par Method
-/// A series for small x; else a logarithm in two doubles; from 1e9 on ln(2x).
+/// An odd series below 1/4, beyond it the logarithm in numbers of two doubles.
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s10abc() for the inverse.
 /// \par Example
 /// \code{.c}
-/// double y = s11abc(1.0);   // 0.881373587019543
+/// double y = s11abc(0.5);   // 0.481211825059603
 /// \endcode
 double s11abc(double x);
 
 /// \brief The inverse hyperbolic cosine.
 ///
-/// \param[in] x    at least 1
-/// \param[in,out] fail the error record; may be null, and then a failure ends the process
-/// \return arcosh x, not negative; 0 after an error
+/// arccosh x = ln(x + sqrt(x^2 - 1)), not negative; beyond 1e9, ln(2 x).
 ///
+/// \param[in]     x    the argument, x >= 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \return arccosh x; a NaN for a NaN, without any report.
 /// \par Errors
-/// - NE_REAL_ARG_LT: `x` is less than 1.
+/// - NE_REAL_ARG_LT: `x` is less than 1; the result is 0.
+///
 /// \par Accuracy
-/// At most 1 ulp, over the whole range.
+/// Within 0.51 ulp, next to 1 too.
 /// \par Method
-/// A logarithm in two doubles; from 1e9 on ln(2x).
+/// The logarithm in numbers of two doubles, below 2 of 1 + (d + sqrt(d (d + 2))) with d = x - 1.
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s10acc() for the inverse.
 /// \par Example
 /// \code{.c}
-/// double y = s11acc(2.0, &fail);   // 1.3169578969248166
+/// KorError fail = {0};
+/// double y = s11acc(1.5, &fail);   // 0.962423650119207
 /// \endcode
 double s11acc(double x, KorError *fail);
 

@@ -7,45 +7,47 @@
 
 KOR_BEGIN_DECLS
 
-/// \brief The Fresnel sine integral.
+/// \brief The Fresnel sine integral S(x).
 ///
-/// S(x) = integral of sin(pi t^2/2) from 0 to x.
+/// The integral of sin(pi t^2 / 2) over t from 0 to x; an odd function with the limit 1/2.
 ///
-/// \param[in] x    any
-/// \return S(x), 0.5 with the sign of x for large x
+/// \param[in] x the argument, any
 ///
-/// \par Errors
-/// None.
+/// \return S(x); a NaN for a NaN.
 /// \par Accuracy
-/// At most 2 ulp.
+/// Within 1.1 ulp.
 /// \par Method
-/// Piecewise polynomials; for large x the two auxiliary functions, with the phase reduced exactly.
+/// Below 1/2 a series, up to 4 polynomials on pieces; beyond, auxiliary functions with sine and cosine of pi x^2 / 2,
+/// where x^2 is reduced without error (Abramowitz and Stegun, Handbook of Mathematical Functions, 1964, 7.3).
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s20adc().
 /// \par Example
 /// \code{.c}
-/// double y = s20acc(1.0);   // 0.4382591473903548
+/// double y = s20acc(1.5);   // 0.697504960082093
 /// \endcode
 double s20acc(double x);
 
-/// \brief The Fresnel cosine integral.
+/// \brief The Fresnel cosine integral C(x).
 ///
-/// C(x) = integral of cos(pi t^2/2) from 0 to x.
+/// The integral of cos(pi t^2 / 2) over t from 0 to x; an odd function with the limit 1/2.
 ///
-/// \param[in] x    any
-/// \return C(x), 0.5 with the sign of x for large x
+/// \param[in] x the argument, any
 ///
-/// \par Errors
-/// None.
+/// \return C(x); a NaN for a NaN.
 /// \par Accuracy
-/// At most 2 ulp.
+/// Within 0.9 ulp.
 /// \par Method
-/// As s20acc().
+/// Below 1/2 a series, up to 4 polynomials on pieces; beyond, auxiliary functions with sine and cosine of pi x^2 / 2,
+/// where x^2 is reduced without error (Abramowitz and Stegun, Handbook of Mathematical Functions, 1964, 7.3).
 /// \par Thread safety
-/// Safe.
+/// Safe: no state.
+/// \par See also
+/// s20acc().
 /// \par Example
 /// \code{.c}
-/// double y = s20adc(1.0);   // 0.7798934003768228
+/// double y = s20adc(1.5);   // 0.445261176039822
 /// \endcode
 double s20adc(double x);
 

@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "frame/constants.hpp"
 #include "frame/report.hpp"
 #include "special/elementary.hpp"
 #include "special/sine_cosine_integral.hpp"
@@ -15,8 +14,6 @@ constexpr double kLogarithmBelow = 0.5;
 double cosine_integral(double x)
 {
     using namespace kor::special;
-    // x^2 vanishes, and the extended logarithm wants normal numbers.
-    if (x < kor::kSmallest) return std::log(x) + tables::kEuler.hi;
     if (x < kLogarithmBelow) {
         const double square = x * x;
         return (extended_log({x}) + (tables::kEuler + square * polynomial(tables::kCiSeries, square))).rounded();
