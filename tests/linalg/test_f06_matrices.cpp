@@ -142,7 +142,8 @@ template <class T, class Index, class Permute>
 void expect_permutations(Index first, Permute permute)
 {
     Random random;
-    const Index perm[] = {first + 3, first + 1, first + 5, first + 3, first + 4};
+    // Interchanges that do not commute.
+    const Index perm[] = {first + 3, first + 4, first + 5, first + 5, first + 4};
     constexpr Integer n = 5, order = 6, k = 4; // row or column 6 is met by an interchange alone
     Dense P = identity(order);
     for (Integer i = 0; i < n; ++i) {

@@ -92,6 +92,10 @@ TEST(GuardedDivision, ComplexOverAllExponents)
     EXPECT_TRUE(fail);
     EXPECT_LE(std::abs(wide(f06clc(z, zero, &fail)) - Z{0.6L * kH, -0.8L * kH}), 4 * kEps * kH);
     EXPECT_TRUE(fail);
+    // |b| >= 1 though its parts are less: a quotient beyond the bound is left alone.
+    const Complex large{0x1.8p1023, 0.0}, beyond_one{0.75, 0.75};
+    EXPECT_LE(std::abs(wide(f06clc(large, beyond_one, &fail)) - wide(large) / wide(beyond_one)), 4 * kEps * 0x1.8p1023);
+    EXPECT_FALSE(fail);
     EXPECT_TRUE(std::isnan(f06clc(z, Complex{kNan, 1.0}, &fail).re));
     EXPECT_FALSE(fail);
 }
@@ -138,6 +142,9 @@ TEST(Rotation, FromATangent)
     EXPECT_EQ(s, -1.0);
     f06bcc(kNan, &c, &s);
     EXPECT_TRUE(std::isnan(c) && std::isnan(s));
+    f06ccc({1.5e308, -1.5e308}, &c, &sz); // |t| overflows
+    EXPECT_LE(std::fabs(c - 1.0 / std::sqrt(2.0) / 1.5e308), 2 * DBL_TRUE_MIN);
+    EXPECT_LE(std::abs(wide(sz) - Z{std::sqrt(0.5L), -std::sqrt(0.5L)}), 4 * kEps);
     f06ccc({0.0, kInf}, &c, &sz);
     EXPECT_EQ(c, 0.0);
     EXPECT_EQ(wide(sz), Z(0.0L, 1.0L));

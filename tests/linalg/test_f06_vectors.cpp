@@ -305,7 +305,7 @@ TEST(Greatest, FirstOfEqualsCountedFromOneInWalkingOrder)
     EXPECT_EQ(f06jlc(0, nullptr, 1), 0);
     EXPECT_EQ(f06jmc(0, nullptr, 1), 0);
     Random random;
-    for (const Integer n : {1, 2, 8, 9, 33, 600})
+    for (const Integer n : {1, 2, 8, 9, 33, 64, 600}) // 64: both of the tie in lanes
         for (const Integer inc : {1, -1, 2, -3}) {
             Vector<double> x{n, inc, random};
             Vector<Complex> z{n, inc, random};
