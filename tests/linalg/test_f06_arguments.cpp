@@ -91,7 +91,7 @@ std::vector<Case> standard_cases()
         [=](A m, V v) { f06sac(v[0], v[1], v[2], one, m.za.data(), v[3], m.zb.data(), v[4], one, m.zc.data(), v[5]); });
     add(
         all, "f06pbc/dgbmv", "f06sbc/zgbmv",
-        {trans1, {2, 2, -1}, {3, 3, -1}, {4, 1, -1}, {5, 2, -1}, {8, 4, -1}, {10, 1, 0}, {13, 1, 0}},
+        {trans1, {2, 2, -1}, {3, 3, -1}, {4, 1, -1}, {5, 2, -1}, {8, 4, 3}, {10, 1, 0}, {13, 1, 0}},
         [](A m, V v) {
             f06pbc(v[0], v[1], v[2], v[3], v[4], 1.0, m.a.data(), v[5], m.b.data(), v[6], 2.0, m.c.data(), v[7]);
         },
@@ -103,7 +103,7 @@ std::vector<Case> standard_cases()
         [](A m, V v) { f06pcc(v[0], v[1], 1.0, m.a.data(), v[2], m.b.data(), v[3], 2.0, m.c.data(), v[4]); },
         [=](A m, V v) { f06scc(v[0], v[1], one, m.za.data(), v[2], m.zb.data(), v[3], one, m.zc.data(), v[4]); });
     add(
-        all, "f06pdc/dsbmv", "f06sdc/zhbmv", {uplo1, {2, 3, -1}, {3, 2, -1}, {6, 3, -1}, {8, 1, 0}, {11, 1, 0}},
+        all, "f06pdc/dsbmv", "f06sdc/zhbmv", {uplo1, {2, 3, -1}, {3, 2, -1}, {6, 3, 2}, {8, 1, 0}, {11, 1, 0}},
         [](A m, V v) { f06pdc(v[0], v[1], v[2], 1.0, m.a.data(), v[3], m.b.data(), v[4], 2.0, m.c.data(), v[5]); },
         [=](A m, V v) { f06sdc(v[0], v[1], v[2], one, m.za.data(), v[3], m.zb.data(), v[4], one, m.zc.data(), v[5]); });
     add(
@@ -113,7 +113,7 @@ std::vector<Case> standard_cases()
 
     const Case::Argument trans2{2, Transpose, 4}, diag3{3, NotUnitTriangular, LeftSide}, n4{4, 3, -1};
     const Arguments full{uplo1, trans2, diag3, n4, {6, 3, 2}, {8, 1, 0}},
-        band{uplo1, trans2, diag3, n4, {5, 1, -1}, {7, 2, -1}, {9, 1, 0}}, pack{uplo1, trans2, diag3, n4, {7, 1, 0}};
+        band{uplo1, trans2, diag3, n4, {5, 1, -1}, {7, 2, 1}, {9, 1, 0}}, pack{uplo1, trans2, diag3, n4, {7, 1, 0}};
     const auto on_full = [](auto f) {
         return [=](A m, V v) { f(v[0], v[1], v[2], v[3], m.a.data(), v[4], m.b.data(), v[5]); };
     };
