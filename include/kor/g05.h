@@ -20,7 +20,8 @@ KOR_BEGIN_DECLS
 
 /// What g05ddc() and g05dgc() carry from call to call.
 typedef struct {
-    double v[2]; ///< [0]: the fraction that holds the random bits of g05ddc(); [1]: the spare of g05dgc(), negative if none
+    double v
+        [2]; ///< [0]: the fraction that holds the random bits of g05ddc(); [1]: the spare of g05dgc(), negative if none
 } KorG05Carry;
 
 /// \brief The next uniform random number of this thread's stream.
@@ -325,7 +326,8 @@ Integer g05dyc(Integer a, Integer b);
 /// g05eac(mean, 2, c, 2, 0.0, r, 7, &fail);
 /// g05ezc(z, r);
 /// \endcode
-void g05eac(const double a[], Integer n, const double c[], Integer tdc, double eps, double r[], Integer lr, KorError *fail);
+void g05eac(const double a[], Integer n, const double c[], Integer tdc, double eps, double r[], Integer lr,
+            KorError *fail);
 
 /// \brief Sets up the reference vector of a Poisson law, for g05eyc().
 ///
@@ -691,8 +693,8 @@ void g05hac(Integer p, Integer q, const double phi[], const double theta[], doub
 /// double ht[1001], et[1001];
 /// g05hkc(1000, 1, 1, theta, -0.1, Kor_Garch_Fcall_True, ht, et, &fail);
 /// \endcode
-void g05hkc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[], double et[],
-            KorError *fail);
+void g05hkc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[],
+            double et[], KorError *fail);
 
 /// \brief A realisation of an asymmetric GARCH(p, q) process, with news scaled by its sign.
 ///
@@ -718,8 +720,8 @@ void g05hkc(Integer num, Integer p, Integer q, const double theta[], double gamm
 /// Safe.
 /// \par Example
 /// As g05hkc().
-void g05hlc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[], double et[],
-            KorError *fail);
+void g05hlc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[],
+            double et[], KorError *fail);
 
 /// \brief A realisation of an asymmetric GARCH(p, q) process, with more weight for bad news.
 ///
@@ -745,8 +747,8 @@ void g05hlc(Integer num, Integer p, Integer q, const double theta[], double gamm
 /// Safe.
 /// \par Example
 /// As g05hkc().
-void g05hmc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[], double et[],
-            KorError *fail);
+void g05hmc(Integer num, Integer p, Integer q, const double theta[], double gamma, Integer fcall, double ht[],
+            double et[], KorError *fail);
 
 KOR_END_DECLS
 

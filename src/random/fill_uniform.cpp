@@ -114,7 +114,7 @@ template <int which>
 }
 
 // Product and conversion are one instruction each here, and the compiler finds them.
-[[gnu::target("arch=x86-64-v4")]] void fill_avx512(std::uint64_t word, double *u)
+[[gnu::target("avx512f,avx512bw,avx512dq,avx512vl")]] void fill_avx512(std::uint64_t word, double *u)
 {
     for (int i = 0; i < kBlock; ++i) u[i] = uniform_of(word * kForward[i]);
 }
@@ -137,7 +137,9 @@ std::span<const Path> fill_paths()
     };
     std::size_t usable = std::size(paths);
 #if defined(__x86_64__)
-    if (!__builtin_cpu_supports("x86-64-v4")) --usable;
+    const bool all_of_avx512 = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+                               __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
+    if (!all_of_avx512) --usable;
     if (!__builtin_cpu_supports("avx2")) usable = std::size(paths) - 2;
 #endif
     return {paths, usable};
