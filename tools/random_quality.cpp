@@ -301,17 +301,16 @@ void betas()
         start();
         Values x(kDraws);
         g05fec(a, b, kDraws, x.data(), nullptr);
-        // What rounds to 0 and to 1.
-        const double scale = boost::math::beta(a, b, kPlain), at_0 = std::exp(a * kLogLeast) / (a * scale);
-        const double at_1 = std::exp(b * -54.0 * std::log(2.0)) / (b * scale);
-        const auto cdf = [=, a = a, b = b](double y) { return boost::math::ibeta(a, b, y, kPlain); };
+        // What rounds to 0, and the half spacing of doubles above 1/2, where single doubles may carry a part of the law.
+        constexpr double kHalfSpacing = 0x1p-54;
+        const double at_0 = std::exp(a * kLogLeast) / (a * boost::math::beta(a, b, kPlain));
+        const auto cdf = [=, a = a, b = b](double y, double edge) {
+            return y > 0.5 ? boost::math::ibetac(b, a, std::max(0.0, (1.0 - y) - edge), kPlain)
+                           : boost::math::ibeta(a, b, y, kPlain);
+        };
         kolmogorov_smirnov(
-            with("g05fec", {a, b}), x, [=](double y) { return y == 0.0   ? at_0
-                                                              : y == 1.0 ? 1.0
-                                                                         : cdf(y); },
-            [=](double y) { return y == 0.0   ? 0.0
-                                   : y == 1.0 ? 1.0 - at_1
-                                              : cdf(y); });
+            with("g05fec", {a, b}), x, [=](double y) { return y == 0.0 ? at_0 : cdf(y, kHalfSpacing); },
+            [=](double y) { return y == 0.0 ? 0.0 : cdf(y, -kHalfSpacing); });
     }
 }
 

@@ -11,6 +11,14 @@ namespace kor::random {
 
 inline constexpr double kLog4 = 1.3862943611198906;
 
+// wanted / (wanted + other), rounded once also where it is next to 1: there a part of the law may lie on single doubles.
+KOR_LANE double share_of(double wanted, double other)
+{
+    const bool minor = wanted <= other;
+    const double smaller = (minor ? wanted : other) / (wanted + other);
+    return minor ? smaller : 1.0 - smaller;
+}
+
 // Both parameters above 1; a is the smaller.
 class BetaAbove1 {
   public:
@@ -31,7 +39,7 @@ class BetaAbove1 {
         // Cheng's a + gamma v - log 4 - w, and alpha log(alpha / (b + w)) as its difference from w - a.
         const double s = (y - kLog4) - a_ * e.defect;
         const double rest = sum_ * lane_log1p(share_ * (v + e.defect)).defect;
-        const double x = (of_a_ * w + of_b_ * b_) / (b_ + w);
+        const double x = share_of(of_a_ * w + of_b_ * b_, of_b_ * w + of_a_ * b_);
         return {x, u1 * u1 * u2, s + rest};
     }
 
@@ -67,7 +75,7 @@ class BetaBelow1 {
         const double log_ratio = -sum_ * (lane_log1p(b_ / sum_ * growth).value + beyond);
         // w / (b + w) = part / (part + other)
         const double part = positive ? a_ : a_ * decay, other = positive ? b_ * decay : b_;
-        const double x = (of_a_ * part + of_b_ * other) / (part + other);
+        const double x = share_of(of_a_ * part + of_b_ * other, of_b_ * part + of_a_ * other);
         return {x, u1 * u1 * u2, log_ratio - kLog4};
     }
 
