@@ -1,0 +1,413 @@
+/// \file g01.h
+/// Chapter g01: distributions and descriptive statistics.
+#ifndef KOR_G01_H
+#define KOR_G01_H
+
+#include <kor.h>
+
+KOR_BEGIN_DECLS
+
+/// \brief The deviate of a lower tail probability of the standard normal law.
+///
+/// The x with P(X <= x) = `p`.
+///
+/// \param[in] p the probability, strictly between 0 and 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return x; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LE: `p` is not greater than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// \par Accuracy
+/// A few units in the last place, given `p`; a `p` next to 1 cannot be known well: use g01fac() with Kor_UpperTail
+/// there.
+/// \par Method
+/// A rational start and two steps of Halley's method on the tail itself.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fac(), which takes any tail.
+/// \par Example
+/// \code{.c}
+/// double x = g01cec(0.975, &fail);   // x = 1.95996398454005
+/// \endcode
+double g01cec(double p, KorError *fail);
+
+/// \brief Tail probabilities of the standard normal law.
+///
+/// P(X <= x), P(X > x), P(|X| > |x|) or P(|X| <= |x|) of the density exp(-x^2/2) / sqrt(2 pi).
+///
+/// \param[in] tail Kor_LowerTail, Kor_UpperTail, Kor_TwoTailSignif (outside (-|x|, |x|)) or Kor_TwoTailConfid (inside
+///             it)
+/// \param[in] x the deviate, in standard deviations; infinities are allowed
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// \par Accuracy
+/// A few units in the last place. Each tail is computed as a tail, never as a difference from 1: small relative errors
+/// down to 1e-300. A NaN gives NaN.
+/// \par Method
+/// Through the error function and its complement, with the rounding errors of x / sqrt 2 and of its square put back.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fac() for the inverse.
+/// \par Example
+/// \code{.c}
+/// double q = g01eac(Kor_UpperTail, 1.96, &fail);   // q = 0.0249978951482204
+/// \endcode
+double g01eac(Integer tail, double x, KorError *fail);
+
+/// \brief Deviates of the standard normal law.
+///
+/// The x whose tail has probability `p`: the inverse of g01eac(). For the two-sided tails x >= 0.
+///
+/// \param[in] tail Kor_LowerTail, Kor_UpperTail, Kor_TwoTailSignif (outside (-|x|, |x|)) or Kor_TwoTailConfid (inside
+///             it)
+/// \param[in] p the probability, strictly between 0 and 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return x; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LE: `p` is not greater than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// \par Accuracy
+/// A few units in the last place, near the median too, where x is small.
+/// \par Method
+/// A rational start and two steps of Halley's method on the tail itself; a series near the median.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01eac()
+/// \par Example
+/// \code{.c}
+/// double x = g01fac(Kor_TwoTailConfid, 0.95, &fail);   // x = 1.95996398454005
+/// \endcode
+double g01fac(Integer tail, double p, KorError *fail);
+
+/// \brief Tail probabilities of Student's t law.
+///
+/// P(T <= t), P(T > t), P(|T| > |t|) or P(|T| <= |t|) of the density proportional to (1 + t^2/df)^(-(df+1)/2).
+///
+/// \param[in] tail Kor_LowerTail, Kor_UpperTail, Kor_TwoTailSignif (outside (-|t|, |t|)) or Kor_TwoTailConfid (inside
+///             it)
+/// \param[in] t the deviate; infinities are allowed
+/// \param[in] df degrees of freedom, at least 1; need not be whole
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LT: `df` is less than 1.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN.
+/// \par Method
+/// t^2/df are the odds of a beta variable with shapes 1/2 and df/2, for all `df`: see g01eec().
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fbc() for the inverse.
+/// \par Example
+/// \code{.c}
+/// double p = g01ebc(Kor_TwoTailSignif, 2.5, 10.0, &fail);   // p = 0.0314468442366088
+/// \endcode
+double g01ebc(Integer tail, double t, double df, KorError *fail);
+
+/// \brief Deviates of Student's t law.
+///
+/// The t whose tail has probability `p`: the inverse of g01ebc(). For the two-sided tails t >= 0.
+///
+/// \param[in] tail Kor_LowerTail, Kor_UpperTail, Kor_TwoTailSignif (outside (-|t|, |t|)) or Kor_TwoTailConfid (inside
+///             it)
+/// \param[in] p the probability, strictly between 0 and 1
+/// \param[in] df degrees of freedom, at least 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return t; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LE: `p` is not greater than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// - NE_REAL_ARG_LT: `df` is less than 1.
+/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// \par Accuracy
+/// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
+/// \par Method
+/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable t^2/df; closed forms in
+/// the far tail and next to the median.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01ebc()
+/// \par Example
+/// \code{.c}
+/// double t = g01fbc(Kor_UpperTail, 0.025, 10.0, &fail);   // t = 2.22813885198627
+/// \endcode
+double g01fbc(Integer tail, double p, double df, KorError *fail);
+
+/// \brief Tail probabilities of the chi-squared law.
+///
+/// P(X <= x) or P(X > x), X the sum of the squares of `df` standard normal variables.
+///
+/// \param[in] tail Kor_LowerTail or Kor_UpperTail
+/// \param[in] x the value, at least 0
+/// \param[in] df degrees of freedom, greater than 0; need not be whole
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LT: `x` is less than 0.
+/// - NE_REAL_ARG_LE: `df` is not greater than 0.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN.
+/// \par Method
+/// The incomplete gamma ratios of shape df/2 at x/2.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fcc() for the inverse; g01efc().
+/// \par Example
+/// \code{.c}
+/// double q = g01ecc(Kor_UpperTail, 18.3, 10.0, &fail);   // q = 0.0501090614114625
+/// \endcode
+double g01ecc(Integer tail, double x, double df, KorError *fail);
+
+/// \brief Deviates of the chi-squared law.
+///
+/// The x with P(X <= x) = `p`; 0 for `p` = 0.
+///
+/// \param[in] p the lower tail probability, at least 0 and less than 1
+/// \param[in] df degrees of freedom, greater than 0
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return x; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `p` is less than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// - NE_REAL_ARG_LE: `df` is not greater than 0.
+/// - NE_PROBAB_CLOSE_TO_TAIL: the deviate is too small or too large for a number; the result is 0.
+/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// \par Accuracy
+/// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
+/// \par Method
+/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, whose tails are log-
+/// concave: convergence is monotone.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01ecc()
+/// \par Example
+/// \code{.c}
+/// double x = g01fcc(0.95, 10.0, &fail);   // x = 18.3070380532751
+/// \endcode
+double g01fcc(double p, double df, KorError *fail);
+
+/// \brief Tail probabilities of the F law.
+///
+/// P(F <= f) or P(F > f), F the ratio of two mean squares with `df1` and `df2` degrees of freedom.
+///
+/// \param[in] tail Kor_LowerTail or Kor_UpperTail
+/// \param[in] f the ratio, at least 0
+/// \param[in] df1 degrees of freedom of the numerator, greater than 0
+/// \param[in] df2 degrees of freedom of the denominator, greater than 0
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LE: `df1` is not greater than 0.
+/// - NE_REAL_ARG_LE: `df2` is not greater than 0.
+/// - NE_REAL_ARG_LT: `f` is less than 0.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN.
+/// \par Method
+/// df1 f / df2 are the odds of a beta variable with shapes df1/2 and df2/2, for all degrees up to 1e22; beyond that
+/// chi-squared. The time grows as the root of the smaller of the two degrees.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fdc() for the inverse.
+/// \par Example
+/// \code{.c}
+/// double q = g01edc(Kor_UpperTail, 4.0, 3.0, 12.0, &fail);   // q = 0.0345903571556469
+/// \endcode
+double g01edc(Integer tail, double f, double df1, double df2, KorError *fail);
+
+/// \brief Deviates of the F law.
+///
+/// The f with P(F <= f) = `p`; 0 for `p` = 0.
+///
+/// \param[in] p the lower tail probability, at least 0 and less than 1
+/// \param[in] df1 degrees of freedom of the numerator, greater than 0
+/// \param[in] df2 degrees of freedom of the denominator, greater than 0
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return f; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `p` is less than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// - NE_REAL_ARG_LE: `df1` is not greater than 0.
+/// - NE_REAL_ARG_LE: `df2` is not greater than 0.
+/// - NE_PROBAB_CLOSE_TO_TAIL: the deviate is too small or too large for a number; the result is 0.
+/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// \par Accuracy
+/// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
+/// \par Method
+/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, the odds df1 f / df2.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01edc()
+/// \par Example
+/// \code{.c}
+/// double f = g01fdc(0.95, 3.0, 12.0, &fail);   // f = 3.49029481949761
+/// \endcode
+double g01fdc(double p, double df1, double df2, KorError *fail);
+
+/// \brief Tail probabilities and density of the beta law.
+///
+/// The density is x^(a-1) (1-x)^(b-1) / B(a, b) on (0, 1).
+///
+/// \param[in] x the value, from 0 to 1
+/// \param[in] a first shape, greater than 0, at most 1.0e6
+/// \param[in] b second shape, greater than 0, at most 1.0e6
+/// \param[in] tol relative accuracy wanted; not read, because the result is always as accurate as can be
+/// \param[out] p P(X <= x)
+/// \param[out] q P(X > x)
+/// \param[out] pdf the density at `x`; 0 at `x` = 0 and `x` = 1 whatever the shapes
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `x` is less than 0.
+/// - NE_REAL_ARG_GT: `x` is greater than 1.
+/// - NE_REAL_ARG_LE: `a` is not greater than 0.
+/// - NE_REAL_ARG_GT: `a` is greater than 1.0e6.
+/// - NE_REAL_ARG_LE: `b` is not greater than 0.
+/// - NE_REAL_ARG_GT: `b` is greater than 1.0e6.
+/// - NE_PROBAB_CLOSE_TO_TAIL: the smaller tail is below 2.2e-308; `p`, `q`, `pdf` are 1, 0, 0 for `x` >= 0.5 and 0, 1,
+///   0 below. After the other errors they are untouched.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN.
+/// \par Method
+/// A power series of positive terms below the mean, a continued fraction near it, and their factor x^a (1-x)^b / B(a,
+/// b) as a saddle point with a low part. A. R. DiDonato and A. H. Morris, ACM Trans. Math. Softw. 18 (1992) 360-373.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01fec() for the inverse.
+/// \par Example
+/// \code{.c}
+/// double p, q, pdf;
+/// g01eec(0.25, 1.0, 2.0, 0.0, &p, &q, &pdf, &fail);   // p = 0.4375, q = 0.5625, pdf = 1.5
+/// \endcode
+void g01eec(double x, double a, double b, double tol, double *p, double *q, double *pdf, KorError *fail);
+
+/// \brief Deviates of the beta law.
+///
+/// The x with P(X <= x) = `p`; 0 and 1 for `p` = 0 and 1.
+///
+/// \param[in] p the lower tail probability, from 0 to 1
+/// \param[in] a first shape, greater than 0, at most 1.0e6
+/// \param[in] b second shape, greater than 0, at most 1.0e6
+/// \param[in] tol relative accuracy wanted; not read, because the result is always as accurate as can be
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return x; 0 also where x is below the smallest number; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `p` is less than 0.
+/// - NE_REAL_ARG_GT: `p` is greater than 1.
+/// - NE_REAL_ARG_LE: `a` is not greater than 0.
+/// - NE_REAL_ARG_GT: `a` is greater than 1.0e6.
+/// - NE_REAL_ARG_LE: `b` is not greater than 0.
+/// - NE_REAL_ARG_GT: `b` is greater than 1.0e6.
+/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// \par Accuracy
+/// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
+/// \par Method
+/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, the odds x / (1 - x).
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01eec()
+/// \par Example
+/// \code{.c}
+/// double x = g01fec(0.4375, 1.0, 2.0, 0.0, &fail);   // x = 0.25
+/// \endcode
+double g01fec(double p, double a, double b, double tol, KorError *fail);
+
+/// \brief Tail probabilities of the gamma law.
+///
+/// The density is x^(a-1) exp(-x/b) / (b^a Gamma(a)), x > 0.
+///
+/// \param[in] tail Kor_LowerTail or Kor_UpperTail
+/// \param[in] g the value, at least 0, in the unit of `b`
+/// \param[in] a the shape, greater than 0
+/// \param[in] b the scale, greater than 0
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `tail` is none of these.
+/// - NE_REAL_ARG_LT: `g` is less than 0.
+/// - NE_REAL_ARG_LE: `a` is not greater than 0.
+/// - NE_REAL_ARG_LE: `b` is not greater than 0.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN. Given the quotient g/b, which is rounded.
+/// \par Method
+/// The incomplete gamma ratios of shape a at g/b.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01ffc() for the inverse.
+/// \par Example
+/// \code{.c}
+/// double q = g01efc(Kor_UpperTail, 3.0, 1.0, 1.5, &fail);   // q = 0.135335283236613
+/// \endcode
+double g01efc(Integer tail, double g, double a, double b, KorError *fail);
+
+/// \brief Deviates of the gamma law.
+///
+/// The g with P(X <= g) = `p`; 0 for `p` = 0.
+///
+/// \param[in] p the lower tail probability, at least 0 and less than 1
+/// \param[in] a the shape, greater than 0, at most 1.0e6
+/// \param[in] b the scale, greater than 0
+/// \param[in] tol relative accuracy wanted; not read, because the result is always as accurate as can be
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return g; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `p` is less than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// - NE_REAL_ARG_LE: `a` is not greater than 0.
+/// - NE_REAL_ARG_GT: `a` is greater than 1.0e6.
+/// - NE_REAL_ARG_LE: `b` is not greater than 0.
+/// - NE_PROBAB_CLOSE_TO_TAIL: the deviate is too small or too large for a number; the result is 0.
+/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// \par Accuracy
+/// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
+/// \par Method
+/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable; log-concavity makes
+/// convergence monotone.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01efc()
+/// \par Example
+/// \code{.c}
+/// double g = g01ffc(0.5, 1.0, 1.0, 0.0, &fail);   // g = 0.693147180559945
+/// \endcode
+double g01ffc(double p, double a, double b, double tol, KorError *fail);
+
+KOR_END_DECLS
+
+#endif

@@ -1,0 +1,28 @@
+// g01fec: deviates of the beta law.
+#include <kor/g01.h>
+
+#include <cmath>
+
+#include "frame/report.hpp"
+#include "stats/beta_law.hpp"
+
+double g01fec(double p, double a, double b, double /*tol: full accuracy meets any*/, KorError *fail)
+{
+    constexpr double kLargestShape = 1.0e6;
+    const kor::Report report{"g01fec", fail};
+    if (p < 0.0) return report.error<NE_REAL_ARG_LT>("p", "0.0", "p", p), 0.0;
+    if (p > 1.0) return report.error<NE_REAL_ARG_GT>("p", "1.0", "p", p), 0.0;
+    if (a <= 0.0) return report.error<NE_REAL_ARG_LE>("a", "0.0", "a", a), 0.0;
+    if (a > kLargestShape) return report.error<NE_REAL_ARG_GT>("a", "1.0e6", "a", a), 0.0;
+    if (b <= 0.0) return report.error<NE_REAL_ARG_LE>("b", "0.0", "b", b), 0.0;
+    if (b > kLargestShape) return report.error<NE_REAL_ARG_GT>("b", "1.0e6", "b", b), 0.0;
+    if (std::isnan(p) || std::isnan(a) || std::isnan(b)) return report.success(), NAN;
+    if (p == 0.0 || p == 1.0) return report.success(), p;
+
+    const kor::stats::Quantile odds = kor::stats::BetaLaw{a, b}.odds(kor::stats::target_of_lower(p));
+    if (odds.converged)
+        report.success();
+    else
+        report.error<NE_SOL_NOT_CONV>();
+    return odds.value < 1.0 ? odds.value / (1.0 + odds.value) : 1.0 / (1.0 + 1.0 / odds.value);
+}

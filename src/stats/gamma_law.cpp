@@ -1,0 +1,56 @@
+// The gamma law: the incomplete gamma ratios, and Newton's method on them.
+#include "stats/gamma_law.hpp"
+
+#include "frame/constants.hpp"
+#include "special/gamma.hpp"
+#include "special/incomplete_gamma.hpp"
+#include "stats/normal_law.hpp"
+
+namespace kor::stats {
+
+namespace {
+
+// Where P = x^a / Gamma(a + 1): a lower bound of the quantile, and sharp for small ones.
+double small_quantile(double a, double p)
+{
+    return std::exp((std::log(p) + special::extended_log_gamma(a + 1.0).hi) / a);
+}
+
+} // namespace
+
+Tails gamma_tails(double a, double x)
+{
+    const special::IncompleteGamma ratios = special::incomplete_gamma(a, x);
+    return {ratios.p, ratios.q};
+}
+
+Quantile gamma_quantile(double a, Target target)
+{
+    const double p = target.upper ? 1.0 - target.probability : target.probability;
+    double start = p > 0.0 ? small_quantile(a, p) : 0.0;
+    // The lower bound tells when the answer is below the doubles; above it P = bound to all digits.
+    if (p > 0.0 && p <= 0.5 && start < kSmallest) return {0.0, true};
+    if (a > 0.5) {
+        // Wilson and Hilferty: the cube root is nearly normal.
+        const double z = (target.upper ? 1.0 : -1.0) * (target.probability <= 0.5
+                                                            ? normal_upper_quantile(target.probability)
+                                                            : -normal_upper_quantile(1.0 - target.probability));
+        const double c = 1.0 / (9.0 * a);
+        const double cube_root = 1.0 - c + z * std::sqrt(c);
+        if (cube_root > 0.0) start = std::fmax(start, a * cube_root * cube_root * cube_root);
+    } else if (target.upper) {
+        // Q < x^(a-1) exp(-x) / Gamma(a) < a exp(-x) for x > 1.
+        const double far = std::log(a) - std::log(target.probability);
+        if (far > 1.0) start = std::fmin(far, std::fmax(start, 1.0));
+    }
+    if (start < kSmallest) start = kSmallest;
+    return solve_tail(
+        [a](double x) {
+            const Tails tails = gamma_tails(a, x);
+            const special::Exponential term = special::extended_poisson_term(a, x);
+            return PointOfLaw{tails, a * term.rounded()};
+        },
+        target, start);
+}
+
+} // namespace kor::stats

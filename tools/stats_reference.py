@@ -1,0 +1,167 @@
+#!/usr/bin/env python3
+"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes tests/stats/laws_data.inc. With a library as
+argument it also prints the largest errors of that library over a denser set of points."""
+import ctypes
+import os
+import random
+import sys
+
+import mpmath as mp
+
+# So many that one minus a tail of 1e-300 keeps its digits.
+mp.mp.dps = 400
+ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
+SMALLEST = mp.mpf("1e-300")
+
+
+def below_mean(a, b, x, y):
+    """I_x(a, b) for x below the mean: a series of positive terms."""
+    term = total = mp.mpf(1)
+    cut, k = mp.mpf(10) ** -mp.mp.dps, 0
+    while term > total * cut:
+        term *= x * (a + b + k) / (a + 1 + k)
+        total += term
+        k += 1
+    return total * mp.exp(a * mp.log(x) + b * mp.log(y) + mp.loggamma(a + b) - mp.loggamma(a + 1) - mp.loggamma(b))
+
+
+def beta(a, b, x, y):
+    a, b = mp.mpf(a), mp.mpf(b)
+    # A power of x with a small shape has no short series on the other side: all digits, then.
+    if a < 1 and x < 0.5:
+        p = below_mean(a, b, x, y)
+        return p, 1 - p
+    below = x * (a + b) <= a
+    with mp.workdps(60):
+        tail = below_mean(a, b, +x, +y) if below else below_mean(b, a, +y, +x)
+        return (tail, 1 - tail) if below else (1 - tail, tail)
+
+
+def gamma(a, x):
+    a, x = mp.mpf(a), mp.mpf(x)
+    term = total = mp.mpf(1)
+    cut, k = mp.mpf(10) ** -mp.mp.dps, 1
+    while term > total * cut:
+        term *= x / (a + k)
+        total += term
+        k += 1
+    p = total * mp.exp(a * mp.log(x) - x - mp.loggamma(a + 1))
+    return p, 1 - p
+
+
+def normal(x):
+    x = mp.mpf(x)
+    return mp.erfc(-x / mp.sqrt(2)) / 2, mp.erfc(x / mp.sqrt(2)) / 2
+
+
+def beta_of_double(x, a, b):
+    return beta(a, b, mp.mpf(x), 1 - mp.mpf(x))
+
+
+def f_law(f, df1, df2):
+    w = mp.mpf(df1) * mp.mpf(f) / mp.mpf(df2)
+    return beta(mp.mpf(df1) / 2, mp.mpf(df2) / 2, w / (1 + w), 1 / (1 + w))
+
+
+def t_law(t, df):
+    return f_law(mp.mpf(t) ** 2, 1, df)
+
+
+def odds(draw, a, b):
+    """Odds at which a beta law has tails of all sizes."""
+    spread = (1 / a + 1 / b) ** 0.5
+    return a / b * float(mp.exp(draw(-1, 1) * spread * draw(0, 38)))
+
+
+def points(draw, count, large):
+    shape = lambda: 10 ** draw(-3, large)
+    for _ in range(count):
+        yield "kNormal", (0.0, 0.0), draw(-38, 38)
+        df = 1 + 10 ** draw(-3, large)
+        w = odds(draw, 0.5, df / 2)
+        yield "kStudent", (df, 0.0), (w * df) ** 0.5
+        df1, df2 = shape(), shape()
+        yield "kF", (df1, df2), odds(draw, df1 / 2, df2 / 2) * df2 / df1
+        a, b = shape(), shape()
+        w = odds(draw, a, b)
+        yield "kBeta", (a, b), w / (1 + w)
+        a = min(shape(), 300.0)
+        yield "kGamma", (a, 0.0), a * float(mp.exp(draw(-1, 1) * draw(0, 38) * a ** -0.5)) if a > 1 else 10 ** draw(-9, 2.5)
+
+
+LAWS = {
+    "kNormal": lambda x, p1, p2: normal(x),
+    "kStudent": lambda x, df, p2: t_law(x, df),
+    "kF": f_law,
+    "kBeta": beta_of_double,
+    "kGamma": lambda x, a, p2: gamma(a, x),
+}
+
+
+def references(seed, count, large):
+    draw = random.Random(seed).uniform
+    for law, (p1, p2), x in points(draw, count, large):
+        if not (1e-290 < abs(x) < 1e290) or (law == "kBeta" and not 0 < x < 1):
+            continue
+        lower, upper = LAWS[law](x, p1, p2)
+        if min(lower, upper) > SMALLEST:
+            yield law, p1, p2, x, lower, upper
+
+
+def write():
+    path = os.path.join(ROOT, "tests", "stats", "laws_data.inc")
+    with open(path, "w", encoding="utf-8") as out:
+        out.write("// Written by tools/stats_reference.py: law, parameters, x, lower and upper tail (two-sided for Student).\n")
+        for law, p1, p2, x, lower, upper in references(1, 40, 3.5):
+            out.write("{%s, %r, %r, %r, %s, %s},\n" % (law, p1, p2, x, mp.nstr(lower, 20), mp.nstr(upper, 20)))
+
+
+def survey(path):
+    lib = ctypes.CDLL(path)
+    record = (ctypes.c_char * 1024)()
+    d, i = ctypes.c_double, ctypes.c_int32
+    def call(name, *args):
+        routine = getattr(lib, name)
+        routine.restype = d
+        return routine(*[i(v) if isinstance(v, int) else d(v) for v in args], record)
+    def beta_routine(x, a, b):
+        p, q, pdf = d(), d(), d()
+        lib.g01eec(d(x), d(a), d(b), d(0), ctypes.byref(p), ctypes.byref(q), ctypes.byref(pdf), record)
+        return p.value, q.value
+    lower, upper, signif, confid = 264, 265, 266, 267
+    computed = {
+        "kNormal": lambda x, p1, p2: [call("g01eac", t, x) for t in (lower, upper)],
+        "kStudent": lambda x, df, p2: [call("g01ebc", t, x, df) for t in (confid, signif)],
+        "kF": lambda x, df1, df2: [call("g01edc", t, x, df1, df2) for t in (lower, upper)],
+        "kBeta": beta_routine,
+        "kGamma": lambda x, a, p2: [call("g01efc", t, x, a, 1.0) for t in (lower, upper)],
+    }
+    inverse = {
+        "kNormal": lambda p, p1, p2: call("g01fac", lower, p),
+        "kStudent": lambda p, df, p2: call("g01fbc", confid, p, df),
+        "kF": lambda p, df1, df2: call("g01fdc", p, df1, df2),
+        "kBeta": lambda p, a, b: call("g01fec", p, a, b, 0.0),
+        "kGamma": lambda p, a, p2: call("g01ffc", p, a, 1.0, 0.0),
+    }
+    worst = {}
+    def note(key, error, row):
+        if key not in worst or error > worst[key][0]:
+            worst[key] = (error, row)
+    for law, p1, p2, x, low, up in references(2, 60, 4):
+        row = (p1, p2, x, float(low), float(up))
+        got = computed[law](x, p1, p2)
+        for side, value, exact in (("lower", got[0], low), ("upper", got[1], up)):
+            note((law, side), float(abs(mp.mpf(value) / exact - 1)) / 2 ** -52, row)
+        p = got[0]
+        if 0 < p < 1:
+            back = inverse[law](p, p1, p2)
+            again = computed[law](back, p1, p2) if 0 < abs(back) < 1e300 else (0, 0)
+            smaller = 0 if got[0] <= 0.5 else 1
+            if smaller == 0 and not (law == "kBeta" and x > 0.5):
+                note((law, "round trip"), abs(again[0] / p - 1) / 2 ** -52, row + (back,))
+    for key, (error, row) in sorted(worst.items()):
+        print(*key, "%.2f eps" % error, row)
+
+
+if __name__ == "__main__":
+    survey(sys.argv[1]) if sys.argv[1:] else write()
