@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes tests/stats/laws_data.inc. With a library as
+"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes tests/stats/laws_data.inc and
+discrete_laws_data.inc. With a library as
 argument it also prints the largest errors of that library over a denser set of points."""
 import ctypes
 import os
@@ -116,6 +117,72 @@ def write():
             out.write("{%s, %r, %r, %r, %s, %s},\n" % (law, p1, p2, x, mp.nstr(lower, 20), mp.nstr(upper, 20)))
 
 
+def sides(first, ratio, last):
+    """first (1 + ratio(0) + ratio(0) ratio(1) + ...), without its first term."""
+    term, total, j = first, mp.mpf(0), 0
+    while j < last and term > (total + first) * mp.mpf(10) ** -60:
+        term *= ratio(j)
+        total += term
+        j += 1
+    return total
+
+
+def binomial(n, p, k):
+    p = mp.mpf(p)
+    equal = mp.exp(mp.loggamma(n + 1) - mp.loggamma(k + 1) - mp.loggamma(n - k + 1) + k * mp.log(p) + (n - k) * mp.log(1 - p))
+    if k < n * p:
+        low = equal + sides(equal, lambda j: (k - j) * (1 - p) / ((n - k + j + 1) * p), k)
+        return low, 1 - low, equal
+    above = sides(equal, lambda j: (n - k - j) * p / ((k + j + 1) * (1 - p)), n - k)
+    return 1 - above, above, equal
+
+
+def poisson(lam, k):
+    lam = mp.mpf(lam)
+    equal = mp.exp(k * mp.log(lam) - lam - mp.loggamma(k + 1))
+    if k < lam:
+        low = equal + sides(equal, lambda j: (k - j) / lam, k)
+        return low, 1 - low, equal
+    above = sides(equal, lambda j: lam / (k + j + 1), 10 ** 9)
+    return 1 - above, above, equal
+
+
+def hypergeometric(n, l, m, k):
+    choose = lambda a, b: mp.loggamma(a + 1) - mp.loggamma(b + 1) - mp.loggamma(a - b + 1)
+    equal = mp.exp(choose(m, k) + choose(n - m, l - k) - choose(n, l))
+    if k * n < l * m:
+        low = equal + sides(equal, lambda j: mp.mpf((k - j) * (n - m - l + k - j)) / ((m - k + j + 1) * (l - k + j + 1)),
+                            k - max(0, l + m - n))
+        return low, 1 - low, equal
+    above = sides(equal, lambda j: mp.mpf((m - k - j) * (l - k - j)) / ((k + j + 1) * (n - m - l + k + j + 1)), min(l, m) - k)
+    return 1 - above, above, equal
+
+
+def write_discrete():
+    draw = random.Random(3).uniform
+    rows = []
+    def add(law, parameters, k, values):
+        rows.append("{%s, %s, %d, %s},\n" % (law, ", ".join(repr(float(v)) for v in parameters), k,
+                                             ", ".join(mp.nstr(v, 20) for v in values)))
+    for _ in range(40):
+        n = int(10 ** draw(0, 9))
+        p = 10 ** draw(-9, -0.1) * min(1.0, 2e6 / n)
+        k = min(n, max(0, round(n * p + draw(-30, 30) * (n * p * (1 - p)) ** 0.5)))
+        add("kBinomial", (n, p, 0), k, binomial(n, p, k))
+        lam = 10 ** draw(-3, 6)
+        k = max(0, round(lam + draw(-30, 30) * lam ** 0.5))
+        add("kPoisson", (lam, 0, 0), k, poisson(lam, k))
+        n = int(10 ** draw(1, 9))
+        l = int(n * 10 ** draw(-3, 0) * min(1.0, 1e6 / n))
+        m = int(n * draw(0, 1))
+        sd = (l * m / n * (1 - m / n)) ** 0.5
+        k = max(0, l + m - n, min(l, m, round(l * m / n + draw(-20, 20) * sd)))
+        add("kHypergeometric", (n, l, m), k, hypergeometric(n, l, m, k))
+    with open(os.path.join(ROOT, "tests", "stats", "discrete_laws_data.inc"), "w", encoding="utf-8") as out:
+        out.write("// Written by tools/stats_reference.py: law, parameters, k, P(X <= k), P(X > k), P(X = k).\n")
+        out.writelines(rows)
+
+
 def survey(path):
     lib = ctypes.CDLL(path)
     record = (ctypes.c_char * 1024)()
@@ -164,4 +231,8 @@ def survey(path):
 
 
 if __name__ == "__main__":
-    survey(sys.argv[1]) if sys.argv[1:] else write()
+    if sys.argv[1:]:
+        survey(sys.argv[1])
+    else:
+        write()
+        write_discrete()

@@ -408,6 +408,133 @@ double g01efc(Integer tail, double g, double a, double b, KorError *fail);
 /// \endcode
 double g01ffc(double p, double a, double b, double tol, KorError *fail);
 
+/// \brief The upper tail of the chi-squared law with a whole number of degrees of freedom.
+///
+/// P(X > x), X the sum of the squares of `n` standard normal variables.
+///
+/// \param[in] x the value, at least 0
+/// \param[in] n degrees of freedom, at least 1
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `x` is less than 0.
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// \par Accuracy
+/// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
+/// NaN.
+/// \par Method
+/// The incomplete gamma ratio of shape n/2 at x/2.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01ecc(), which takes any degrees of freedom and either tail.
+/// \par Example
+/// \code{.c}
+/// double q = g01bcc(18.3, 10, &fail);   // q = 0.0501090614114625
+/// \endcode
+double g01bcc(double x, Integer n, KorError *fail);
+
+/// \brief Probabilities of the binomial law.
+///
+/// X is the number of successes in `n` independent trials that succeed with probability `p` each.
+///
+/// \param[in] n trials, at least 0
+/// \param[in] p probability of success, strictly between 0 and 1
+/// \param[in] k successes, from 0 to `n`
+/// \param[out] plek P(X <= k)
+/// \param[out] pgtk P(X > k)
+/// \param[out] peqk P(X = k)
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` or `k` is less than 0.
+/// - NE_REAL_ARG_LE: `p` is not greater than 0.
+/// - NE_REAL_ARG_GE: `p` is not less than 1.
+/// - NE_2_INT_ARG_GT: `k` is greater than `n`.
+/// - NE_ARG_TOO_LARGE: `n` is too large for a double to hold exactly.
+/// - NE_VARIANCE_TOO_LARGE: n p (1 - p) exceeds 1.0e6.
+/// \par Accuracy
+/// Each of the three is computed as what it is: relative errors of at most 1e-14 down to 1e-300.
+/// \par Method
+/// The tails are those of beta laws, see g01eec(); the point probability is a saddle point with a low part. C. Loader,
+/// Fast and accurate computation of binomial probabilities (2000).
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01bkc(), g01blc()
+/// \par Example
+/// \code{.c}
+/// double le, gt, eq;
+/// g01bjc(10, 0.5, 5, &le, &gt, &eq, &fail);   // le = 0.623046875, gt = 0.376953125, eq = 0.24609375
+/// \endcode
+void g01bjc(Integer n, double p, Integer k, double *plek, double *pgtk, double *peqk, KorError *fail);
+
+/// \brief Probabilities of the Poisson law.
+///
+/// P(X = k) = rlamda^k exp(-rlamda) / k!.
+///
+/// \param[in] rlamda the mean, greater than 0, at most 1.0e6
+/// \param[in] k the count, at least 0
+/// \param[out] plek P(X <= k)
+/// \param[out] pgtk P(X > k)
+/// \param[out] peqk P(X = k)
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_REAL_ARG_LE: `rlamda` is not greater than 0.
+/// - NE_REAL_ARG_GT: `rlamda` is greater than 1.0e6.
+/// - NE_INT_ARG_LT: `k` is less than 0.
+/// \par Accuracy
+/// Each of the three is computed as what it is: relative errors of at most 1e-14 down to 1e-300.
+/// \par Method
+/// The tails are the incomplete gamma ratios of shape k + 1 at `rlamda`.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01bjc(), g01blc()
+/// \par Example
+/// \code{.c}
+/// double le, gt, eq;
+/// g01bkc(2.0, 2, &le, &gt, &eq, &fail);   // le = 0.676676416183064, gt = 0.323323583816936, eq = 0.270670566473225
+/// \endcode
+void g01bkc(double rlamda, Integer k, double *plek, double *pgtk, double *peqk, KorError *fail);
+
+/// \brief Probabilities of the hypergeometric law.
+///
+/// X is the number of marked objects among `l` drawn without replacement from `n` of which `m` are marked.
+///
+/// \param[in] n objects, at least 0
+/// \param[in] l draws, from 0 to `n`
+/// \param[in] m marked objects, from 0 to `n`
+/// \param[in] k the count, from max(0, l + m - n) to min(l, m)
+/// \param[out] plek P(X <= k)
+/// \param[out] pgtk P(X > k)
+/// \param[out] peqk P(X = k)
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n`, `l`, `m` or `k` is less than 0.
+/// - NE_2_INT_ARG_GT: `l` or `m` is greater than `n`, or `k` greater than `l` or `m`.
+/// - NE_INT_ARG_CONS: `k` is less than l + m - n.
+/// - NE_ARG_TOO_LARGE: `n` is too large for a double to hold exactly.
+/// - NE_VARIANCE_TOO_LARGE: the variance l m (n - l) (n - m) / (n^2 (n - 1)) exceeds 1.0e6.
+/// \par Accuracy
+/// Each of the three is computed as what it is: relative errors of at most 1e-14 down to 1e-300.
+/// \par Method
+/// The point probability from three binomial saddle points with a low part; the tail away from the mean by the ratios
+/// of neighbouring terms.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01bjc(), g01bkc()
+/// \par Example
+/// \code{.c}
+/// double le, gt, eq;
+/// g01blc(10, 2, 5, 1, &le, &gt, &eq, &fail);   // le = 0.777777777777778, gt = 0.222222222222222, eq = 0.555555555555556
+/// \endcode
+void g01blc(Integer n, Integer l, Integer m, Integer k, double *plek, double *pgtk, double *peqk, KorError *fail);
+
 KOR_END_DECLS
 
 #endif

@@ -44,6 +44,7 @@ double normal_central_quantile(double half)
 
 double normal_upper_quantile(double q)
 {
+    if (std::isnan(q)) return q;
     if (0.5 - q <= kCentral) return normal_central_quantile(0.5 - q);
     // Hastings' fit, within 4.5e-4.
     const double t = std::sqrt(-2.0 * std::log(q));

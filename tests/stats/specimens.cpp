@@ -29,3 +29,17 @@ KOR_SPECIMEN(g01eec)
     call([&](KorError *fail) { g01eec(0.25, 1.0, 2.0, 0.0, &p, &q, &pdf, fail); });
     outputs(p, q, pdf);
 }
+
+KOR_VALUE_SPECIMEN(g01bcc, 18.3, 10)
+
+#define KOR_DISCRETE_SPECIMEN(name, ...)                                                                               \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        double at_most = 99.0, above = 99.0, equal = 99.0;                                                             \
+        call([&](KorError *fail) { name(__VA_ARGS__, &at_most, &above, &equal, fail); });                              \
+        outputs(at_most, above, equal);                                                                                \
+    }
+
+KOR_DISCRETE_SPECIMEN(g01bjc, 10, 0.5, 5)
+KOR_DISCRETE_SPECIMEN(g01bkc, 2.0, 2)
+KOR_DISCRETE_SPECIMEN(g01blc, 10, 2, 5, 1)
