@@ -107,12 +107,12 @@ void m01csc(void *vec, Integer n, Integer size, Integer stride, Integer (*compar
 /// \param[in,out] fail    the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
-/// As m01csc(); NE_ALLOC_FAIL: no memory for `n` elements if they have up to 64 bytes, else for `n` integers, and for one
-/// element of more than 256 bytes. `vec` is untouched after an error.
+/// As m01csc(); NE_ALLOC_FAIL: no memory for `n` elements if they have up to 128 bytes, for `n` integers if they have more, or
+/// for one element of more than 256 bytes. `vec` is untouched after an error.
 /// \par Accuracy
 /// About n log2 n comparisons at most, n - 1 when the elements are in order already.
 /// \par Method
-/// Elements of up to 64 bytes are merged from the bottom up, from both ends of a pair of runs at once; wider ones are ranked
+/// Elements of up to 128 bytes are merged from the bottom up, from both ends of a pair of runs at once; wider ones are ranked
 /// as by m01dsc(), and each is moved once to its place. D. E. Knuth, The Art of Computer Programming 3 (1998) section 5.2.4.
 /// \par Thread safety
 /// Safe and reentrant.

@@ -29,21 +29,14 @@ class ComparisonSort {
     void sort(std::ptrdiff_t n)
     {
         if (n <= ShortSort<Sequence>::kMost) return short_sort_.sort(0, n);
-        const RunMerge<Sequence> runs{sequence_};
-        const std::ptrdiff_t sorted = runs.merge_leading_runs(n);
+        const std::ptrdiff_t sorted = runs_.merge_leading_runs(n);
         quicksort(sorted, n);
-        runs.merge(0, sorted, n);
+        runs_.merge(0, sorted, n);
     }
 
   private:
     static constexpr std::ptrdiff_t kBadFraction = 8; // a partition is bad when its smaller part is less than this
-    static constexpr int kFewMoves = 8;               // that sort a part which is nearly sorted
     static constexpr std::ptrdiff_t kBlock = 64;
-
-    struct Split {
-        std::ptrdiff_t place; // the first position that does not belong to the front
-        bool was_split;       // before anything moved
-    };
 
     void quicksort(std::ptrdiff_t low, std::ptrdiff_t high)
     {
@@ -61,33 +54,33 @@ class ComparisonSort {
                     [&](auto i, auto j) { sequence_.swap(part.low + i, part.low + j); });
                 continue;
             }
-            move_pivot_to_front(part);
+            const Sample sample = take_sample_of(part);
+            if (sample.ascending) {
+                sort_by_merging(part);
+                continue;
+            }
+            sequence_.swap(part.low, sample.median);
             if constexpr (Sequence::kMayTie) {
                 // What stands before the part is not greater than any in it: equal to the pivot, it is equal to all that
                 // are not greater than the pivot, and these are in their place.
                 if (part.low > low && !before(part.low - 1, part.low)) {
                     const Handle pivot = sequence_.at(part.low);
-                    part.low = split(part.low + 1, part.high, [pivot, sequence = sequence_](Handle h) {
-                                   return !sequence.before(pivot, h);
-                               }).place;
+                    part.low = split(part.low + 1, part.high,
+                                     [pivot, sequence = sequence_](Handle h) { return !sequence.before(pivot, h); });
                     pending.push(part);
                     continue;
                 }
             }
             const Handle pivot = sequence_.at(part.low);
-            const Split found = split(part.low + 1, part.high,
-                                      [pivot, sequence = sequence_](Handle h) { return sequence.before(h, pivot); });
-            const std::ptrdiff_t place = found.place - 1;
+            const std::ptrdiff_t place =
+                split(part.low + 1, part.high,
+                      [pivot, sequence = sequence_](Handle h) { return sequence.before(h, pivot); }) -
+                1;
             sequence_.swap(part.low, place);
 
             const std::ptrdiff_t less = place - part.low, greater = part.high - (place + 1);
-            const bool bad = std::max(less, greater) > part.size() - part.size() / kBadFraction;
-            if (bad) --part.patience;
-            Part below{part.low, place, part.patience}, above{place + 1, part.high, part.patience};
-            if (!bad && found.was_split) { // perhaps it is all in order
-                if (is_soon_sorted(below)) below.high = below.low;
-                if (is_soon_sorted(above)) above.high = above.low;
-            }
+            if (std::max(less, greater) > part.size() - part.size() / kBadFraction) --part.patience;
+            const Part below{part.low, place, part.patience}, above{place + 1, part.high, part.patience};
             pending.push(less > greater ? below : above);
             pending.push(less > greater ? above : below);
         }
@@ -95,21 +88,14 @@ class ComparisonSort {
 
     bool before(std::ptrdiff_t i, std::ptrdiff_t j) const { return sequence_.before(sequence_.at(i), sequence_.at(j)); }
 
-    // Insertion sort that gives up after a few moves.
-    bool is_soon_sorted(const Part &part) const
-    {
-        int moves = 0;
-        for (std::ptrdiff_t i = part.low + 1; i < part.high; ++i)
-            for (std::ptrdiff_t j = i; j > part.low && before(j, j - 1); --j) {
-                if (++moves > kFewMoves) return false;
-                sequence_.swap(j, j - 1);
-            }
-        return true;
-    }
+    struct Sample {
+        std::ptrdiff_t median; // where it stands
+        bool ascending;
+    };
 
-    // Median of a sample, one element of each of so many stretches of equal length.
+    // One element of each of so many stretches of equal length.
     template <int size>
-    std::ptrdiff_t median_of_sample(const Part &part)
+    Sample take_sample(const Part &part)
     {
         Handle sample[size], sorted[size];
         std::ptrdiff_t position[size];
@@ -119,17 +105,30 @@ class ComparisonSort {
             position[i] = part.low + i * stretch + positions_.choose(i, stretch);
             sample[i] = sequence_.at(position[i]);
         }
+        int ascending = 1;
+        while (ascending < size && !sequence_.before(sample[ascending], sample[ascending - 1])) ++ascending;
+        if (ascending == size) return {position[size / 2], true};
         std::copy(sample, sample + size, sorted);
         const Handle median = short_sort_.sort_handles(sorted, size)[size / 2];
-        return position[std::find(sample, sample + size, median) - sample];
+        return {position[std::find(sample, sample + size, median) - sample], false};
     }
 
     // A larger sample gives better parts, and costs more.
-    void move_pivot_to_front(const Part &part)
+    Sample take_sample_of(const Part &part)
     {
-        sequence_.swap(part.low, part.size() < 256    ? median_of_sample<5>(part)
-                                 : part.size() < 4096 ? median_of_sample<15>(part)
-                                                      : median_of_sample<31>(part));
+        if (part.size() < 256) return take_sample<5>(part);
+        if (part.size() < 4096) return take_sample<15>(part);
+        return take_sample<31>(part);
+    }
+
+    // What is in order on the whole: few elements take part in the merges of neighbouring runs.
+    void sort_by_merging(const Part &part) const
+    {
+        std::ptrdiff_t run = ShortSort<Sequence>::kMost;
+        for (std::ptrdiff_t i = part.low; i < part.high; i += run) short_sort_.sort(i, std::min(run, part.high - i));
+        for (; run < part.size(); run *= 2)
+            for (std::ptrdiff_t i = part.low; i < part.high - run; i += 2 * run)
+                runs_.merge(i, i + run, std::min(i + 2 * run, part.high));
     }
 
     // ---- Partition -----------------------------------------------------------------------------------------------------
@@ -156,14 +155,10 @@ class ComparisonSort {
         }
     };
 
-    // Moves what belongs to the front of low to high - 1 there.
+    // Moves what belongs to the front of low to high - 1 there, and returns the first position behind it.
     template <class BelongsToFront>
-    Split split(std::ptrdiff_t low, std::ptrdiff_t high, BelongsToFront belongs_to_front) const
+    std::ptrdiff_t split(std::ptrdiff_t low, std::ptrdiff_t high, BelongsToFront belongs_to_front) const
     {
-        while (low < high && belongs_to_front(sequence_.at(low))) ++low;
-        while (low < high && !belongs_to_front(sequence_.at(high - 1))) --high;
-        if (low == high) return {low, true};
-
         Misplaced left, right;
         for (;;) {
             if (left.count() == 0) {
@@ -184,11 +179,12 @@ class ComparisonSort {
         // One side may have some left over: they change places with its last ones.
         while (left.count() > 0) sequence_.swap(left.base + left.offset[--left.end], --low);
         while (right.count() > 0) sequence_.swap(right.base - right.offset[--right.end], low++);
-        return {low, false};
+        return low;
     }
 
     const Sequence sequence_;
     ShortSort<Sequence> short_sort_{sequence_};
+    RunMerge<Sequence> runs_{sequence_};
     Positions positions_;
 };
 

@@ -17,16 +17,22 @@ void m01ctc(void *vec, Integer n, Integer size, Integer stride, Integer (*compar
     if (n < 2) return report.success();
 
     const Elements elements{vec, stride};
-    if (size <= kMergedSize) {
+    const auto bytes = static_cast<std::size_t>(size);
+    if (n > kFewElements && size <= kMergedSize) {
         const kor::Workspace<unsigned char> buffer{kor::Count{n} * size};
         if (!buffer) return report.error<NE_ALLOC_FAIL>();
-        merge_sort_elements(elements, n, static_cast<std::size_t>(size), compare, order, buffer.data());
+        merge_sort_elements(elements, n, bytes, compare, order, buffer.data());
+        return report.success();
+    }
+    const SpareElement spare{n, size};
+    if (!spare) return report.error<NE_ALLOC_FAIL>();
+    if (n <= kFewElements) {
+        merge_sort_elements(elements, n, bytes, compare, order, spare.data());
     } else {
         const kor::Workspace<Integer> indices{n};
-        const SpareElement spare{n, size};
-        if (!indices || !spare) return report.error<NE_ALLOC_FAIL>();
+        if (!indices) return report.error<NE_ALLOC_FAIL>();
         order_elements(elements, n, compare, order, indices.data());
-        rearrange(elements, n, static_cast<std::size_t>(size), indices.data(), spare.data());
+        rearrange(elements, n, bytes, indices.data(), spare.data());
     }
     report.success();
 }

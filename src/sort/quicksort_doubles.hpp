@@ -86,7 +86,7 @@ std::ptrdiff_t move_nans_to_end(double *a, std::ptrdiff_t n)
 // Sorts what is not a NaN, and returns how many that are. A partition moves NaNs to the end, since none is less than a
 // pivot: only the last part has any, and need be searched for them.
 template <class Kernel>
-std::ptrdiff_t quicksort(double *a, std::ptrdiff_t n)
+__attribute__((noinline)) std::ptrdiff_t quicksort(double *a, std::ptrdiff_t n)
 {
     constexpr std::ptrdiff_t bad_fraction = 8; // a partition is bad when its smaller part is less than this
     Positions positions;

@@ -23,7 +23,8 @@ class MergeSort {
     {
         const ShortSort<Sequence> short_sort{array_};
         std::ptrdiff_t run = ShortSort<Sequence>::kMost;
-        if (n <= run) return short_sort.sort(0, n);
+        static_assert(kFewElements <= ShortSort<Sequence>::kMost);
+        if (n <= kFewElements) return short_sort.sort(0, n);
         const RunMerge<Sequence> runs{array_};
         const std::ptrdiff_t sorted = runs.merge_leading_runs(n);
         if (sorted == n) return;

@@ -5,12 +5,15 @@
 
 namespace kor::sort {
 
-// Elements up to this size are moved again and again while they are merged, and want a buffer of n elements; of wider ones
-// the indices are sorted, and each element is moved once.
-inline constexpr Integer kMergedSize = 64;
+// Many elements are merged again and again, by way of a buffer, if they are not wider than this; of wider ones the indices are
+// better sorted, and each element moved once.
+inline constexpr Integer kMergedSize = 128;
 
-// `buffer` is room for n elements of `size` bytes, at most kMergedSize. The comparator sees elements of the array or of the
-// buffer; whatever it says, the same elements are there at the end.
+// Up to so many elements are sorted without a buffer, by way of pointers to them.
+inline constexpr Integer kFewElements = 128;
+
+// `buffer` is room for n elements of `size` bytes, or, if they are few, for one. The comparator sees elements of the array or
+// of the buffer; whatever it says, the same elements are there at the end.
 void merge_sort_elements(Elements elements, Integer n, std::size_t size, Comparator compare, Integer order,
                          unsigned char *buffer);
 
