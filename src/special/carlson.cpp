@@ -94,11 +94,11 @@ DoubleDouble extended_rc(double x, double y)
     const double ratio = x / y;
     if (ratio > kLogarithmFrom) {
         // ln(4 x / y) / (2 sqrt x); the quotient may overflow.
-        const DoubleDouble log_4 = extended_log({4.0});
-        return (extended_log({x}) - extended_log({y}) + log_4).scaled(0.5) / sqrt(DoubleDouble{x});
+        const DoubleDouble log_4 = extended_log(4.0);
+        return (extended_log(x) - extended_log(y) + log_4).scaled(0.5) / sqrt(DoubleDouble{x});
     }
     const DoubleDouble root = sqrt(DoubleDouble{y});
-    if (ratio < 0.5) return tables::kRcBelow(std::sqrt(ratio)) / root;
+    if (ratio < 0.5) return tables::kRcBelow({std::sqrt(ratio)}) / root;
     if (ratio < kPiecesUpTo) return tables::kRcAbove(two_quotient(x, y)) / root;
     const DoubleDouble r = two_quotient(x, y), less_one = sqrt(r - 1.0);
     return extended_log(sqrt(r) + less_one) / (less_one * root);

@@ -54,61 +54,88 @@ KOR_INLINE Exponential extended_exp(DoubleDouble x)
     return {fast_two_sum(power.hi, power.lo + power.hi * growth), n.count >> 6};
 }
 
-// ln(x), x positive and finite; accurate relative to ln(x) also next to 1, where x.lo may be anything small.
-KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
-{
-    using namespace tables;
-    constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // 45/64
-    constexpr int kSubnormalShift = 54;
-    const bool subnormal = x.hi < 0x1p-1022;
-    if (subnormal) [[unlikely]]
-        x = x.scaled(0x1p54);
-    const std::uint64_t bits = std::bit_cast<std::uint64_t>(x.hi);
-    const std::uint64_t offset = bits - kFirstCell;
-    int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
-    const LogCell &cell = kLogCells[(offset >> 45) % 128];
+// x = 2^exponent m, and m factor = 1 + r1 + rest, where r1 has so few bits that its square is exact. |rest| is below 2^-20,
+// and at most |r1| in the cells about 1 unless r1 is 0.
+struct LogReduction {
+    const tables::LogCell &cell;
+    int exponent;
+    double r1, rest;
+};
 
-    // x = 2^exponent m, and m factor = 1 + r1 + r2 where r1 has so few bits that its square is exact. |r2| is below
-    // 2^-20, and at most |r1| in the cells about 1 unless r1 is 0.
+KOR_INLINE LogReduction reduce_for_log(double x)
+{
+    constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // 45/64
     constexpr std::uint64_t kHalfOfBit20 = std::uint64_t{1} << 32;
     constexpr std::uint64_t kUpper20Bits = ~((std::uint64_t{1} << 33) - 1);
-    const std::uint64_t m_bits = bits - (static_cast<std::uint64_t>(exponent) << 52);
-    const double m = std::bit_cast<double>(m_bits),
-                 m_hi = std::bit_cast<double>((m_bits + kHalfOfBit20) & kUpper20Bits);
-    const double r1 = m_hi * cell.factor - 1.0;
-    const double exact_r2 = (m - m_hi) * cell.factor;
-    const DoubleDouble r2 = two_sum(exact_r2, times_power_of_two(x.lo, -exponent) * cell.factor);
-    const double r = r1 + r2.hi;
+    const bool subnormal = x < 0x1p-1022;
     if (subnormal) [[unlikely]]
-        exponent -= kSubnormalShift;
+        x *= 0x1p54;
+    const std::uint64_t bits = std::bit_cast<std::uint64_t>(x), offset = bits - kFirstCell;
+    const int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
+    const std::uint64_t m_bits = bits - (static_cast<std::uint64_t>(exponent) << 52);
+    const double m = std::bit_cast<double>(m_bits);
+    const double m_hi = std::bit_cast<double>((m_bits + kHalfOfBit20) & kUpper20Bits);
+    const tables::LogCell &cell = tables::kLogCells[(offset >> 45) % 128];
+    return {cell, subnormal ? exponent - 54 : exponent, m_hi * cell.factor - 1.0, (m - m_hi) * cell.factor};
+}
 
-    // ln(1 + r) = r1 - r1^2/2 + r2 - r1 r2 - r2^2/2 + r^3 (...), the first three joined exactly.
-    const double high = exponent * kLn2High + cell.log_hi + r1; // exact
-    const DoubleDouble second = fast_two_sum(high, -0.5 * r1 * r1);
-    const DoubleDouble third = fast_two_sum(second.hi, r2.hi);
-    const double rest = r * r * r * polynomial(kLogSeries, r) - r2.hi * (r1 + 0.5 * r2.hi);
-    return fast_two_sum(third.hi, third.lo + (second.lo + (rest + (r2.lo + (exponent * kLn2Low + cell.log_lo)))));
+// The logarithm of a reduced number whose rest has become rest.hi + rest.lo: r1 - r1^2/2 + rest, joined exactly, and
+// - r1 rest - rest^2/2 + r^3 (...).
+KOR_INLINE DoubleDouble join_log(const LogReduction &x, DoubleDouble rest)
+{
+    using namespace tables;
+    const double r = x.r1 + rest.hi;
+    const double high = x.exponent * kLn2High + x.cell.log_hi + x.r1; // exact
+    const DoubleDouble second = fast_two_sum(high, -0.5 * x.r1 * x.r1);
+    const DoubleDouble third = fast_two_sum(second.hi, rest.hi);
+    const double small = r * r * r * polynomial(kLogSeries, r) - rest.hi * (x.r1 + 0.5 * rest.hi);
+    const double low = rest.lo + (x.exponent * kLn2Low + x.cell.log_lo);
+    return fast_two_sum(third.hi, third.lo + (second.lo + (small + low)));
+}
+
+// ln(x), x positive and finite; accurate relative to ln(x) also next to 1.
+KOR_INLINE DoubleDouble extended_log(double x)
+{
+    const LogReduction reduced = reduce_for_log(x);
+    return join_log(reduced, {reduced.rest});
+}
+
+// The same for a number with a low part; where x.hi is 1 the low part may be anything small.
+KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
+{
+    const LogReduction reduced = reduce_for_log(x.hi);
+    // x.lo 2^-exponent; from 2^1023 on it is of no account.
+    const int power = reduced.exponent < 1023 ? 1023 - reduced.exponent : 0;
+    const double low = x.lo * std::bit_cast<double>(static_cast<std::uint64_t>(power) << 52);
+    return join_log(reduced, two_sum(reduced.rest, low * reduced.cell.factor));
 }
 
 struct SineAndCosine {
     DoubleDouble sine, cosine;
 };
 
-// For |r| <= 0.8 (beyond pi/4 by a little).
-KOR_INLINE SineAndCosine extended_sine_cosine(DoubleDouble r)
+// An angle r = j pi/128 + d, |r| <= pi/2 and a little more: sine and cosine of the table, and of the rest the sine, as
+// d + d^3 (...), and cos d - 1.
+struct ArcStep {
+    DoubleDouble s, c, sine;
+    double versine;
+};
+
+KOR_INLINE ArcStep nearest_arc_step(DoubleDouble r)
 {
     using namespace tables;
     const NearestInteger j = nearest_integer(r.hi * kArcStepsPerRadian);
-    const auto &[table_s, c] = kSineCosine[std::abs(j.count)];
+    const auto &[s, c] = kSineCosine[std::abs(j.count)];
     const double sign = std::copysign(1.0, r.hi); // a product costs less than a branch that nobody can predict
-    const DoubleDouble s = table_s.scaled(sign);
-
-    // With d = r - j pi/128: the sine as d + d^3 (...), the cosine as 1 + versine.
     const DoubleDouble d = two_sum(r.hi - j.value * kArcStepHigh, r.lo - j.value * kArcStepLow);
-    const double d2 = d.hi * d.hi;
-    const DoubleDouble sine = fast_two_sum(d.hi, d.lo + d.hi * d2 * polynomial(kSineSeries, d2));
-    const double versine = d2 * (d2 * polynomial(kCosineSeries, d2) - 0.5) - d.hi * d.lo;
+    const double square = d.hi * d.hi;
+    return {s.scaled(sign), c, fast_two_sum(d.hi, d.lo + d.hi * square * polynomial(kSineSeries, square)),
+            square * (square * polynomial(kCosineSeries, square) - 0.5) - d.hi * d.lo};
+}
 
+KOR_INLINE SineAndCosine extended_sine_cosine(DoubleDouble r)
+{
+    const auto [s, c, sine, versine] = nearest_arc_step(r);
     const DoubleDouble c_sine = two_product(c.hi, sine.hi);
     const DoubleDouble s_sine = two_product(s.hi, sine.hi);
     const DoubleDouble sum_s = fast_two_sum(s.hi, c_sine.hi);
@@ -169,15 +196,56 @@ KOR_INLINE SineAndCosine extended_sine_cosine_of(DoubleDouble x)
     return extended_sine_cosine_reduced(reduce_angle(x));
 }
 
-// Sine and cosine of pi x, x any finite double, the reduction being exact. Zeros are exact.
-KOR_INLINE SineAndCosine extended_sine_cosine_pi(double x)
+// An angle pi x, x any finite double: x = quadrant/2 + rest without error.
+KOR_INLINE ReducedAngle reduce_angle_pi(double x)
 {
-    // Both the remainder and the distance to the nearest half are exact.
     constexpr double kSmall = 0x1p29;
     const double within = std::fabs(x) < kSmall ? x : std::fmod(x, 2.0);
     const NearestInteger halves = nearest_integer(2.0 * within);
-    const double rest = within - 0.5 * halves.value;
-    return extended_sine_cosine_reduced({tables::kPi * rest, halves.count & 3});
+    return {tables::kPi * (within - 0.5 * halves.value), halves.count & 3};
+}
+
+// Sine and cosine of pi x, x any finite double. Zeros are exact.
+KOR_INLINE SineAndCosine extended_sine_cosine_pi(double x) { return extended_sine_cosine_reduced(reduce_angle_pi(x)); }
+
+// The sine alone, of r in [-pi/2 (1 + 2^-20), pi/2 (1 + 2^-20)].
+KOR_INLINE DoubleDouble extended_sine(DoubleDouble r)
+{
+    const ArcStep step = nearest_arc_step(r);
+    const DoubleDouble c_sine = two_product(step.c.hi, step.sine.hi);
+    const DoubleDouble sum = fast_two_sum(step.s.hi, c_sine.hi);
+    return fast_two_sum(sum.hi, step.s.hi * step.versine +
+                                    (c_sine.lo + step.c.hi * step.sine.lo + step.c.lo * step.sine.hi) +
+                                    (sum.lo + step.s.lo));
+}
+
+// sin(pi x), x any finite double. Zeros are exact.
+KOR_INLINE DoubleDouble extended_sine_pi(double x)
+{
+    constexpr double kSmall = 0x1p30;
+    const double within = std::fabs(x) < kSmall ? x : std::fmod(x, 2.0);
+    const NearestInteger n = nearest_integer(within);
+    return extended_sine(tables::kPi * (within - n.value)).scaled(1 - 2 * (n.count & 1));
+}
+
+// Tangent of a reduced angle, relative error 2^-57. With r = j pi/128 + d and T = tan(j pi/128) it is the quotient of
+// T + tan d and 1 - T tan d; in odd quadrants minus the reciprocal quotient.
+KOR_INLINE DoubleDouble extended_tangent_reduced(ReducedAngle angle)
+{
+    using namespace tables;
+    const DoubleDouble r = angle.r;
+    const NearestInteger j = nearest_integer(r.hi * kArcStepsPerRadian);
+    const DoubleDouble t = kTangents[std::abs(j.count)].scaled(std::copysign(1.0, r.hi));
+    const DoubleDouble d = two_sum(r.hi - j.value * kArcStepHigh, r.lo - j.value * kArcStepLow);
+    const double square = d.hi * d.hi, bend = d.hi * (square * polynomial(kTangentSeries, square));
+
+    const DoubleDouble sum = two_sum(t.hi, d.hi);
+    DoubleDouble numerator = fast_two_sum(sum.hi, sum.lo + (t.lo + (d.lo + bend)));
+    DoubleDouble denominator = fast_two_sum(1.0, -t.hi * (d.hi + bend));
+    const bool odd = angle.quadrant & 1;
+    swap_if(odd, numerator.hi, denominator.hi);
+    swap_if(odd, numerator.lo, denominator.lo);
+    return (numerator / denominator).scaled(odd ? -1.0 : 1.0);
 }
 
 } // namespace kor::special

@@ -25,10 +25,10 @@ inline bool refuse_elliptic_arguments(const Report &report, double x, double y, 
         if (value < 0.0) return report.error<NE_REAL_ARG_LT>(name, "0.0", name, value), true;
     for (const auto &[pair, sum, a, b] : pairs) {
         if (a == 0.0 && b == 0.0) return report.error<NE_REAL_ARG_EQ>(pair, "0.0", pair, 0.0), true;
-        if (a + b < lower) return report.error<NE_REAL_ARG_LT>(sum, LimitText{lower}, sum, a + b), true;
+        if (a + b < lower) return report.error<NE_REAL_ARG_LT>(sum, LimitText{lower}.text(), sum, a + b), true;
     }
     for (const auto &[name, value] : single)
-        if (value > upper) return report.error<NE_REAL_ARG_GT>(name, LimitText{upper}, name, value), true;
+        if (value > upper) return report.error<NE_REAL_ARG_GT>(name, LimitText{upper}.text(), name, value), true;
     return false;
 }
 

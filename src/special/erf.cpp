@@ -15,7 +15,7 @@ constexpr double kNormalTailIsZeroFrom = 39.0;
 KOR_INLINE Exponential tail(DoubleDouble z, DoubleDouble square)
 {
     const Exponential e = extended_exp(-square);
-    return {e.value * extended_scaled_erfc(z), e.exponent};
+    return {tables::kScaledErfc.times(e.value, z), e.exponent};
 }
 
 // erfc(z) for |z| <= 1/2 and for negative z down to -6.5.

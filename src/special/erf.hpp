@@ -14,7 +14,7 @@ inline constexpr double kErfIsOneFrom = 6.25;   // and erfc of the negative is 2
 KOR_INLINE DoubleDouble extended_scaled_erfc(DoubleDouble z) { return tables::kScaledErfc(z); }
 
 // erf(z), |z| <= 1/2, relative error 2^-56.
-KOR_INLINE DoubleDouble extended_erf_near_zero(DoubleDouble z) { return tables::kErfSlope(z.hi * z.hi) * z; }
+KOR_INLINE DoubleDouble extended_erf_near_zero(DoubleDouble z) { return tables::kErfSlope.times(z, z.hi * z.hi); }
 
 // erf(z), z in [1/2, 6.5), relative error 2^-56.
 KOR_INLINE DoubleDouble extended_erf_positive(DoubleDouble z) { return tables::kErf(z); }

@@ -163,13 +163,14 @@ KOR_INLINE constexpr DoubleDouble square(DoubleDouble a)
     return fast_two_sum(product.hi, product.lo + 2.0 * (a.hi * a.lo));
 }
 
-// The quotient of the high parts, corrected by the remainder that it leaves.
+// A first quotient, corrected by the remainder that it leaves; one division serves both.
 KOR_INLINE constexpr DoubleDouble operator/(DoubleDouble a, DoubleDouble b)
 {
-    const double quotient = a.hi / b.hi;
+    const double reciprocal = 1.0 / b.hi;
+    const double quotient = a.hi * reciprocal;
     const DoubleDouble product = two_product(quotient, b.hi);
     const double remainder = ((a.hi - product.hi) - product.lo) + (a.lo - quotient * b.lo);
-    return fast_two_sum(quotient, remainder / b.hi);
+    return fast_two_sum(quotient, remainder * reciprocal);
 }
 KOR_INLINE constexpr DoubleDouble operator/(DoubleDouble a, double b) { return a / DoubleDouble{b}; }
 KOR_INLINE constexpr DoubleDouble operator/(double a, DoubleDouble b) { return DoubleDouble{a} / b; }
@@ -210,16 +211,29 @@ struct ExtendedPolynomial {
     }
 };
 
+// A sum whose rounding waits: until it is wanted as one double, or as two.
+struct OpenSum {
+    double large, small;
+
+    KOR_INLINE constexpr double rounded() const { return large + small; }
+    KOR_INLINE constexpr operator DoubleDouble() const { return fast_two_sum(large, small); }
+};
+
 // head + x tail(x), for functions that stay near their constant term: with |x tail(x)| below |head| / 8 the sum is good to
-// 2^-55, without any exact product.
+// 2^-55, without any exact product. head.hi has but 26 bits, so that its product with another short number is exact.
 template <std::size_t T>
 struct NearConstantPolynomial {
     DoubleDouble head;
     std::array<double, T> tail;
 
-    KOR_INLINE DoubleDouble operator()(double x) const
+    KOR_INLINE OpenSum open(double x) const { return {head.hi, x * polynomial(tail, x) + head.lo}; }
+    KOR_INLINE DoubleDouble operator()(double x) const { return open(x); }
+    // The same times `factor`: one exact product, and what is left is small.
+    KOR_INLINE OpenSum times(DoubleDouble factor, double x) const
     {
-        return fast_two_sum(head.hi, x * polynomial(tail, x) + head.lo);
+        const double factor_1 = upper_half(factor.hi), factor_2 = (factor.hi - factor_1) + factor.lo;
+        const double rest = x * polynomial(tail, x) + head.lo;
+        return {factor_1 * head.hi, factor_1 * rest + factor_2 * (head.hi + rest)};
     }
 };
 
@@ -235,14 +249,29 @@ template <double First, unsigned CutsLog2, std::size_t Pieces, std::size_t Terms
 struct BinadePieces {
     std::array<NearConstantPolynomial<Terms>, Pieces> piece;
 
-    KOR_INLINE DoubleDouble operator()(double x) const { return (*this)(DoubleDouble{x}); }
-    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const
+    KOR_INLINE OpenSum open(DoubleDouble x) const
+    {
+        const auto [p, centre] = find(x.hi);
+        return p.open((x.hi - centre) + x.lo);
+    }
+    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const { return open(x); }
+    KOR_INLINE OpenSum times(DoubleDouble factor, DoubleDouble x) const
+    {
+        const auto [p, centre] = find(x.hi);
+        return p.times(factor, (x.hi - centre) + x.lo);
+    }
+
+  private:
+    struct Found {
+        const NearConstantPolynomial<Terms> &piece;
+        double centre;
+    };
+    KOR_INLINE Found find(double x) const
     {
         constexpr unsigned shift = 52 - CutsLog2;
         constexpr std::uint64_t first = std::bit_cast<std::uint64_t>(First) >> shift;
-        const std::uint64_t cell = std::bit_cast<std::uint64_t>(x.hi) >> shift;
-        const double centre = std::bit_cast<double>(cell << shift | std::uint64_t{1} << (shift - 1));
-        return piece[cell - first]((x.hi - centre) + x.lo);
+        const std::uint64_t cell = std::bit_cast<std::uint64_t>(x) >> shift;
+        return {piece[cell - first], std::bit_cast<double>(cell << shift | std::uint64_t{1} << (shift - 1))};
     }
 };
 
@@ -251,12 +280,27 @@ template <double First, int PerUnit, std::size_t Pieces, std::size_t Terms>
 struct UniformPieces {
     std::array<NearConstantPolynomial<Terms>, Pieces> piece;
 
-    KOR_INLINE DoubleDouble operator()(double x) const { return (*this)(DoubleDouble{x}); }
-    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const
+    KOR_INLINE OpenSum open(DoubleDouble x) const
     {
-        const int k = static_cast<int>((x.hi - First) * PerUnit);
-        const double centre = (k + (First * PerUnit + 0.5)) / PerUnit; // exact
-        return piece[k]((x.hi - centre) + x.lo);
+        const auto [p, centre] = find(x.hi);
+        return p.open((x.hi - centre) + x.lo);
+    }
+    KOR_INLINE DoubleDouble operator()(DoubleDouble x) const { return open(x); }
+    KOR_INLINE OpenSum times(DoubleDouble factor, DoubleDouble x) const
+    {
+        const auto [p, centre] = find(x.hi);
+        return p.times(factor, (x.hi - centre) + x.lo);
+    }
+
+  private:
+    struct Found {
+        const NearConstantPolynomial<Terms> &piece;
+        double centre;
+    };
+    KOR_INLINE Found find(double x) const
+    {
+        const int k = static_cast<int>((x - First) * PerUnit);
+        return {piece[k], (k + (First * PerUnit + 0.5)) / PerUnit}; // exact
     }
 };
 

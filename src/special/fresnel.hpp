@@ -32,7 +32,8 @@ KOR_INLINE FresnelTail fresnel_tail(double x)
 {
     constexpr double kOneOverPi = 0.3183098861837907;
     const double reciprocal = kOneOverPi / x, square = 1.0 / (x * x), fourth = square * square;
-    return {reciprocal * tables::kFresnelF(fourth).hi, reciprocal * kOneOverPi * square * tables::kFresnelG(fourth).hi};
+    return {reciprocal * tables::kFresnelF.open(fourth).rounded(),
+            reciprocal * kOneOverPi * square * tables::kFresnelG.open(fourth).rounded()};
 }
 
 } // namespace kor::special

@@ -12,17 +12,16 @@ constexpr double kStirlingFrom = 12.0;    // gamma
 constexpr double kLogStirlingFrom = 16.0; // ln gamma
 
 // 1/(12 x) - 1/(360 x^3) + ..., x >= 12.
-double plain_stirling_correction(double x)
+KOR_INLINE double plain_stirling_correction(double x)
 {
     const double reciprocal = 1.0 / x;
-    return reciprocal * tables::kStirling(reciprocal * reciprocal).hi;
+    return reciprocal * tables::kStirling.open(reciprocal * reciprocal).rounded();
 }
 
 // ln Gamma(x) = (x - 1/2) ln x - x + ln sqrt(2 pi) + correction, x >= 12; absolute error 2^-59 up to x = 172. The product of
 // the upper halves of its factors is exact, and the other products are small beside it.
-DoubleDouble stirling(DoubleDouble x)
+KOR_INLINE DoubleDouble stirling(DoubleDouble x, DoubleDouble log_x)
 {
-    const DoubleDouble log_x = extended_log(x);
     const double factor = x.hi - 0.5; // exact wherever the 1/2 counts
     const double factor_1 = upper_half(factor), factor_2 = (factor - factor_1) + x.lo;
     const double log_1 = upper_half(log_x.hi), log_2 = (log_x.hi - log_1) + log_x.lo;
@@ -35,6 +34,15 @@ DoubleDouble stirling(DoubleDouble x)
     return fast_two_sum(sum.hi, (rest + (less_x.lo + sum.lo)) + correction);
 }
 
+KOR_INLINE DoubleDouble stirling(double x) { return stirling({x}, extended_log(x)); }
+
+// pi / (sin(pi x) Gamma(1 - x)).
+double reflected(double x)
+{
+    const DoubleDouble right = extended_gamma(two_sum(1.0, -x));
+    return (tables::kPi / (extended_sine_pi(x) * right)).rounded();
+}
+
 } // namespace
 
 DoubleDouble stirling_correction(double x) { return tables::kStirling(1.0 / (x * x)) / x; }
@@ -42,27 +50,43 @@ DoubleDouble stirling_correction(double x) { return tables::kStirling(1.0 / (x *
 DoubleDouble extended_gamma(DoubleDouble x)
 {
     if (x.hi < kStirlingFrom) return tables::kGamma(x);
-    const Exponential e = extended_exp(stirling(x));
+    const Exponential e = extended_exp(stirling(x, extended_log(x)));
     return {times_power_of_two(e.value.hi, e.exponent), times_power_of_two(e.value.lo, e.exponent)};
 }
 
 double gamma(double x)
 {
-    if (x >= 0.5) return extended_gamma({x}).rounded();
-    if (x > -0.5) return (extended_gamma(fast_two_sum(1.0, x)) / x).rounded();
-    // Reflection: pi / (sin(pi x) Gamma(1 - x)).
-    const DoubleDouble reflected = extended_gamma(two_sum(1.0, -x));
-    return (tables::kPi / (extended_sine_cosine_pi(x).sine * reflected)).rounded();
+    if (x >= kStirlingFrom) return extended_exp(stirling(x)).rounded();
+    if (x >= 0.5) return tables::kGamma.open({x}).rounded();
+    if (x < -0.5) return reflected(x);
+    return (tables::kGamma(fast_two_sum(1.0, x)) / x).rounded();
 }
 
-DoubleDouble extended_log_gamma_one_plus(double d) { return two_sum(d, -1.0) * d * tables::kLogGammaNearOne(d); }
+DoubleDouble extended_log_gamma_one_plus(double d)
+{
+    return tables::kLogGammaFactor.times({d < 0.5 ? d : d - 1.0}, {d});
+}
+
+double log_gamma(double x)
+{
+    constexpr double kLogarithmBelow = 0.0625;
+    if (x >= kLogStirlingFrom) return stirling(x).rounded();
+    if (x >= 3.0) return tables::kLogGamma.open({x}).rounded();
+    if (x >= 0.5) {
+        const double d = x - 1.0;
+        return tables::kLogGammaFactor.times({d < 0.5 ? d : d - 1.0}, {d}).rounded();
+    }
+    if (x >= kLogarithmBelow) return tables::kLogGammaBelowHalf.open({x}).rounded();
+    const DoubleDouble log_x = extended_log(x);
+    return -log_x.hi + (tables::kLogGammaFactor.times({x}, {x}).rounded() - log_x.lo);
+}
 
 DoubleDouble extended_log_gamma(double x)
 {
-    if (x < 0.5) return extended_log_gamma_one_plus(x) - extended_log({x});
-    if (x < 3.0) return extended_log_gamma_one_plus(x - 1.0);
-    if (x < kLogStirlingFrom) return tables::kLogGamma(x);
-    return stirling({x});
+    if (x >= kLogStirlingFrom) return stirling(x);
+    if (x >= 3.0) return tables::kLogGamma({x});
+    if (x >= 0.5) return extended_log_gamma_one_plus(x - 1.0);
+    return extended_log_gamma_one_plus(x) - extended_log(x);
 }
 
 } // namespace kor::special

@@ -12,7 +12,10 @@ double gamma(double x);
 // Gamma(x) for x in [1/2, 171.6], relative error about 2^-56.
 DoubleDouble extended_gamma(DoubleDouble x);
 
-// ln Gamma(x), x positive and normal, at most 2.55e305; relative error about 2^-56, also next to the zeros at 1 and 2.
+// ln Gamma(x), x positive, at most 2.55e305; within 1 ulp, also next to the zeros at 1 and 2.
+double log_gamma(double x);
+
+// The same with a relative error of about 2^-55.
 DoubleDouble extended_log_gamma(double x);
 
 // ln Gamma(1 + d), d in [-1/2, 2), relative error about 2^-56.

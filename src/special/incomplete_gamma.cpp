@@ -103,7 +103,7 @@ IncompleteGamma both_small(double a, double x, double tol)
         if (std::fabs(term) <= tol * std::fabs(sum)) break;
     }
     const double j = a * sum;
-    const DoubleDouble exponent = a * extended_log({x}) - extended_log_gamma_one_plus(a);
+    const DoubleDouble exponent = a * extended_log(x) - extended_log_gamma_one_plus(a);
     const double u =
         exponent.hi < -1.0 ? extended_exp(exponent).rounded() - 1.0 : std::expm1(exponent.hi) + exponent.lo;
     const double one_plus_u = extended_exp(exponent).rounded();
@@ -127,7 +127,7 @@ Exponential extended_poisson_term(double a, double x)
 {
     DoubleDouble exponent, denominator;
     if (a < kUniformFrom) {
-        exponent = a * extended_log({x}) - x;
+        exponent = a * extended_log(x) - x;
         denominator = a < 0.5 ? extended_gamma(fast_two_sum(1.0, a)) : a * extended_gamma({a});
     } else {
         exponent = -(extended_deviance(a, x) + stirling_correction(a));

@@ -11,7 +11,6 @@ class LimitText {
     {
         std::snprintf(text_, sizeof text_, format, limit);
     }
-    operator const char *() const { return text_; }
     const char *text() const { return text_; }
 
   private:

@@ -64,9 +64,9 @@ T series_beyond_first(T y, Integer k)
 DoubleDouble extended_digamma(DoubleDouble x)
 {
     using namespace tables;
-    if (x.hi < kDigammaTailFrom) return (x - kDigammaZero) * kDigammaFactor(x);
+    if (x.hi < kDigammaTailFrom) return kDigammaFactor.times(x - kDigammaZero, x);
     const double reciprocal = 1.0 / x.hi, square = reciprocal * reciprocal;
-    return extended_log(x) - (0.5 * reciprocal + square * kDigammaTail(square).hi);
+    return extended_log(x) - (0.5 * reciprocal + square * kDigammaTail.open(square).rounded());
 }
 
 // |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 1; about 2^-54. The first terms, which may carry the

@@ -1,6 +1,6 @@
 // s07aac: the tangent.
 //
-// The angle is reduced to |r| <= pi/4 with a low part, and the tangent is the quotient of sine and cosine in two doubles.
+// The angle is reduced to |r| <= pi/4 with a low part; the tangent of that comes from a table and the addition theorem.
 #include <kor/s07.h>
 
 #include <cmath>
@@ -23,7 +23,7 @@ double s07aac(double x, KorError *fail)
     if (std::isnan(x)) return x;
 
     if (std::fabs(x) > kLargestArgument) {
-        report.error<NE_REAL_ARG_GT>("fl1", LimitText{kLargestArgument}, "fl1", std::fabs(x));
+        report.error<NE_REAL_ARG_GT>("fl1", LimitText{kLargestArgument}.text(), "fl1", std::fabs(x));
         return 0.0;
     }
     const ReducedAngle angle = reduce_angle({x});
@@ -32,8 +32,7 @@ double s07aac(double x, KorError *fail)
         report.error<NE_FUN_INF>(x);
         return std::copysign(1.0 / nearest, -angle.r.hi);
     }
-    const auto [sine, cosine] = extended_sine_cosine_reduced(angle);
-    const double value = (sine / cosine).rounded();
+    const double value = extended_tangent_reduced(angle).rounded();
     report.success();
     return value;
 }

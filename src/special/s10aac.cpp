@@ -18,7 +18,7 @@ double s10aac(double x)
     using namespace kor::special;
     const double size = std::fabs(x);
     if (size < kSeriesBelow) return odd_function(tables::kTanhSeries, x);
-    if (size < kPiecesBelow) return std::copysign(tables::kTanh(size).rounded(), x);
+    if (size < kPiecesBelow) return std::copysign(tables::kTanh.open({size}).rounded(), x);
     if (size <= kOneBeyond) return std::copysign(1.0 - 2.0 / (std::exp(2.0 * size) + 1.0), x);
     return std::isnan(x) ? x : std::copysign(1.0, x);
 }

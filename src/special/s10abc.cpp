@@ -32,7 +32,7 @@ double s10abc(double x, KorError *fail)
 
     const double size = std::fabs(x);
     if (size > kLargestArgument) {
-        report.error<NE_REAL_ARG_GT>("|x|", kor::special::LimitText{kLargestArgument}, "|x|", size);
+        report.error<NE_REAL_ARG_GT>("|x|", kor::special::LimitText{kLargestArgument}.text(), "|x|", size);
         return std::copysign(sinh_of_positive(kLargestArgument), x);
     }
     const double value = size < kSeriesBelow ? kor::special::odd_function(kor::special::tables::kSinhSeries, x)

@@ -32,7 +32,7 @@ double s10acc(double x, KorError *fail)
 
     const double size = std::fabs(x);
     if (size > kLargestArgument) {
-        report.error<NE_REAL_ARG_GT>("|x|", kor::special::LimitText{kLargestArgument}, "|x|", size);
+        report.error<NE_REAL_ARG_GT>("|x|", kor::special::LimitText{kLargestArgument}.text(), "|x|", size);
         return cosh_of_positive(kLargestArgument);
     }
     const double value = cosh_of_positive(size);

@@ -8,15 +8,16 @@
 namespace {
 
 constexpr double kSeriesBelow = 0.25;
+constexpr double kTailFrom = 16.0;
 constexpr double kLogarithmBeyond = 1e9;
 
-// ln(x + sqrt(x^2 + 1)) in two doubles.
 double arcsinh(double x)
 {
     using namespace kor::special;
     if (x < kSeriesBelow) return odd_function(tables::kArcsinhSeries, x);
-    if (x > kLogarithmBeyond) return std::isinf(x) ? x : log_of_twice(x);
-    return extended_log(x + sqrt(1.0 + two_square(x))).rounded();
+    if (x < kTailFrom) return tables::kArcsinh.open({x}).rounded();
+    if (x > kLogarithmBeyond) return std::isinf(x) ? x : log_of_twice(x).rounded();
+    return with_tail(log_of_twice(x), tables::kArcsinhTail, x);
 }
 
 } // namespace

@@ -8,17 +8,21 @@
 
 namespace {
 
+constexpr double kRootUpTo = 1.5;
+constexpr double kTailFrom = 16.0;
 constexpr double kLogarithmBeyond = 1e9;
 
-// ln(x + sqrt(x^2 - 1)), as ln(1 + (d + sqrt(d (d + 2)))) with d = x - 1 near 1, in two doubles.
+// Near 1 it behaves like sqrt(2 d), d = x - 1.
 double arccosh(double x)
 {
     using namespace kor::special;
-    if (x > kLogarithmBeyond) return std::isinf(x) ? x : log_of_twice(x);
-    if (x == 1.0) return 0.0;
-    const double d = x - 1.0;
-    if (d < 1.0) return extended_log(1.0 + (d + sqrt(d * two_sum(d, 2.0)))).rounded();
-    return extended_log(x + sqrt(two_square(x) - 1.0)).rounded();
+    if (x < kRootUpTo) {
+        const double d = x - 1.0; // exact
+        return d > 0.0 ? tables::kArccoshNearOne.times(sqrt(DoubleDouble{d}), d).rounded() : 0.0;
+    }
+    if (x < kTailFrom) return tables::kArccosh.open({x}).rounded();
+    if (x > kLogarithmBeyond) return std::isinf(x) ? x : log_of_twice(x).rounded();
+    return with_tail(log_of_twice(x), tables::kArccoshTail, x);
 }
 
 } // namespace

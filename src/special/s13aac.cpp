@@ -10,16 +10,19 @@
 namespace {
 
 constexpr double kLogarithmBelow = 0.25;
-constexpr double kTailFrom = 16.0;
 constexpr double kZeroBeyond = 708.3;
 
 double exponential_integral(double x)
 {
     using namespace kor::special;
-    if (x < kLogarithmBelow) return (tables::kE1LessLog(x) - extended_log({x})).rounded();
+    if (x < kLogarithmBelow) {
+        const DoubleDouble log_x = extended_log(x);
+        const OpenSum rest = tables::kE1LessLog.open(x);
+        const DoubleDouble sum = fast_two_sum(-log_x.hi, rest.large);
+        return sum.hi + (sum.lo + (rest.small - log_x.lo));
+    }
     const Exponential e = extended_exp({-x});
-    const DoubleDouble value = x < kTailFrom ? e.value * tables::kScaledE1(x) : e.value * tables::kE1Tail(1.0 / x) / x;
-    return times_power_of_two(value.rounded(), e.exponent);
+    return times_power_of_two(tables::kScaledE1.times(e.value, {x}).rounded(), e.exponent);
 }
 
 } // namespace

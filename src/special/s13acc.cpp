@@ -16,13 +16,13 @@ double cosine_integral(double x)
     using namespace kor::special;
     if (x < kLogarithmBelow) {
         const double square = x * x;
-        return (extended_log({x}) + (tables::kEuler + square * polynomial(tables::kCiSeries, square))).rounded();
+        return (extended_log(x) + (tables::kEuler + square * polynomial(tables::kCiSeries, square))).rounded();
     }
     if (x < kAuxiliaryFrom) {
         // The distance from the zero next to x, times a factor without zeros. The k-th zero serves from 3 k - 1 on.
         const int quarters = static_cast<int>(4.0 * x);
         const DoubleDouble zero = tables::kCiZeros[(quarters + 4) / 12];
-        return ((two_sum(x, -zero.hi) + -zero.lo) * tables::kCiFactor(x)).rounded();
+        return tables::kCiFactor.times(two_sum(x, -zero.hi) + -zero.lo, {x}).rounded();
     }
     if (x > kAuxiliaryUpTo) return std::isinf(x) ? 0.0 : std::sin(x) / x;
     const auto [sine, cosine] = extended_sine_cosine_of({x});

@@ -15,8 +15,8 @@ constexpr double kHalfPiLow = 6.123233995736766e-17; // pi/2 less the double
 double sine_integral(double x)
 {
     using namespace kor::special;
-    if (x < kSeriesUpTo) return (tables::kSiSlope(x * x) * x).rounded();
-    if (x < kAuxiliaryFrom) return tables::kSi(x).rounded();
+    if (x < kSeriesUpTo) return tables::kSiSlope.times({x}, x * x).rounded();
+    if (x < kAuxiliaryFrom) return tables::kSi.open({x}).rounded();
     if (x > kAuxiliaryUpTo) return kHalfPi;
     const auto [f, g] = scaled_auxiliary(x);
     return kHalfPi - ((f.hi * std::cos(x) + g.hi * std::sin(x) / x) / x - kHalfPiLow);

@@ -23,11 +23,11 @@ double s14aac(double x, KorError *fail)
     if (std::isnan(x)) return x;
 
     if (x < -kLargestArgument) {
-        report.error<NE_REAL_ARG_LT>("x", kor::special::LimitText{-kLargestArgument}, "x", x);
+        report.error<NE_REAL_ARG_LT>("x", kor::special::LimitText{-kLargestArgument}.text(), "x", x);
         return 0.0;
     }
     if (x > kLargestArgument) {
-        report.error<NE_REAL_ARG_GT>("x", kor::special::LimitText{kLargestArgument}, "x", x);
+        report.error<NE_REAL_ARG_GT>("x", kor::special::LimitText{kLargestArgument}.text(), "x", x);
         return kValueTooLarge;
     }
     if (std::fabs(x) < kSmallestArgument) {

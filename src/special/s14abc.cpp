@@ -25,10 +25,10 @@ double s14abc(double x, KorError *fail)
         return 0.0;
     }
     if (x > kLargestArgument) {
-        report.error<NE_REAL_ARG_GT>("x", kor::special::LimitText{kLargestArgument, "%9.2g"}, "x", x);
+        report.error<NE_REAL_ARG_GT>("x", kor::special::LimitText{kLargestArgument, "%9.2g"}.text(), "x", x);
         return kValueTooLarge;
     }
-    const double value = x <= kLogarithmBelow ? -std::log(x) : kor::special::extended_log_gamma(x).rounded();
+    const double value = x <= kLogarithmBelow ? -std::log(x) : kor::special::log_gamma(x);
     report.success();
     return value;
 }

@@ -12,9 +12,9 @@ double fresnel_sine(double x)
     using namespace kor::special;
     if (x < kFresnelSeriesBelow) {
         const DoubleDouble square = two_square(x);
-        return (square * x * tables::kFresnelSineStart(square.hi * square.hi)).rounded();
+        return tables::kFresnelSineStart.times(square * x, square.hi * square.hi).rounded();
     }
-    if (x < kFresnelTailFrom) return tables::kFresnelSine(x).rounded();
+    if (x < kFresnelTailFrom) return tables::kFresnelSine.open({x}).rounded();
     if (x >= kFresnelHalfFrom) return 0.5;
     const auto [sine, cosine] = fresnel_phase(x);
     const auto [u, v] = fresnel_tail(x);

@@ -14,7 +14,7 @@ double fresnel_cosine(double x)
         const double square = x * x, fourth = square * square;
         return x + x * (fourth * polynomial(tables::kFresnelCosineStart, fourth));
     }
-    if (x < kFresnelTailFrom) return tables::kFresnelCosine(x).rounded();
+    if (x < kFresnelTailFrom) return tables::kFresnelCosine.open({x}).rounded();
     if (x >= kFresnelHalfFrom) return 0.5;
     const auto [sine, cosine] = fresnel_phase(x);
     const auto [u, v] = fresnel_tail(x);

@@ -23,8 +23,8 @@ double s21bdc(double x, double y, double z, double r, KorError *fail)
     if (refuse_elliptic_arguments(report, x, y, z, kLowerLimit, kUpperLimit)) return 0.0;
     const double size = std::fabs(r);
     if (r == 0.0) return report.error<NE_REAL_ARG_EQ>("r", "0.0", "r", r), 0.0;
-    if (size < kLowerLimit) return report.error<NE_REAL_ARG_LT>("|r|", LimitText{kLowerLimit}, "|r|", size), 0.0;
-    if (size > kUpperLimit) return report.error<NE_REAL_ARG_GT>("|r|", LimitText{kUpperLimit}, "|r|", size), 0.0;
+    if (size < kLowerLimit) return report.error<NE_REAL_ARG_LT>("|r|", LimitText{kLowerLimit}.text(), "|r|", size), 0.0;
+    if (size > kUpperLimit) return report.error<NE_REAL_ARG_GT>("|r|", LimitText{kUpperLimit}.text(), "|r|", size), 0.0;
 
     const double value = r > 0.0 ? carlson_rj(x, y, z, r) : carlson_rj_principal(x, y, z, r);
     report.success();

@@ -110,7 +110,7 @@ double theta(int k, double x, double q)
 {
     if (q <= kSeriesUpTo) return by_series(k, x, q);
 
-    const DoubleDouble over_h = tables::kPi / -extended_log({q}), rate = tables::kPi * over_h;
+    const DoubleDouble over_h = tables::kPi / -extended_log(q), rate = tables::kPi * over_h;
     const Distances d{x};
     const double r = d.from_integer, gap = 1.0 - 2.0 * r;
     switch (k) {

@@ -15,6 +15,15 @@ def double_double(x):
     return hi, float(mpf(x) - mpf(hi))
 
 
+def short_pair(x):
+    """x as a pair of doubles, the first of 26 bits."""
+    if x == 0:
+        return 0.0, 0.0
+    mantissa, exponent = mp.frexp(x)
+    hi = float(mp.ldexp(mp.nint(mp.ldexp(mantissa, 26)), exponent - 26))
+    return hi, float(mpf(x) - mpf(hi))
+
+
 def chebyshev_coefficients(f, a, b, n):
     """Coefficients on [a, b] of the interpolant of f with n terms."""
     points = [cos(pi * (k + mpf(1) / 2) / n) for k in range(n)]
@@ -69,8 +78,12 @@ def fit_terms(f, a, b, n, centre=0):
 
 
 def rounded(coefficients, heads):
-    """What the table holds of the coefficients: pairs for the first `heads`, doubles behind."""
+    """What a table holds of the coefficients: pairs for the first `heads`, doubles behind."""
     return ([double_double(c) for c in coefficients[:heads]], [float(c) for c in coefficients[heads:]])
+
+
+def rounded_near_constant(coefficients):
+    return ([short_pair(coefficients[0])], [float(c) for c in coefficients[1:]])
 
 
 def table_error(f, a, b, heads, tail, centre=0, scale=None, samples=200):
@@ -79,7 +92,7 @@ def table_error(f, a, b, heads, tail, centre=0, scale=None, samples=200):
     c = [mpf(h) + mpf(l) for h, l in heads] + [mpf(t) for t in tail]
     worst = mpf(0)
     for k in range(samples + 1):
-        x = a + (b - a) * k / samples
+        x = a + (b - a) * (k + mpf(1) / 100) / (samples + mpf(1) / 50)  # inside: the ends may belong to a neighbour
         y = f(x)
         s = abs(y) if scale is None else scale(x)
         if s == 0:
@@ -145,7 +158,7 @@ def extended_polynomial(name, f, a, b, tolerance, heads, comment, centre=0, scal
 
 
 def near_constant(name, f, a, b, tolerance, comment, centre=0):
-    head, tail = rounded(fit(f, a, b, tolerance, centre), 1)
+    head, tail = rounded_near_constant(fit(f, a, b, tolerance, centre))
     error = table_error(f, a, b, head, tail, centre)
     return (f"// {comment}; error {mp.nstr(error, 2)}\n"
             f"inline constexpr NearConstantPolynomial<{len(tail)}> {name} = {{\n"
@@ -175,7 +188,7 @@ def pieces(name, type_text, f, intervals, tolerance, comment, scale=None, centre
     n = max(len(c) for c in fits)
     rows, worst = [], mpf(0)
     for (a, b), centre in zip(intervals, centres):
-        head, tail = rounded(fit_terms(f, a, b, n, centre), 1)
+        head, tail = rounded_near_constant(fit_terms(f, a, b, n, centre))
         worst = max(worst, table_error(f, a, b, head, tail, centre, scale, 40))
         rows.append("    {" + pair(head[0]) + ",\n     {" + lines([number(v) for v in tail], 6).lstrip() + "}}")
     return (f"// {comment}; error {mp.nstr(worst, 2)}\n"

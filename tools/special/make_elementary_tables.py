@@ -59,18 +59,21 @@ def logarithm():
 
 
 def sine_cosine():
-    n = 32
+    n = 32  # steps to pi/4
     step = mp.pi / 128
     rows = []
-    for j in range(n + 2):
+    for j in range(2 * n + 2):
         rows.append("{" + pair(double_double(mp.sin(j * step))) + ", " + pair(double_double(mp.cos(j * step))) + "}")
     half = step / 2 * mpf("1.01")
     s = lambda r2: (mp.sin(mp.sqrt(r2)) / mp.sqrt(r2) - 1) / r2 if r2 else -mpf(1) / 6
     c = lambda r2: (mp.cos(mp.sqrt(r2)) - 1 + r2 / 2) / r2 ** 2 if r2 else mpf(1) / 24
     ss, cs = fit(s, 0, half ** 2, mpf(2) ** -58), fit(c, 0, half ** 2, mpf(2) ** -56)
+    tangents = [mp.tan(j * step) for j in range(n + 2)]
+    t = lambda r2: (mp.tan(mp.sqrt(r2)) / mp.sqrt(r2) - 1) / r2 if r2 else mpf(1) / 3
+    ts = fit(t, 0, half ** 2, mpf(2) ** -54)
     step_hi, step_lo = split_bits(step, 48)
     yield ("// sine and cosine of j pi/128\nstruct SineCosine {\n    DoubleDouble sine, cosine;\n};\n"
-           f"inline constexpr std::array<SineCosine, {n + 2}> kSineCosine = {{{{\n{lines(rows)}}}}};\n")
+           f"inline constexpr std::array<SineCosine, {2 * n + 2}> kSineCosine = {{{{\n{lines(rows)}}}}};\n")
     yield f"inline constexpr double kArcStepHigh = {number(step_hi)}; // pi / 128, a multiple of 2^-48, and the rest"
     yield f"inline constexpr double kArcStepLow = {number(step_lo)};"
     yield f"inline constexpr double kArcStepsPerRadian = {number(1 / step)}; // 128 / pi\n"
@@ -78,6 +81,8 @@ def sine_cosine():
         table_error(s, 0, half ** 2, [], ss), 2))
     yield array("kCosineSeries", cs, "(cos(r) - 1 + r^2/2) / r^4 in r^2, |r| <= pi/256; error " + mp.nstr(
         table_error(c, 0, half ** 2, [], cs), 2))
+    yield pair_array("kTangents", [double_double(x) for x in tangents], "tangents of j pi/128")
+    yield array("kTangentSeries", ts, "(tan(r)/r - 1) / r^2 in r^2, |r| <= pi/256; error " + mp.nstr(table_error(t, 0, half ** 2, [], ts), 2))
     # pi/2 in pieces of 26 bits, whose products with a count below 2^27 are exact.
     rest, parts = mp.pi / 2, []
     for k in range(7):

@@ -7,13 +7,12 @@ OUT = os.path.join(os.path.dirname(__file__), "../../src/special/gamma_tables.hp
 TIGHT = mpf(2) ** -58
 
 
-def near_one(d):
-    """ln Gamma(1 + d) / (d (d - 1)): both zeros taken out."""
-    if d == 0:
-        return mp.euler
-    if d == 1:
-        return 1 - mp.euler
-    return mp.loggamma(1 + d) / (d * (d - 1))
+def log_gamma_factor(d):
+    """ln Gamma(1 + d) over its zero next to d: over d below 1/2, over d - 1 from there on."""
+    zero = 0 if d < mpf(1) / 2 else 1
+    if d == zero:
+        return -mp.euler if zero == 0 else 1 - mp.euler
+    return mp.loggamma(1 + d) / (d - zero)
 
 
 def stirling(u):
@@ -56,8 +55,10 @@ def polygamma_series():
 parts = [
     pieces("kGamma", "UniformPieces<0.5, 8, {count}, {terms}>", mp.gamma, grid(mpf("0.5"), 12, 8), TIGHT,
            "gamma on [1/2, 12), pieces of width 1/8"),
-    pieces("kLogGammaNearOne", "UniformPieces<-0.5, 4, {count}, {terms}>", near_one, grid(-0.5, 2, 4), TIGHT,
-           "ln gamma(1 + d) / (d (d - 1)), d on [-1/2, 2), pieces of width 1/4"),
+    pieces("kLogGammaFactor", "UniformPieces<-0.5, 8, {count}, {terms}>", log_gamma_factor, grid(mpf("-0.5"), 2, 8), TIGHT,
+           "ln gamma(1 + d) / d on [-1/2, 1/2), ln gamma(1 + d) / (d - 1) on [1/2, 2), pieces of width 1/8"),
+    pieces("kLogGammaBelowHalf", "BinadePieces<0.0625, 4, {count}, {terms}>", mp.loggamma, binade_centres(-4, -1, 4), TIGHT,
+           "ln gamma on [1/16, 1/2), sixteen pieces a binade"),
     pieces("kLogGamma", "BinadePieces<3.0, 4, {count}, {terms}>", mp.loggamma,
            [p for p in binade_centres(1, 4, 4) if p[0] >= 3], TIGHT, "ln gamma on [3, 16), sixteen pieces a binade"),
     near_constant("kStirling", stirling, 0, mpf(1) / 144, mpf(2) ** -56,

@@ -16,11 +16,6 @@ def scaled_e1(x):
     return mp.exp(x) * mp.e1(x)
 
 
-def e1_tail(u):
-    """x exp(x) E1(x) as a function of u = 1/x."""
-    return mp.exp(1 / u) * mp.e1(1 / u) / u if u else mpf(1)
-
-
 def auxiliary(x):
     """f and g of the cosine and sine integrals."""
     with mp.workdps(80):
@@ -74,7 +69,7 @@ def ci_pieces():
             if not final:
                 terms = max(terms, len(fit(factor, a, b, TIGHT, centre)))
             else:
-                head, tail = rounded(fit_terms(factor, a, b, terms, centre), 1)
+                head, tail = rounded_near_constant(fit_terms(factor, a, b, terms, centre))
                 worst = max(worst, table_error(factor, a, b, head, tail, centre, None, 39))
                 rows.append("    {" + pair(head[0]) + ",\n     {" + lines([number(v) for v in tail], 6).lstrip() + "}}")
     return (f"// Ci(x) / (x - zero) on [1/2, 16), pieces of width 1/4; error {mp.nstr(worst, 2)}\n"
@@ -83,9 +78,8 @@ def ci_pieces():
 
 parts = [
     near_constant("kE1LessLog", e1_less_log, 0, mpf("0.25"), mpf(2) ** -56, "E1(x) + ln x, x <= 1/4"),
-    pieces("kScaledE1", "BinadePieces<0.25, 3, {count}, {terms}>", scaled_e1, binade_centres(-2, 4, 3), TIGHT,
-           "exp(x) E1(x) on [1/4, 16), eight pieces a binade"),
-    near_constant("kE1Tail", e1_tail, 0, mpf(1) / 16, TIGHT, "x exp(x) E1(x) in 1/x, x >= 16"),
+    pieces("kScaledE1", "BinadePieces<0.25, 3, {count}, {terms}>", scaled_e1, binade_centres(-2, 10, 3), TIGHT,
+           "exp(x) E1(x) on [1/4, 1024), eight pieces a binade"),
     pair_constant("kEuler", mp.euler, "Euler's constant"),
     array("kCiSeries", fit(ci_less_log, 0, mpf("0.25"), mpf(2) ** -56),
           "(Ci(x) - ln x - euler) / x^2 in x^2, x <= 1/2"),
