@@ -6,7 +6,6 @@
 
 #include "transforms/arguments.hpp"
 #include "transforms/rows.hpp"
-#include "transforms/transpose.hpp"
 
 using namespace kor::transforms;
 
@@ -24,10 +23,10 @@ void c06fuc(Integer m, Integer n, double x[], double y[], const double trigm[], 
 
     const Sequence turned{transposed.data(), transposed.data() + Index{m} * n};
     rows.transform(m, {x, y});
-    transpose(m, n, x, turned.re);
-    transpose(m, n, y, turned.im);
+    kernels().transpose(m, n, x, n, turned.re, m);
+    kernels().transpose(m, n, y, n, turned.im, m);
     columns.transform(n, turned);
-    transpose(n, m, turned.re, x);
-    transpose(n, m, turned.im, y);
+    kernels().transpose(n, m, turned.re, m, x, n);
+    kernels().transpose(n, m, turned.im, m, y, n);
     report.success();
 }

@@ -34,7 +34,7 @@ KOR_INLINE void set_first_to_one(Pair<Lanes> &w)
 }
 
 template <class Access, bool kFirstIsRoot>
-struct OneForEach { // consecutive factors for consecutive lanes
+struct OneForEach { // consecutive factors for consecutive lanes, from place j of the stage on
     Access access;
     const double *cosines, *sines;
     Index step;
@@ -54,6 +54,7 @@ struct OneForEach { // consecutive factors for consecutive lanes
     }
 };
 
+// Rows of complex numbers, `step` apart.
 struct ComplexIn {
     const double *re, *im;
     Index step;
@@ -63,52 +64,72 @@ struct ComplexOut {
     Index step;
 };
 
-template <class Radix, class Access, class Twiddle>
-KOR_INLINE void complex_butterfly(const Radix &radix, Access access, ComplexIn in, ComplexOut out, Twiddle twiddle)
+template <class Radix, class Access, class Before, class After>
+KOR_INLINE void complex_butterfly(const Radix &radix, Access access, ComplexIn in, ComplexOut out, Before before,
+                                  After after)
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
     KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-        points.x[l] = {access.load(in.re + l * in.step), access.load(in.im + l * in.step)};
+        points.x[l] = before(l, Pair<V>{access.load(in.re + l * in.step), access.load(in.im + l * in.step)});
     radix.run(points);
     KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
     {
-        const Pair<V> y = twiddle(k, points.y[k]);
+        const Pair<V> y = after(k, points.y[k]);
         access.store(out.re + k * out.step, y.re);
         access.store(out.im + k * out.step, y.im);
     }
 }
 
-template <class Radix>
-void complex_across_pass(const Stage &stage, Index batch, const double *in_re, const double *in_im, double *out_re,
-                         double *out_im, double scale)
+// Rows that follow each other without a gap are one long row.
+KOR_INLINE Block merged(Block block)
 {
-    const Radix radix{stage};
-    const Index width = stage.before * batch;
-    const auto row = [&](Index j, auto twiddle) {
-        Radix::cover(
-            width, [&](auto access, Index b) __attribute__((always_inline)) {
-                const Index from = j * width + b, to = j * radix.radix * width + b;
-                complex_butterfly(radix, access, {in_re + from, in_im + from, stage.after * width},
-                                  {out_re + to, out_im + to, width}, twiddle);
-            });
-    };
-    row(0, ScaledOnly{scale});
-    for (Index j = 1; j < stage.after; ++j) row(j, SameForAll{stage, j});
+    if (block.in_row == block.width && block.out_row == block.width) {
+        block.width *= block.before;
+        block.in_row = block.out_row = block.width;
+        block.before = 1;
+    }
+    return block;
 }
 
 template <class Radix>
-void complex_along_pass(const Stage &stage, const double *in_re, const double *in_im, double *out_re, double *out_im)
+void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
 {
     const Radix radix{stage};
-    for (Index block = 0; block < stage.before; ++block) {
-        const Index base = block * radix.radix * stage.after;
-        Radix::cover(
-            stage.after, [&](auto access, Index j) __attribute__((always_inline)) {
-                const Index at = base + j;
-                complex_butterfly(radix, access, {in_re + at, in_im + at, stage.after},
-                                  {out_re + at, out_im + at, stage.after},
-                                  OneForEach<decltype(access), Radix::kRootsInTable>{access, stage, j});
+    const Block block = merged(given);
+    const auto row = [&](Index a, auto twiddle) __attribute__((always_inline)) {
+        for (Index b = 0; b < block.before; ++b) {
+            const Index from = (a * block.before + b) * block.in_row;
+            const Index to = (a * radix.radix * block.before + b) * block.out_row;
+            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                complex_butterfly(
+                    radix, access,
+                    {in.re + from + c, in.im + from + c, block.after * block.before * block.in_row},
+                    {out.re + to + c, out.im + to + c, block.before * block.out_row}, NoTwiddle{}, twiddle);
             });
-    }
+        }
+    };
+    row(0, ScaledOnly{scale});
+    for (Index a = 1; a < block.after; ++a) row(a, SameForAll{stage, a * block.spread});
+}
+
+template <class Radix, bool kBack>
+void columns_pass(const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out)
+{
+    const Radix radix{stage};
+    const Index in_step = block.before * block.in_row, out_step = block.before * block.out_row;
+    for (Index a = 0; a < block.after; ++a)
+        for (Index b = 0; b < block.before; ++b) {
+            const Index from = kBack ? a * radix.radix * in_step + b * block.in_row : a * in_step + b * block.in_row;
+            const Index to = kBack ? a * out_step + b * block.out_row : a * radix.radix * out_step + b * block.out_row;
+            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                const OneForEach<decltype(access), Radix::kRootsInTable> twiddle{access, stage, a * columns + first + c};
+                const ComplexIn source{in.re + from + c, in.im + from + c, kBack ? in_step : block.after * in_step};
+                const ComplexOut target{out.re + to + c, out.im + to + c, kBack ? block.after * out_step : out_step};
+                if constexpr (kBack)
+                    complex_butterfly(radix, access, source, target, twiddle, NoTwiddle{});
+                else
+                    complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
+            });
+        }
 }

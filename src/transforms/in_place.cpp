@@ -69,10 +69,10 @@ Dimensions::Dimensions(Index length, const InPlaceFactors &factors) : n{length}
 namespace {
 
 // What a sweep or a block needs on the stack.
-struct Stack {
-    double table[2 * kLargestBlock];
+struct alignas(sizeof(double) * kLine) Stack {
+    double table[2 * kGathered];
     double gathered[2 * kGathered];
-    double work[4 * kGathered];
+    double work[6 * kLargestBlock + 4 * kLine];
     double roots[2 * kLargestDimension];
 };
 
@@ -102,12 +102,12 @@ void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, 
     for (Index at = 0; at < d.n; at += d.block) {
         const Sequence block{x.re + at, x.im != nullptr ? x.im + at : nullptr};
         if (dimensions <= 1) {
-            plan.transform(block, scale, stack.work);
+            plan.transform(block, block, scale, stack.work);
             continue;
         }
-        const Sequence straight{stack.work, x.im != nullptr ? stack.work + d.block : nullptr};
+        const Sequence straight{stack.gathered, x.im != nullptr ? stack.gathered + d.block : nullptr};
         if (kind == Kind::hermitian) {
-            plan.transform(block, scale, stack.work);
+            plan.transform(block, block, scale, stack.work);
             std::copy_n(block.re, d.block, straight.re);
             walk([&](Index place, Index index) { block.re[place] = straight.re[index]; });
         } else {
@@ -136,7 +136,7 @@ class Sweep {
             for (Index block = 0; block < n_; block += radix_ * v_) {
                 double *const r = re + block + f, *const i = im + block + f;
                 gather([&](Index l, Index c) { return Value{r[l * v_ + c], i[l * v_ + c]}; });
-                twiddle();
+                twiddle(gathered());
                 transform();
                 scatter([&](Index k, Index c, Value y) {
                     r[k * v_ + c] = y.re;
@@ -155,7 +155,7 @@ class Sweep {
             for (Index block = 0; block < n_; block += radix_ * v_) {
                 double *const up = x + block + f, *const down = x + block - f;
                 gather([&](Index l, Index c) { return Value{up[l * v_ + c], down[(l + 1) * v_ - c]}; });
-                twiddle();
+                twiddle(gathered());
                 transform();
                 scatter([&](Index k, Index c, Value y) {
                     const bool lower = 2 * k < radix_;
@@ -179,7 +179,7 @@ class Sweep {
                     return 2 * k < radix_ ? Value{here, mirror} : Value{mirror, -here};
                 });
                 transform();
-                twiddle();
+                twiddle(done_);
                 scatter([&](Index l, Index c, Value y) {
                     up[l * v_ + c] = y.re;
                     down[(l + 1) * v_ - c] = y.im;
@@ -210,11 +210,15 @@ class Sweep {
     template <class Write>
     void scatter(Write write)
     {
-        const auto [re, im] = gathered();
+        const auto [re, im] = done_;
         for (Index l = 0; l < radix_; ++l)
             for (Index c = 0; c < width_; ++c) write(l, c, Value{re[l * width_ + c], im[l * width_ + c]});
     }
-    void transform() { plan_.transform_side_by_side(width_, gathered(), gathered(), 1.0, stack_.work); }
+    void transform()
+    {
+        const Sequence spare{stack_.work, stack_.work + radix_ * width_};
+        done_ = plan_.transform_side_by_side(width_, gathered(), spare, 1.0);
+    }
 
     // exp(-2 pi i l (f + c) / (L v)) for all l and the columns f + c at hand.
     void set_twiddles(Index f)
@@ -224,9 +228,9 @@ class Sweep {
             kernels().unit_roots(length, l * f % length, l, width_, twiddles(l), twiddles(l) + radix_ * width_);
     }
     double *twiddles(Index l) { return stack_.table + l * width_; }
-    void twiddle()
+    void twiddle(Sequence x)
     {
-        const auto [re, im] = gathered();
+        const auto [re, im] = x;
         const double *const c = stack_.table, *const s = c + radix_ * width_;
         for (Index i = 0; i < radix_ * width_; ++i) {
             const double product = re[i] * c[i] - im[i] * s[i];
@@ -245,7 +249,7 @@ class Sweep {
             for (Index block = 0; block < n_; block += radix_ * v_) {
                 double *const start = x + block;
                 gather([&](Index l, Index) { return Value{start[l * v_ + f], 0.0}; });
-                twiddle();
+                twiddle(gathered());
                 transform();
                 scatter([&](Index k, Index, Value y) {
                     const Index g = f + k * v_, mirror = radix_ * v_ - g;
@@ -270,7 +274,7 @@ class Sweep {
                     return g < mirror ? Value{start[g], start[mirror]} : Value{start[mirror], -start[g]};
                 });
                 transform();
-                twiddle();
+                twiddle(done_);
                 scatter([&](Index l, Index, Value y) { start[l * v_ + f] = y.re; });
             }
             if (v_ == 1) break;
@@ -280,6 +284,7 @@ class Sweep {
     Index n_, radix_, v_, width_ = 1;
     Stack &stack_;
     Plan plan_;
+    Sequence done_{}; // where the transformed columns stand
 };
 
 } // namespace

@@ -4,43 +4,77 @@
 // differs. Results are therefore the same bits on every processor.
 #pragma once
 
+#include <cstdint>
+
 #include "transforms/stages.hpp"
 
 namespace kor::transforms {
 
+// A complex sequence or a packed one: the imaginary parts are null for the latter.
+struct Sequence {
+    double *re;
+    double *im;
+};
+
+// The rows that a pass works on. It takes the first `width` elements of each; rows stand `in_row` and `out_row` apart.
+struct Block {
+    Index before; // the rows of the input are numbered (l * after + a) * before + b, l below the radix, ...
+    Index after;  // ... those of the output (a * radix + k) * before + b
+    Index width;
+    Index in_row, out_row;
+    Index spread = 1; // the twiddle factors of row a are those of the stage's place a * spread
+};
+
+// Registers go to and from memory fastest when they do not straddle two lines of the cache: work arrays begin at a line.
+inline constexpr Index kLine = 8; // doubles
+inline double *at_line(double *p)
+{
+    const auto place = reinterpret_cast<std::uintptr_t>(p) / sizeof(double);
+    return p + (kLine - static_cast<Index>(place % kLine)) % kLine;
+}
+inline constexpr Index whole_lines(Index count) { return (count + kLine - 1) / kLine * kLine; }
+
 struct Kernels {
+    Index lanes; // elements in a register
+
     // exp(-2 pi i (first + step j) / n) for j = 0..count-1: cosines and negated sines, each within 0.75 ulp.
     // 0 <= first, step < n.
     void (*unit_roots)(Index n, Index first, Index step, Index count, double *cosines, double *sines);
 
-    // One stage of a complex, real or Hermitian transform, from `in` to `out`, which must not overlap.
-    //
-    // `across` works on B = batch * stage.before sequences side by side, and multiplies its outputs that have no twiddle
-    // factor by `scale`: all of them, if stage.after is 1.
-    //   complex:   in[(l * after + j) * B + b] -> out[(j * radix + k) * B + b]
-    //   real:      in[(f * radix + l) * B + b] -> out[g * B + b]
-    //   Hermitian: in[g * B + b]               -> out[(f * radix + l) * B + b]
-    // `along` works on stage.before contiguous blocks of radix * after elements.
-    //   complex:   in[l * after + j]           -> out[k * after + j]
-    //   real:      in[l * after + f]           -> out[g]
-    //   Hermitian: in[g]                       -> out[l * after + f]
-    // Here l and k count the radix, j the `after` elements of a row; f and g are places in packed Hermitian sequences of
-    // length `after` and radix * after.
-    using ComplexAcross = void (*)(const Stage &, Index batch, const double *in_re, const double *in_im, double *out_re,
-                                   double *out_im, double scale);
-    using ComplexAlong = void (*)(const Stage &, const double *in_re, const double *in_im, double *out_re,
-                                  double *out_im);
-    using PackedAcross = void (*)(const Stage &, Index batch, const double *in, double *out, double scale);
-    using PackedAlong = void (*)(const Stage &, const double *in, double *out);
-    ComplexAcross complex_across;
-    ComplexAlong complex_along;
-    PackedAcross real_across;
-    PackedAlong real_along;
-    PackedAcross hermitian_across;
-    PackedAlong hermitian_along;
+    // out(j, i) = in(i, j) for `rows` by `columns` elements; rows stand `in_row` apart in the one, `out_row` in the other.
+    // Here and below, arrays do not overlap.
+    void (*transpose)(Index rows, Index columns, const double *in, Index in_row, double *out, Index out_row);
+
+    // One stage of a transform, with the same twiddle factors for all elements of a row. For real and Hermitian data, `a`
+    // counts the places f of packed sequences:
+    //   complex:   row (l * after + a) * before + b   -> row (a * radix + k) * before + b
+    //   real:      row (f * radix + l) * before + b   -> row g * before + b
+    //   Hermitian: row g * before + b                 -> row (f * radix + l) * before + b
+    // f and g are places in packed Hermitian sequences of length `after` and radix * after. Results without a twiddle
+    // factor are multiplied by `scale`: all of them, if `after` is 1.
+    void (*complex_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+    void (*real_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+    void (*hermitian_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+
+    // One stage with factors of its own for each element c of row a: those of the stage's place a * columns + first + c.
+    // They come after the butterfly, or before it, where the rows are
+    //   row (a * radix + l) * before + b -> row (k * after + a) * before + b.
+    void (*columns_pass)(const Stage &, const Block &, Index columns, Index first, Sequence in, Sequence out);
+    void (*columns_pass_back)(const Stage &, const Block &, Index columns, Index first, Sequence in, Sequence out);
+
+    // Columns first..first + width - 1 of `rows` packed Hermitian sequences of length v, to and from a block of complex
+    // rows; and of one packed sequence of length rows * v, whose place f + v k is column f of row k. 1 <= first,
+    // 2 (first + width) <= v + 1.
+    void (*load_short)(Index rows, Index v, Index first, Index width, const double *packed, Sequence block);
+    void (*store_short)(Index rows, Index v, Index first, Index width, Sequence block, double *packed);
+    void (*load_long)(Index rows, Index v, Index first, Index width, const double *packed, Sequence block);
+    void (*store_long)(Index rows, Index v, Index first, Index width, Sequence block, double *packed);
 };
 
 // The fastest that this processor can run.
 const Kernels &kernels();
+
+// The same for short lengths: long registers would stay empty.
+const Kernels &kernels_for_length(Index n);
 
 } // namespace kor::transforms

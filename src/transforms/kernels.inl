@@ -6,6 +6,7 @@
 #include "transforms/lanes.inl"
 #include "transforms/butterflies.inl"
 #include "transforms/unit_roots.inl"
+#include "transforms/transposes.inl"
 #include "transforms/radices.inl"
 #include "transforms/complex_passes.inl"
 #include "transforms/real_passes.inl"
@@ -33,36 +34,41 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 }
 
 inline constexpr Kernels kKernels{
-    unit_roots,
-    [](const Stage &stage, Index batch, const double *in_re, const double *in_im, double *out_re, double *out_im,
-       double scale) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            complex_across_pass<Radix>(stage, batch, in_re, in_im, out_re, out_im, scale);
-        });
-    },
-    [](const Stage &stage, const double *in_re, const double *in_im, double *out_re, double *out_im) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            complex_along_pass<Radix>(stage, in_re, in_im, out_re, out_im);
-        });
-    },
-    [](const Stage &stage, Index batch, const double *in, double *out, double scale) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            packed_across_pass<Radix, RealDirection>(stage, batch, in, out, scale);
-        });
-    },
-    [](const Stage &stage, const double *in, double *out) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            packed_along_pass<Radix, RealDirection>(stage, in, out);
-        });
-    },
-    [](const Stage &stage, Index batch, const double *in, double *out, double scale) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            packed_across_pass<Radix, HermitianDirection>(stage, batch, in, out, scale);
-        });
-    },
-    [](const Stage &stage, const double *in, double *out) {
-        with_radix(stage, [=, &stage]<class Radix>(std::type_identity<Radix>) {
-            packed_along_pass<Radix, HermitianDirection>(stage, in, out);
-        });
-    },
+    .lanes = kLanes,
+    .unit_roots = unit_roots,
+    .transpose = transpose,
+    .complex_pass =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                complex_pass<Radix>(stage, block, in, out, scale);
+            });
+        },
+    .real_pass =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                packed_pass<Radix, RealDirection>(stage, block, in.re, out.re, scale);
+            });
+        },
+    .hermitian_pass =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                packed_pass<Radix, HermitianDirection>(stage, block, in.re, out.re, scale);
+            });
+        },
+    .columns_pass =
+        [](const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out) {
+            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                columns_pass<Radix, false>(stage, block, columns, first, in, out);
+            });
+        },
+    .columns_pass_back =
+        [](const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out) {
+            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                columns_pass<Radix, true>(stage, block, columns, first, in, out);
+            });
+        },
+    .load_short = load_short,
+    .store_short = store_short,
+    .load_long = load_long,
+    .store_long = store_long,
 };

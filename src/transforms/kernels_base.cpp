@@ -12,16 +12,26 @@ namespace base {
 
 const Kernels &kernels_for_all() { return base::kKernels; }
 
-const Kernels &kernels()
-{
-    static const Kernels &best = []() -> const Kernels & {
+namespace {
+
 #if defined(KOR_TRANSFORM_GENERATIONS)
-        if (__builtin_cpu_supports("x86-64-v4")) return kernels_for_v4();
-        if (__builtin_cpu_supports("x86-64-v3")) return kernels_for_v3();
+const bool has_v4 = __builtin_cpu_supports("x86-64-v4"), has_v3 = __builtin_cpu_supports("x86-64-v3");
 #endif
-        return kernels_for_all();
-    }();
-    return best;
+
+// Below these lengths shorter registers are faster.
+constexpr Index kLongestForTwoLanes = 15, kLongestForFourLanes = 127;
+
+} // namespace
+
+const Kernels &kernels() { return kernels_for_length(kLongestForFourLanes + 1); }
+
+const Kernels &kernels_for_length([[maybe_unused]] Index n)
+{
+#if defined(KOR_TRANSFORM_GENERATIONS)
+    if (has_v4 && n > kLongestForFourLanes) return kernels_for_v4();
+    if (has_v3 && n > kLongestForTwoLanes) return kernels_for_v3();
+#endif
+    return kernels_for_all();
 }
 
 } // namespace kor::transforms

@@ -5,6 +5,8 @@
 #if defined(KOR_TRANSFORM_GENERATIONS)
 
 #pragma GCC target("arch=x86-64-v4")
+// This vectorisation forms fused multiplications and additions (vfmaddsub) even where contraction is off (GCC 12).
+#pragma GCC optimize("no-tree-slp-vectorize")
 #define KOR_LANES 8
 
 namespace kor::transforms {

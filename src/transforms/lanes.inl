@@ -1,6 +1,7 @@
 // Several doubles at a time, in the registers of the generation that the includer compiles for. Part of kernels.inl.
 
 #define KOR_INLINE [[gnu::always_inline]] inline
+#define KOR_UNROLL _Pragma("GCC unroll 8")
 
 inline constexpr Index kLanes = KOR_LANES;
 typedef double Lanes __attribute__((vector_size(8 * KOR_LANES)));
@@ -20,35 +21,14 @@ KOR_INLINE Lanes reversed(Lanes v)
 #endif
 }
 
-// How a butterfly reaches memory: a full register, a few elements (fewer than a register holds), or one. The mirrored
-// forms go down in memory from the element of the first lane.
+// How a butterfly reaches memory: a full register or one element. The mirrored forms go down in memory from the element of
+// the first lane.
 struct Full {
     using Value = Lanes;
     KOR_INLINE Lanes load(const double *p) const { return load_lanes(p); }
     KOR_INLINE void store(double *p, Lanes v) const { store_lanes(p, v); }
     KOR_INLINE Lanes load_mirrored(const double *p) const { return reversed(load_lanes(p - (kLanes - 1))); }
     KOR_INLINE void store_mirrored(double *p, Lanes v) const { store_lanes(p - (kLanes - 1), reversed(v)); }
-};
-
-// Rare and slow: kept out of line, and the butterflies small.
-[[gnu::noinline]] inline Lanes load_few(const double *p, Index count, Index step)
-{
-    double value[kLanes] = {};
-    for (Index i = 0; i < count; ++i) value[i] = p[i * step];
-    return load_lanes(value);
-}
-[[gnu::noinline]] inline void store_few(double *p, Lanes v, Index count, Index step)
-{
-    for (Index i = 0; i < count; ++i) p[i * step] = v[i];
-}
-
-struct Few {
-    using Value = Lanes;
-    Index count;
-    KOR_INLINE Lanes load(const double *p) const { return load_few(p, count, 1); }
-    KOR_INLINE void store(double *p, Lanes v) const { store_few(p, v, count, 1); }
-    KOR_INLINE Lanes load_mirrored(const double *p) const { return load_few(p, count, -1); }
-    KOR_INLINE void store_mirrored(double *p, Lanes v) const { store_few(p, v, count, -1); }
 };
 
 struct One {
@@ -70,11 +50,52 @@ struct SideBySide : Access {
 // Calls body(access, i) so that the elements [0, count) are covered. The last register may overlap the one before: the
 // body must be safe to repeat, as it is when it reads one array and writes another.
 template <class Body>
-KOR_INLINE void cover_by_registers(Index count, Body body)
+KOR_INLINE void cover(Index count, Body body)
 {
-    if (count < kLanes) {
-        if (count > 0) body(Few{count}, 0);
-        return;
+    if (count >= kLanes)
+        for (Index i = 0; i < count; i += kLanes) body(Full{}, i + kLanes <= count ? i : count - kLanes);
+    else
+        for (Index i = 0; i < count; ++i) body(One{}, i);
+}
+
+// Transposes kLanes registers of kLanes elements.
+KOR_INLINE void transpose_square(Lanes (&a)[kLanes])
+{
+    Lanes b[kLanes];
+#if KOR_LANES == 8
+    KOR_UNROLL for (int i = 0; i < 8; i += 2)
+    {
+        b[i] = __builtin_shufflevector(a[i], a[i + 1], 0, 8, 2, 10, 4, 12, 6, 14);
+        b[i + 1] = __builtin_shufflevector(a[i], a[i + 1], 1, 9, 3, 11, 5, 13, 7, 15);
     }
-    for (Index i = 0; i < count; i += kLanes) body(Full{}, i + kLanes <= count ? i : count - kLanes);
+    KOR_UNROLL for (int i = 0; i < 8; ++i)
+    {
+        const int low = i & ~2;
+        a[i] = i & 2 ? __builtin_shufflevector(b[low], b[low + 2], 2, 3, 10, 11, 6, 7, 14, 15)
+                     : __builtin_shufflevector(b[low], b[low + 2], 0, 1, 8, 9, 4, 5, 12, 13);
+    }
+    KOR_UNROLL for (int i = 0; i < 8; ++i)
+    {
+        const int low = i & ~4;
+        b[i] = i & 4 ? __builtin_shufflevector(a[low], a[low + 4], 4, 5, 6, 7, 12, 13, 14, 15)
+                     : __builtin_shufflevector(a[low], a[low + 4], 0, 1, 2, 3, 8, 9, 10, 11);
+    }
+#elif KOR_LANES == 4
+    KOR_UNROLL for (int i = 0; i < 4; i += 2)
+    {
+        b[i] = __builtin_shufflevector(a[i], a[i + 1], 0, 4, 2, 6);
+        b[i + 1] = __builtin_shufflevector(a[i], a[i + 1], 1, 5, 3, 7);
+    }
+    KOR_UNROLL for (int i = 0; i < 4; ++i)
+    {
+        const int low = i & ~2;
+        a[i] = i & 2 ? __builtin_shufflevector(b[low], b[low + 2], 2, 3, 6, 7)
+                     : __builtin_shufflevector(b[low], b[low + 2], 0, 1, 4, 5);
+    }
+    KOR_UNROLL for (int i = 0; i < 4; ++i) b[i] = a[i];
+#else
+    b[0] = __builtin_shufflevector(a[0], a[1], 0, 2);
+    b[1] = __builtin_shufflevector(a[0], a[1], 1, 3);
+#endif
+    KOR_UNROLL for (int i = 0; i < kLanes; ++i) a[i] = b[i];
 }

@@ -6,7 +6,6 @@
 #include <iterator>
 
 #include "transforms/root_table.hpp"
-#include "transforms/sequence.hpp"
 
 namespace kor::transforms {
 
@@ -95,13 +94,17 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
     p_ = p;
     length_ = convolution_length(p, factors);
 
-    const Index parts[] = {2 * p, 2 * p, 2 * length_, length_, 2 * length_, Plan::work_size(Kind::complex, length_)};
+    if (!table_.allocate(2 * length_)) return false;
+    fill_root_table(length_, table_.data());
+    const Index work = std::max({plan(Kind::complex).work_size(), plan(Kind::real).work_size(), plan(Kind::hermitian).work_size()});
+
+    const Index parts[] = {2 * p, 2 * p, length_, 2 * length_, work};
     Count total = 0;
     for (const Index part : parts) total = total + Count{part};
     if (!memory_.allocate(total) || !powers_.allocate(p - 1)) return false;
     double *next = memory_.data();
-    double **const slots[] = {&input_, &output_, &table_, &kernel_, &signal_, &work_};
-    for (std::size_t i = 0; i < std::size(parts); ++i, next += parts[i - 1]) *slots[i] = next;
+    double **const slots[] = {&input_, &output_, &kernel_, &signal_, &work_};
+    for (std::size_t i = 0; i < std::size(parts); next += parts[i++]) *slots[i] = next;
 
     const std::uint64_t g = static_cast<std::uint64_t>(generator(p, factors));
     std::uint64_t residue = 1;
@@ -111,7 +114,6 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
     }
 
     // The kernel at q belongs to g^-q = g^(p-1-q); for a padded convolution it is continued to negative q.
-    fill_root_table(length_, table_);
     std::fill_n(kernel_, length_, 0.0);
     const double scale = 1.0 / static_cast<double>(length_);
     for (Index q = 0; q < p - 1; ++q) {
@@ -120,9 +122,12 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
         kernel_[q] = value;
         if (length_ > p - 1 && q > 0) kernel_[length_ - (p - 1) + q] = value;
     }
-    Plan{Kind::real, length_, table_}.transform({kernel_, nullptr}, 1.0, work_);
+    const Sequence kernel{kernel_, nullptr};
+    plan(Kind::real).transform(kernel, kernel, 1.0, work_);
     return true;
 }
+
+Plan PrimeTransform::plan(Kind kind) const { return {kind, length_, table_.data()}; }
 
 void PrimeTransform::run_real() const
 {
@@ -131,11 +136,11 @@ void PrimeTransform::run_real() const
     for (Index q = 0; q < p_ - 1; ++q) a[q] = x[powers_[q]];
     std::fill(a + p_ - 1, a + length_, 0.0);
 
-    Plan{Kind::real, length_, table_}.transform({a, nullptr}, 1.0, work_);
+    plan(Kind::real).transform({a, nullptr}, {a, nullptr}, 1.0, work_);
     output_[0] = x[0] + a[0];
     output_[1] = 0.0;
     multiply_packed_conjugate(length_, a, kernel_);
-    Plan{Kind::hermitian, length_, table_}.transform({a, nullptr}, 1.0, work_);
+    plan(Kind::hermitian).transform({a, nullptr}, {a, nullptr}, 1.0, work_);
 
     // a_q holds the sums with cosines plus those with negated sines, at the frequency g^-q.
     const Index half = (p_ - 1) / 2;
@@ -159,12 +164,12 @@ void PrimeTransform::run_complex() const
     std::fill(re + p_ - 1, re + length_, 0.0);
     std::fill(im + p_ - 1, im + length_, 0.0);
 
-    const Plan plan{Kind::complex, length_, table_};
-    plan.transform({re, im}, 1.0, work_);
+    const Plan transform = plan(Kind::complex);
+    transform.transform({re, im}, {re, im}, 1.0, work_);
     output_[0] = x[0] + re[0];
     output_[1] = x[1] + im[0];
     multiply_conjugate(length_, re, im, kernel_);
-    plan.transform({re, im}, 1.0, work_); // the conjugate of the convolution
+    transform.transform({re, im}, {re, im}, 1.0, work_); // the conjugate of the convolution
 
     const Index half = (p_ - 1) / 2;
     for (Index q = 0; q < half; ++q) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/workspace.hpp"
-#include "transforms/stages.hpp"
+#include "transforms/sequence.hpp"
 
 namespace kor::transforms {
 
@@ -29,13 +29,15 @@ class PrimeTransform {
     void run_real() const;
 
   private:
+    Plan plan(Kind kind) const;
+
     Index p_ = 0;
     Index length_ = 0; // of the convolution: p - 1, or at least 2(p - 1) - 1
+    Workspace<double> table_;   // of roots for length_
     Workspace<double> memory_;
     Workspace<Integer> powers_; // g^q modulo p, q = 0..p-2
     double *input_ = nullptr;
     double *output_ = nullptr;
-    double *table_ = nullptr;  // of roots for length_
     double *kernel_ = nullptr; // packed transform of the kernel, divided by length_
     double *signal_ = nullptr; // the sequences that are convolved: real parts, then imaginary parts
     double *work_ = nullptr;

@@ -1,23 +1,16 @@
 // The kinds of radix that a pass can be built on: a fixed butterfly, an odd prime, a large prime. Part of kernels.inl.
 //
-// Each offers: `radix`; cover(), how the elements of a pass are dealt out to its butterflies; Points, the arrays of a
-// butterfly's inputs x and outputs y; run() for complex or real inputs; run_to_real() for Hermitian inputs, which may
-// leave the imaginary parts of y unset.
-
-#define KOR_UNROLL _Pragma("GCC unroll 8")
+// Each offers: `radix`; kRootsInTable, whether the table holds roots in place of the first twiddle factors; kInRegisters,
+// whether it takes registers of elements; Points, the arrays of a butterfly's inputs x and outputs y; run() for complex or
+// real inputs; run_to_real() for Hermitian inputs, which may leave the imaginary parts of y unset.
 
 template <int p>
 struct Fixed {
     static constexpr Index radix = p;
     static constexpr bool kRootsInTable = false;
+    static constexpr bool kInRegisters = true;
 
     explicit Fixed(const Stage &) {}
-    static One single() { return {}; }
-    template <class Body>
-    KOR_INLINE static void cover(Index count, Body body)
-    {
-        cover_by_registers(count, body);
-    }
 
     template <class X, class V>
     struct Points {
@@ -41,6 +34,7 @@ struct Fixed {
 // By the definition, from sums and differences of mirrored elements: quadratic in p.
 struct Prime {
     static constexpr bool kRootsInTable = true;
+    static constexpr bool kInRegisters = true;
 
     explicit Prime(const Stage &stage) : radix{stage.radix}
     {
@@ -52,12 +46,6 @@ struct Prime {
             sine[t] = stage.sines[(t - 1) * stage.after];
         }
     }
-    static Few single() { return {1}; }
-    template <class Body>
-    KOR_INLINE static void cover(Index count, Body body)
-    {
-        cover_by_registers(count, body);
-    }
 
     template <class X, class V>
     struct Points {
@@ -66,8 +54,8 @@ struct Prime {
         explicit Points(const Prime &) {}
     };
 
-    template <class X>
-    void run(Points<X, Lanes> &points) const
+    template <class X, class V>
+    void run(Points<X, V> &points) const
     {
         fold(points.x);
         points.y[0] = complex(total(points.x));
@@ -78,10 +66,11 @@ struct Prime {
         }
     }
 
-    void run_to_real(Points<Pair<Lanes>, Lanes> &points) const
+    template <class V>
+    void run_to_real(Points<Pair<V>, V> &points) const
     {
         // Sums of conjugates are real, differences imaginary.
-        Lanes folded[kLargestDirectPrime];
+        V folded[kLargestDirectPrime];
         fold(points.x);
         folded[0] = points.x[0].re;
         for (Index l = 1; l < radix; ++l) folded[l] = l <= radix / 2 ? points.x[l].re : points.x[l].im;
@@ -115,7 +104,7 @@ struct Prime {
     }
     // The parts of y[k] that are even and odd in k, the odd one still to be multiplied by i.
     template <class X>
-    KOR_INLINE std::pair<X, X> sums(const X *folded, Index k) const
+    KOR_INLINE Pair<X> sums(const X *folded, Index k) const
     {
         X even = folded[0] + cosine[k] * folded[1], odd = sine[k] * folded[radix - 1];
         for (Index l = 2, t = 2 * k; l <= radix / 2; ++l, t += k) {
@@ -132,14 +121,9 @@ struct Prime {
 // By convolution, one sequence at a time.
 struct LargePrime {
     static constexpr bool kRootsInTable = true;
+    static constexpr bool kInRegisters = false;
 
     explicit LargePrime(const Stage &stage) : radix{stage.radix}, prime{*stage.prime} {}
-    static One single() { return {}; }
-    template <class Body>
-    KOR_INLINE static void cover(Index count, Body body)
-    {
-        for (Index i = 0; i < count; ++i) body(One{}, i);
-    }
 
     template <class X, class V>
     struct Points {
@@ -158,3 +142,13 @@ struct LargePrime {
     const Index radix;
     PrimeTransform &prime;
 };
+
+// Calls body(access, i) so that the elements [0, count) are covered as the radix can take them.
+template <class Radix, class Body>
+KOR_INLINE void deal(Index count, Body body)
+{
+    if constexpr (Radix::kInRegisters)
+        cover(count, body);
+    else
+        for (Index i = 0; i < count; ++i) body(One{}, i);
+}

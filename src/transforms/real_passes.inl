@@ -182,40 +182,76 @@ struct HermitianDirection {
 };
 
 template <class Radix, class Direction>
-void packed_across_pass(const Stage &stage, Index batch, const double *in, double *out, double scale)
+void packed_pass(const Stage &stage, const Block &given, const double *in, double *out, double scale)
 {
     const Radix radix{stage};
-    const Index width = stage.before * batch, r = stage.after;
-    const PackedLayout layout{radix.radix * width, width, width};
-    Radix::cover(
-        width, [&](auto access, Index b) __attribute__((always_inline)) {
-            Direction::at_zero(radix, SideBySide{access}, layout, r, in + b, out + b, scale);
-        });
+    const Block block = merged(given);
+    const Index r = block.after, n = radix.radix;
+    const Index in_step = block.before * block.in_row, out_step = block.before * block.out_row;
+    const PackedLayout layout = Direction::kToLong ? PackedLayout{n * in_step, in_step, out_step}
+                                                   : PackedLayout{n * out_step, out_step, in_step};
+    const auto rows = [&](auto butterfly) __attribute__((always_inline)) {
+        for (Index b = 0; b < block.before; ++b)
+            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                butterfly(SideBySide{access}, in + b * block.in_row + c, out + b * block.out_row + c);
+            });
+    };
+    rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+        Direction::at_zero(radix, access, layout, r, from, to, scale);
+    });
     for (Index f = 1; 2 * f < r; ++f)
-        Radix::cover(
-            width, [&](auto access, Index b) __attribute__((always_inline)) {
-                Direction::between(radix, SideBySide{access}, layout, r, f, in + b, out + b, SameForAll{stage, f});
-            });
+        rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            Direction::between(radix, access, layout, r, f, from, to, SameForAll{stage, f * block.spread});
+        });
     if (r % 2 == 0)
-        Radix::cover(
-            width, [&](auto access, Index b) __attribute__((always_inline)) {
-                Direction::at_half(radix, SideBySide{access}, layout, r, in + b, out + b, SameForAll{stage, r / 2});
-            });
+        rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            Direction::at_half(radix, access, layout, r, from, to, SameForAll{stage, r / 2 * block.spread});
+        });
 }
 
-template <class Radix, class Direction>
-void packed_along_pass(const Stage &stage, const double *in, double *out)
+// Between packed sequences and blocks of complex rows: real parts run up in memory, imaginary parts down; in the upper half
+// of a long sequence its conjugates stand, the other way round.
+
+inline void load_short(Index rows, Index v, Index first, Index width, const double *packed, Sequence block)
 {
-    const Radix radix{stage};
-    const Index r = stage.after;
-    const PackedLayout layout{1, r, 1};
-    const auto single = Radix::single();
-    for (Index block = 0; block < stage.before; ++block, in += radix.radix * r, out += radix.radix * r) {
-        Direction::at_zero(radix, single, layout, r, in, out, 1.0);
-        Radix::cover((r - 1) / 2, [&](auto access, Index i) __attribute__((always_inline)) {
-            Direction::between(radix, access, layout, r, i + 1, in, out,
-                               OneForEach<decltype(access), false>{access, stage, i + 1});
+    for (Index l = 0; l < rows; ++l, packed += v, block.re += width, block.im += width)
+        cover(width, [&](auto access, Index c) __attribute__((always_inline)) {
+            access.store(block.re + c, access.load(packed + first + c));
+            access.store(block.im + c, access.load_mirrored(packed + v - first - c));
         });
-        if (r % 2 == 0) Direction::at_half(radix, single, layout, r, in, out, SameForAll{stage, r / 2});
+}
+
+inline void store_short(Index rows, Index v, Index first, Index width, Sequence block, double *packed)
+{
+    for (Index l = 0; l < rows; ++l, packed += v, block.re += width, block.im += width)
+        cover(width, [&](auto access, Index c) __attribute__((always_inline)) {
+            access.store(packed + first + c, access.load(block.re + c));
+            access.store_mirrored(packed + v - first - c, access.load(block.im + c));
+        });
+}
+
+inline void load_long(Index rows, Index v, Index first, Index width, const double *packed, Sequence block)
+{
+    for (Index k = 0; k < rows; ++k, block.re += width, block.im += width) {
+        const double *const here = packed + k * v + first, *const mirror = packed + (rows - k) * v - first;
+        cover(width, [&](auto access, Index c) __attribute__((always_inline)) {
+            const auto up = access.load(here + c), down = access.load_mirrored(mirror - c);
+            const bool lower = 2 * k < rows;
+            access.store(block.re + c, lower ? up : down);
+            access.store(block.im + c, lower ? down : -up);
+        });
+    }
+}
+
+inline void store_long(Index rows, Index v, Index first, Index width, Sequence block, double *packed)
+{
+    for (Index k = 0; k < rows; ++k, block.re += width, block.im += width) {
+        double *const here = packed + k * v + first, *const mirror = packed + (rows - k) * v - first;
+        cover(width, [&](auto access, Index c) __attribute__((always_inline)) {
+            const auto re = access.load(block.re + c), im = access.load(block.im + c);
+            const bool lower = 2 * k < rows;
+            access.store(here + c, lower ? re : -im);
+            access.store_mirrored(mirror - c, lower ? im : re);
+        });
     }
 }

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "transforms/transpose.hpp"
 
 namespace kor::transforms {
 
@@ -29,10 +28,9 @@ bool Rows::prepare(Index m)
         stage.prime = &prime_[i];
         large_prime = true;
     }
-    const bool together = plan_.short_rows() && !large_prime && m > 1;
-    side_by_side_ = together ? std::min(m, kMostSideBySide) : 1;
-    const Index transposed = together ? (kind_ == Kind::complex ? 2 : 1) * n_ : 0;
-    return work_.allocate((Count{Plan::work_size(kind_, n_)} + Count{transposed}) * Count{side_by_side_});
+    side_by_side_ = m > 1 && n_ <= kLongestSideBySide && !large_prime ? std::min(m, kMostSideBySide) : 1;
+    const Index parts = kind_ == Kind::complex ? 2 : 1;
+    return work_.allocate(std::max(plan_.work_size(), kLine + 2 * parts * n_ * side_by_side_));
 }
 
 void Rows::transform(Index m, Sequence x)
@@ -43,16 +41,18 @@ void Rows::transform(Index m, Sequence x)
     for (Index i = 0; i < m; i += side_by_side_) {
         const Sequence row{x.re + i * n_, complex ? x.im + i * n_ : nullptr};
         if (side_by_side_ == 1) {
-            plan_.transform(row, scale, work_.data());
+            plan_.transform(row, row, scale, work_.data());
             continue;
         }
         const Index count = std::min(side_by_side_, m - i), size = n_ * count;
-        const Sequence columns{work_.data(), complex ? work_.data() + size : nullptr};
-        transpose(count, n_, row.re, columns.re);
-        if (complex) transpose(count, n_, row.im, columns.im);
-        plan_.transform_side_by_side(count, columns, columns, scale, work_.data() + (complex ? 2 : 1) * size);
-        transpose(n_, count, columns.re, row.re);
-        if (complex) transpose(n_, count, columns.im, row.im);
+        double *const start = at_line(work_.data());
+        const Sequence columns{start, complex ? start + size : nullptr};
+        const Sequence spare{columns.re + (complex ? 2 : 1) * size, complex ? columns.re + 3 * size : nullptr};
+        kernels().transpose(count, n_, row.re, n_, columns.re, count);
+        if (complex) kernels().transpose(count, n_, row.im, n_, columns.im, count);
+        const Sequence done = plan_.transform_side_by_side(count, columns, spare, scale);
+        kernels().transpose(n_, count, done.re, count, row.re, n_);
+        if (complex) kernels().transpose(n_, count, done.im, count, row.im, n_);
     }
 }
 

@@ -3,125 +3,293 @@
 
 #include <algorithm>
 
-#include "transforms/transpose.hpp"
-
 namespace kor::transforms {
 
 namespace {
 
-// Rows this long, and this many of them, fill the registers of every generation of processors.
-constexpr Index kEnough = 8;
+// Rows up to this length leave room in the first cache for a block of eight of them, its roots, and the block that it is
+// transformed into; so do blocks of so many elements for columns.
+constexpr Index kShortRow = 96;
+constexpr Index kColumnElements = 768;
+
+constexpr Index kRowBlock = kLine;
 
 } // namespace
 
-Plan::Plan(Kind kind, Index n, const double *trig) : kind_{kind}, n_{n}, stages_{n, trig}, lead_{0}
+Plan::Plan(Kind kind, Index n, const double *trig)
+    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(n)}, stages_{n, trig}, columns_{n}
 {
-    Index rows = 1;
-    while (lead_ < stages_.count && rows < kEnough) rows *= stages_.stage[lead_++].radix;
-    if (rows < kEnough || n_ / rows < kEnough) lead_ = 0;
+    // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache.
+    while (lead_ < stages_.count && (rows_ < kernel_->lanes || (columns_ > kShortRow && rows_ < columns_))) {
+        rows_ *= stages_.stage[lead_].radix;
+        columns_ = stages_.stage[lead_++].after;
+    }
+    // Packed sequences take other roundings in two sweeps than in one: so that a sequence gives the same bits alone as among
+    // others, short ones go in one.
+    if (rows_ < kernel_->lanes || columns_ < kernel_->lanes || (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
+        lead_ = 0;
+        rows_ = 1;
+        columns_ = n;
+    }
+    row_block_ = std::min(rows_, kRowBlock);
+    column_block_ = std::min(columns_, std::max(kRowBlock, kColumnElements / rows_ / kRowBlock * kRowBlock));
+}
+
+// Blocks of rows or columns; passes go to and fro between the two.
+struct Plan::Blocks {
+    double *memory;
+    Index size; // of one of them
+
+    // `elements` of each part in use.
+    Sequence block(int i, Index elements, bool complex) const
+    {
+        double *const re = memory + i * size;
+        return {re, complex ? re + elements : nullptr};
+    }
+};
+
+Plan::Blocks Plan::blocks(double *memory) const
+{
+    const Index parts = kind_ == Kind::complex ? 2 : 1;
+    // Columns are complex whatever the data.
+    return {memory, whole_lines(std::max(parts * columns_ * row_block_, 2 * rows_ * column_block_))};
+}
+
+Index Plan::work_size() const
+{
+    const Index parts = kind_ == Kind::complex ? 2 : 1, whole = whole_lines(n_);
+    return kLine + (lead_ == 0 ? 2 * parts * whole : parts * whole + 2 * blocks(nullptr).size);
 }
 
 namespace {
 
-// Where the data stand while a transform moves them from one array to another. They alternate between the target and a
-// work array so that the last move ends in the target; a second work array serves where that would be a move in place.
-class Journey {
-  public:
-    Journey(Sequence in, Sequence out, double *work, Index size, int moves) : at_{in}, out_{out}, left_{moves}
-    {
-        const bool complex = in.im != nullptr;
-        first_ = {work, complex ? work + size : nullptr};
-        work += complex ? 2 * size : size;
-        second_ = {work, complex ? work + size : nullptr};
-    }
+Sequence shifted(Sequence x, Index by) { return {x.re + by, x.im != nullptr ? x.im + by : nullptr}; }
 
-    template <class Step>
-    void move(Step step)
-    {
-        const Sequence wanted = left_ % 2 == 1 ? out_ : first_;
-        const Sequence next = wanted.re == at_.re ? second_ : wanted;
-        step(at_, next);
-        at_ = next;
-        --left_;
-    }
+// Calls body(i) for ranges [i, i + step) that cover [0, count); the last may overlap the one before.
+template <class Body>
+void in_ranges(Index count, Index step, Body body)
+{
+    for (Index i = 0; i < count; i += step) body(std::min(i, count - step));
+}
 
-    // After the last move.
-    void arrive(Index size) const
-    {
-        if (at_.re == out_.re) return;
-        std::copy_n(at_.re, size, out_.re);
-        if (at_.im != nullptr) std::copy_n(at_.im, size, out_.im);
-    }
-
-  private:
-    Sequence at_, out_, first_, second_;
-    int left_;
+// An array whose rows stand `row` apart.
+struct Array {
+    Sequence at;
+    Index row;
 };
 
-void pass_across(Kind kind, const Stage &stage, Index batch, Sequence in, Sequence out, double scale)
+// Makes the passes `first`, first + step, .., last: pass(stage number, from, to). They lead from `in` to `out` by way of the
+// two blocks, or, without `out`, to one of the blocks: to the array that is returned.
+template <class Pass>
+Array run_passes(int first, int last, Array in, Array out, Array block0, Array block1, Pass pass)
 {
-    const Kernels &kernel = kernels();
-    // One pass has no twiddle factors anywhere: it scales.
-    if (stage.after > 1) scale = 1.0;
-    switch (kind) {
-    case Kind::complex:
-        return kernel.complex_across(stage, batch, in.re, in.im, out.re, out.im, scale);
-    case Kind::real:
-        return kernel.real_across(stage, batch, in.re, out.re, scale);
-    case Kind::hermitian:
-        return kernel.hermitian_across(stage, batch, in.re, out.re, scale);
+    const int step = first <= last ? 1 : -1;
+    Array from = in;
+    for (int i = first;; i += step) {
+        const bool is_last = i == last;
+        const Array to = is_last && out.at.re != nullptr ? out : from.at.re == block0.at.re ? block1 : block0;
+        pass(i, from, to);
+        from = to;
+        if (is_last) return to;
     }
 }
 
-void pass_along(Kind kind, const Stage &stage, Sequence in, Sequence out)
+constexpr Array kNone{{nullptr, nullptr}, 0};
+
+auto pass_of(const Kernels &kernel, Kind kind)
 {
-    const Kernels &kernel = kernels();
-    switch (kind) {
-    case Kind::complex:
-        return kernel.complex_along(stage, in.re, in.im, out.re, out.im);
-    case Kind::real:
-        return kernel.real_along(stage, in.re, out.re);
-    case Kind::hermitian:
-        return kernel.hermitian_along(stage, in.re, out.re);
-    }
+    return kind == Kind::complex ? kernel.complex_pass : kind == Kind::real ? kernel.real_pass : kernel.hermitian_pass;
 }
 
 } // namespace
 
 void Plan::transform(Sequence in, Sequence out, double scale, double *work) const
 {
-    if (lead_ == 0) return transform_side_by_side(1, in, out, scale, work);
-
-    Journey journey{in, out, work, n_, stages_.count + 1};
-    const auto across = [&](int i) {
-        journey.move([&](Sequence from, Sequence to) { pass_across(kind_, stages_.stage[i], 1, from, to, scale); });
-    };
-    const auto along = [&](int i) {
-        journey.move([&](Sequence from, Sequence to) { pass_along(kind_, stages_.stage[i], from, to); });
-    };
-    if (kind_ == Kind::real) {
-        for (int i = stages_.count - 1; i >= lead_; --i) across(i);
-        journey.move([&](Sequence from, Sequence to) { columns_to_rows(stages_.stage, lead_, n_, from.re, to.re); });
-        for (int i = lead_ - 1; i >= 0; --i) along(i);
-    } else {
-        for (int i = 0; i < lead_; ++i) along(i);
-        journey.move([&](Sequence from, Sequence to) {
-            rows_to_columns(stages_.stage, lead_, n_, from.re, to.re);
-            if (kind_ == Kind::complex) rows_to_columns(stages_.stage, lead_, n_, from.im, to.im);
-        });
-        for (int i = lead_; i < stages_.count; ++i) across(i);
+    if (n_ == 1) return;
+    work = at_line(work);
+    if (lead_ == 0) return transform_in_one_sweep(in, out, scale, work);
+    switch (kind_) {
+    case Kind::complex: return transform_complex(in, out, scale, work);
+    case Kind::real: return transform_real(in, out, scale, work);
+    case Kind::hermitian: return transform_hermitian(in, out, scale, work);
     }
 }
 
-void Plan::transform_side_by_side(Index batch, Sequence in, Sequence out, double scale, double *work) const
+Sequence Plan::transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const
 {
-    const Index size = n_ * batch;
-    Journey journey{in, out, work, size, stages_.count};
-    for (int i = 0; i < stages_.count; ++i) {
-        const Stage &stage = stages_.stage[kind_ == Kind::real ? stages_.count - 1 - i : i];
-        journey.move([&](Sequence from, Sequence to) { pass_across(kind_, stage, batch, from, to, scale); });
+    const Kernels &kernel = batch >= kernels().lanes ? kernels() : *kernel_;
+    const auto pass = pass_of(kernel, kind_);
+    const int end = stages_.count - 1;
+    const Array one{x, batch}, other{spare, batch};
+    const bool reversed = kind_ == Kind::real;
+    return run_passes(reversed ? end : 0, reversed ? 0 : end, one, kNone, one, other, [&](int i, Array from, Array to) {
+               const Stage &stage = stages_.stage[i];
+               pass(stage, {stage.before, stage.after, batch, batch, batch}, from.at, to.at, stage.after == 1 ? scale : 1.0);
+           }).at;
+}
+
+void Plan::transform_in_one_sweep(Sequence in, Sequence out, double scale, double *work) const
+{
+    // A single pass may not go from an array to itself: then it ends in the work array.
+    const Index part = whole_lines(n_);
+    const Sequence one{work, out.im != nullptr ? work + part : nullptr};
+    const Sequence other = shifted(one, out.im != nullptr ? 2 * part : part);
+    const bool direct = stages_.count > 1 || in.re != out.re;
+    const auto pass = pass_of(*kernel_, kind_);
+    const int end = stages_.count - 1;
+    const bool reversed = kind_ == Kind::real;
+    const Array last = run_passes(reversed ? end : 0, reversed ? 0 : end, {in, 1}, direct ? Array{out, 1} : kNone, {one, 1},
+                                  {other, 1}, [&](int i, Array from, Array to) {
+                                      const Stage &stage = stages_.stage[i];
+                                      pass(stage, {stage.before, stage.after, 1, 1, 1}, from.at, to.at,
+                                           stage.after == 1 ? scale : 1.0);
+                                  });
+    if (direct) return;
+    std::copy_n(last.at.re, n_, out.re);
+    if (out.im != nullptr) std::copy_n(last.at.im, n_, out.im);
+}
+
+void Plan::transform_complex(Sequence in, Sequence out, double scale, double *work) const
+{
+    const Index part = whole_lines(n_);
+    const Sequence middle{work, work + part};
+    const Blocks both = blocks(work + 2 * part);
+
+    in_ranges(columns_, column_block_, [&](Index first) {
+        const Index width = column_block_, size = rows_ * width;
+        run_passes(0, lead_ - 1, {shifted(in, first), columns_}, {shifted(middle, first), columns_},
+                   {both.block(0, size, true), width}, {both.block(1, size, true), width},
+                   [&](int i, Array from, Array to) {
+                       const Stage &stage = stages_.stage[i];
+                       kernel_->columns_pass(stage, {stage.before, stage.after / columns_, width, from.row, to.row},
+                                             columns_, first, from.at, to.at);
+                   });
+    });
+    in_ranges(rows_, row_block_, [&](Index first) {
+        const Index width = row_block_, size = columns_ * width;
+        const Array block{both.block(0, size, true), width};
+        kernel_->transpose(width, columns_, middle.re + first * columns_, columns_, block.at.re, width);
+        kernel_->transpose(width, columns_, middle.im + first * columns_, columns_, block.at.im, width);
+        run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block,
+                   {both.block(1, size, true), width}, [&](int i, Array from, Array to) {
+                       const Stage &stage = stages_.stage[i];
+                       kernel_->complex_pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at,
+                                             to.at, stage.after == 1 ? scale : 1.0);
+                   });
+    });
+}
+
+void Plan::transform_real(Sequence in, Sequence out, double scale, double *work) const
+{
+    double *const middle = work;
+    const Blocks both = blocks(work + whole_lines(n_));
+
+    in_ranges(rows_, row_block_, [&](Index first) {
+        const Index width = row_block_;
+        const Array done = run_passes(stages_.count - 1, lead_, {shifted(in, first), rows_}, kNone,
+                                      {both.block(0, 0, false), width}, {both.block(1, 0, false), width},
+                                      [&](int i, Array from, Array to) {
+                                          const Stage &stage = stages_.stage[i];
+                                          kernel_->real_pass(
+                                              stage, {stage.before / rows_, stage.after, width, from.row, to.row},
+                                              from.at, to.at, stage.after == 1 ? scale : 1.0);
+                                      });
+        kernel_->transpose(columns_, width, done.at.re, width, middle + first * columns_, columns_);
+    });
+
+    // Columns 0 and Q/2 are real, or real but for their twiddle factors; the others come in conjugate pairs.
+    run_passes(lead_ - 1, 0, {{middle, nullptr}, columns_}, {out, columns_}, {both.block(0, 0, false), 1},
+               {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
+                   const Stage &stage = stages_.stage[i];
+                   kernel_->real_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at,
+                                      to.at, 1.0);
+               });
+    const auto columns_back = [&](Index first, Index width) {
+        const Index size = rows_ * width;
+        const Array block{both.block(0, size, true), width};
+        return run_passes(lead_ - 1, 0, block, kNone, block, {both.block(1, size, true), width},
+                          [&](int i, Array from, Array to) {
+                              const Stage &stage = stages_.stage[i];
+                              kernel_->columns_pass_back(stage,
+                                                         {stage.before, stage.after / columns_, width, from.row, to.row},
+                                                         columns_, first, from.at, to.at);
+                          })
+            .at;
+    };
+    if (columns_ % 2 == 0) {
+        const Index half = columns_ / 2;
+        const Sequence column = both.block(0, rows_, true);
+        for (Index s = 0; s < rows_; ++s) {
+            column.re[s] = middle[s * columns_ + half];
+            column.im[s] = 0.0;
+        }
+        const Sequence done = columns_back(half, 1);
+        for (Index k = 0; 2 * k < rows_; ++k) {
+            out.re[k * columns_ + half] = done.re[k];
+            if (2 * k + 1 < rows_) out.re[(rows_ - k) * columns_ - half] = done.im[k];
+        }
     }
-    journey.arrive(size);
+    const Index pairs = (columns_ - 1) / 2, width = std::min(pairs, column_block_);
+    in_ranges(pairs, width, [&](Index i) {
+        const Index first = i + 1;
+        kernel_->load_short(rows_, columns_, first, width, middle, both.block(0, rows_ * width, true));
+        kernel_->store_long(rows_, columns_, first, width, columns_back(first, width), out.re);
+    });
+}
+
+void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *work) const
+{
+    double *const middle = work;
+    const Blocks both = blocks(work + whole_lines(n_));
+
+    run_passes(0, lead_ - 1, {in, columns_}, {{middle, nullptr}, columns_}, {both.block(0, 0, false), 1},
+               {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
+                   const Stage &stage = stages_.stage[i];
+                   kernel_->hermitian_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_},
+                                           from.at, to.at, 1.0);
+               });
+    const auto columns_forward = [&](Index first, Index width) {
+        const Index size = rows_ * width;
+        const Array block{both.block(0, size, true), width};
+        return run_passes(0, lead_ - 1, block, kNone, block, {both.block(1, size, true), width},
+                          [&](int i, Array from, Array to) {
+                              const Stage &stage = stages_.stage[i];
+                              kernel_->columns_pass(stage,
+                                                    {stage.before, stage.after / columns_, width, from.row, to.row},
+                                                    columns_, first, from.at, to.at);
+                          })
+            .at;
+    };
+    if (columns_ % 2 == 0) {
+        const Index half = columns_ / 2;
+        const Sequence column = both.block(0, rows_, true);
+        for (Index k = 0; 2 * k < rows_; ++k) {
+            const Index mirror = rows_ - 1 - k;
+            column.re[k] = column.re[mirror] = in.re[k * columns_ + half];
+            column.im[k] = k == mirror ? 0.0 : in.re[mirror * columns_ + half];
+            column.im[mirror] = -column.im[k];
+        }
+        const Sequence done = columns_forward(half, 1);
+        for (Index s = 0; s < rows_; ++s) middle[s * columns_ + half] = done.re[s];
+    }
+    const Index pairs = (columns_ - 1) / 2, width = std::min(pairs, column_block_);
+    in_ranges(pairs, width, [&](Index i) {
+        const Index first = i + 1;
+        kernel_->load_long(rows_, columns_, first, width, in.re, both.block(0, rows_ * width, true));
+        kernel_->store_short(rows_, columns_, first, width, columns_forward(first, width), middle);
+    });
+
+    in_ranges(rows_, row_block_, [&](Index first) {
+        const Index width = row_block_;
+        const Array block{both.block(0, 0, false), width};
+        kernel_->transpose(width, columns_, middle + first * columns_, columns_, block.at.re, width);
+        run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block, {both.block(1, 0, false), width},
+                   [&](int i, Array from, Array to) {
+                       const Stage &stage = stages_.stage[i];
+                       kernel_->hermitian_pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row},
+                                               from.at, to.at, stage.after == 1 ? scale : 1.0);
+                   });
+    });
 }
 
 } // namespace kor::transforms

@@ -1,4 +1,4 @@
-// Transforms of one sequence after another, or of a few side by side, out of place with a work array.
+// Transforms of one sequence, or of several side by side, out of place with a work array.
 #pragma once
 
 #include "transforms/kernels.hpp"
@@ -7,37 +7,47 @@ namespace kor::transforms {
 
 enum class Kind { complex, real, hermitian };
 
-// A complex sequence or a packed one: the imaginary parts are null for the latter.
-struct Sequence {
-    double *re;
-    double *im;
-};
+// Sequences up to this length are better transformed side by side, if there are several.
+inline constexpr Index kLongestSideBySide = 96;
 
-// How a transform of length n proceeds: the leading stages act along contiguous rows, the others across them, and between
-// the two the array is transposed. `lead` is 0 for lengths that are too short, or too unevenly factored, for that.
+// How a transform of length n = R Q proceeds. The sequence is an array of R rows and Q columns. The leading stages, with
+// the product R of radices, act on its columns, the others on its rows; real data take the two in the opposite order. Each
+// of the two sweeps works on a few columns or rows at a time, in a block that stays in the cache, and goes over the whole of
+// the data once.
 class Plan {
   public:
     Plan(Kind kind, Index n, const double *trig);
 
     Index length() const { return n_; }
     Stages &stages() { return stages_; }
-    bool short_rows() const { return lead_ == 0; }
 
     // Doubles of work space that transform() needs.
-    static Index work_size(Kind kind, Index n) { return kind == Kind::complex ? 4 * n : 2 * n; }
+    Index work_size() const;
 
-    // From `in` to `out`, multiplied by `scale`. `in` may be `out`, or the beginning of the work space.
+    // From `in` to `out`, which may be the same, multiplied by `scale`.
     void transform(Sequence in, Sequence out, double scale, double *work) const;
-    void transform(Sequence x, double scale, double *work) const { transform(x, x, scale, work); }
 
-    // `batch` sequences side by side, element j of sequence i at j * batch + i. `in` is used up.
-    void transform_side_by_side(Index batch, Sequence in, Sequence out, double scale, double *work) const;
+    // `batch` sequences side by side, element j of sequence i at j * batch + i, from x to x or to `spare`: to the one that
+    // is returned.
+    Sequence transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const;
 
   private:
+    struct Blocks;
+    Blocks blocks(double *memory) const;
+    void transform_complex(Sequence in, Sequence out, double scale, double *work) const;
+    void transform_real(Sequence in, Sequence out, double scale, double *work) const;
+    void transform_hermitian(Sequence in, Sequence out, double scale, double *work) const;
+    void transform_in_one_sweep(Sequence in, Sequence out, double scale, double *work) const;
+
     Kind kind_;
     Index n_;
+    const Kernels *kernel_;
     Stages stages_;
-    int lead_;
+    int lead_ = 0;    // stages that act on columns; 0 for lengths too short, or too unevenly factored, for two sweeps
+    Index rows_ = 1;  // R
+    Index columns_;   // Q
+    Index row_block_; // rows that are worked on together
+    Index column_block_;
 };
 
 } // namespace kor::transforms

@@ -29,9 +29,9 @@ struct OctantUnit {
     static double leading_bits(long double x)
     {
         const double d = static_cast<double>(x);
-        std::uint64_t bits = std::bit_cast<std::uint64_t>(d);
+        std::uint64_t bits = __builtin_bit_cast(std::uint64_t, d);
         bits &= ~((std::uint64_t{1} << 33) - 1); // 53 - 33 = 20 bits stay
-        return std::bit_cast<double>(bits);
+        return __builtin_bit_cast(double, bits);
     }
 };
 
@@ -89,8 +89,10 @@ inline void unit_roots(Index n, Index first, Index step, Index count, double *co
             store_lanes(cosines + j, w.re);
             store_lanes(sines + j, w.im);
         } else {
-            Few{count - j}.store(cosines + j, w.re);
-            Few{count - j}.store(sines + j, w.im);
+            for (Index lane = 0; j + lane < count; ++lane) {
+                cosines[j + lane] = w.re[lane];
+                sines[j + lane] = w.im[lane];
+            }
         }
         t = t + stride;
         t = choose(t >= length, t - length, t);
