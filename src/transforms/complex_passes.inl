@@ -54,31 +54,34 @@ struct OneForEach { // consecutive factors for consecutive lanes, from place j o
     }
 };
 
-// Rows of complex numbers, `step` apart.
-struct ComplexIn {
-    const double *re, *im;
+// Where the points of a butterfly come from and go to: rows of complex numbers, `step` apart.
+struct Rows {
+    Sequence at;
     Index step;
-};
-struct ComplexOut {
-    double *re, *im;
-    Index step;
+
+    template <class Access>
+    KOR_INLINE auto load(Access access, Index l) const
+    {
+        return Pair<typename Access::Value>{access.load(at.re + l * step), access.load(at.im + l * step)};
+    }
+    template <class Access, class V>
+    KOR_INLINE void store(Access access, Index k, Pair<V> y) const
+    {
+        access.store(at.re + k * step, y.re);
+        access.store(at.im + k * step, y.im);
+    }
+    KOR_INLINE Rows shifted(Index by) const { return {{at.re + by, at.im + by}, step}; }
 };
 
-template <class Radix, class Access, class Before, class After>
-KOR_INLINE void complex_butterfly(const Radix &radix, Access access, ComplexIn in, ComplexOut out, Before before,
+template <class Radix, class Access, class Source, class Target, class Before, class After>
+KOR_INLINE void complex_butterfly(const Radix &radix, Access access, Source source, Target target, Before before,
                                   After after)
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-        points.x[l] = before(l, Pair<V>{access.load(in.re + l * in.step), access.load(in.im + l * in.step)});
+    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] = before(l, source.load(access, l));
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
-    {
-        const Pair<V> y = after(k, points.y[k]);
-        access.store(out.re + k * out.step, y.re);
-        access.store(out.im + k * out.step, y.im);
-    }
+    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) target.store(access, k, after(k, points.y[k]));
 }
 
 // Rows that follow each other without a gap are one long row.
@@ -102,10 +105,9 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
             const Index from = (a * block.before + b) * block.in_row;
             const Index to = (a * radix.radix * block.before + b) * block.out_row;
             deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                complex_butterfly(
-                    radix, access,
-                    {in.re + from + c, in.im + from + c, block.after * block.before * block.in_row},
-                    {out.re + to + c, out.im + to + c, block.before * block.out_row}, NoTwiddle{}, twiddle);
+                const Rows source{{in.re + from + c, in.im + from + c}, block.after * block.before * block.in_row};
+                const Rows target{{out.re + to + c, out.im + to + c}, block.before * block.out_row};
+                complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
             });
         }
     };
@@ -113,23 +115,117 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
     for (Index a = 1; a < block.after; ++a) row(a, SameForAll{stage, a * block.spread});
 }
 
-template <class Radix, bool kBack>
-void columns_pass(const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out)
+// What a pass over columns reads or writes, besides rows of complex numbers: columns first + c, first >= 1, of packed
+// sequences of length v.
+struct ShortRows { // of one sequence in each row
+    double *packed; // column 0 of the first row
+    Index v, step;  // from row to row
+    Index first;
+
+    template <class Access>
+    KOR_INLINE auto load(Access access, Index l) const
+    {
+        return Pair<typename Access::Value>{access.load(packed + l * step + first),
+                                            access.load_mirrored(packed + l * step + v - first)};
+    }
+    template <class Access, class V>
+    KOR_INLINE void store(Access access, Index k, Pair<V> y) const
+    {
+        access.store(packed + k * step + first, y.re);
+        access.store_mirrored(packed + k * step + v - first, y.im);
+    }
+};
+struct LongRows { // of one sequence of length rows * v, whose place first + c + v k is column first + c of row k
+    double *packed;
+    Index v, rows;
+    Index row, row_step; // row + l row_step is number l of the rows at hand
+    Index first;
+
+    template <class Access>
+    KOR_INLINE auto load(Access access, Index l) const
+    {
+        const Index k = row + l * row_step;
+        const auto here = access.load(packed + k * v + first), mirror = access.load_mirrored(packed + (rows - k) * v - first);
+        return 2 * k < rows ? Pair<typename Access::Value>{here, mirror} : Pair<typename Access::Value>{mirror, -here};
+    }
+    template <class Access, class V>
+    KOR_INLINE void store(Access access, Index l, Pair<V> y) const
+    {
+        const Index k = row + l * row_step;
+        double *const here = packed + k * v + first, *const mirror = packed + (rows - k) * v - first;
+        if (2 * k < rows) {
+            access.store(here, y.re);
+            access.store_mirrored(mirror, y.im);
+        } else {
+            access.store(here, -y.im);
+            access.store_mirrored(mirror, y.re);
+        }
+    }
+};
+
+// The rows l = 0, 1, .. of one side of a pass that begin with row `start` and are `step` rows apart, from column c on.
+template <ColumnsOf kind>
+KOR_INLINE auto rows_of(const Columns &columns, Index row, Sequence data, Index start, Index step, Index c)
+{
+    if constexpr (kind == ColumnsOf::complex_block)
+        return Rows{{data.re + start * row + c, data.im + start * row + c}, step * row};
+    else if constexpr (kind == ColumnsOf::short_sequences)
+        return ShortRows{data.re + start * row, columns.count, step * row, columns.first + c};
+    else
+        return LongRows{data.re, columns.count, columns.rows, start, step, columns.first + c};
+}
+
+// kBack: twiddle factors before the butterfly.
+template <class Radix, bool kBack, ColumnsOf from, ColumnsOf to>
+void columns_pass(const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out)
 {
     const Radix radix{stage};
-    const Index in_step = block.before * block.in_row, out_step = block.before * block.out_row;
     for (Index a = 0; a < block.after; ++a)
         for (Index b = 0; b < block.before; ++b) {
-            const Index from = kBack ? a * radix.radix * in_step + b * block.in_row : a * in_step + b * block.in_row;
-            const Index to = kBack ? a * out_step + b * block.out_row : a * radix.radix * out_step + b * block.out_row;
+            const Index start = a * block.before + b, spread = block.after * block.before;
+            const Index far_start = a * radix.radix * block.before + b;
             deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                const OneForEach<decltype(access), Radix::kRootsInTable> twiddle{access, stage, a * columns + first + c};
-                const ComplexIn source{in.re + from + c, in.im + from + c, kBack ? in_step : block.after * in_step};
-                const ComplexOut target{out.re + to + c, out.im + to + c, kBack ? block.after * out_step : out_step};
+                const auto source = kBack ? rows_of<from>(columns, block.in_row, in, far_start, block.before, c)
+                                          : rows_of<from>(columns, block.in_row, in, start, spread, c);
+                const auto target = kBack ? rows_of<to>(columns, block.out_row, out, start, spread, c)
+                                          : rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
+                const OneForEach<decltype(access), Radix::kRootsInTable> twiddle{
+                    access, stage, a * columns.count + columns.first + c};
                 if constexpr (kBack)
                     complex_butterfly(radix, access, source, target, twiddle, NoTwiddle{});
                 else
                     complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
             });
         }
+}
+
+// Forward passes go from long sequences to short ones, passes back from short to long.
+template <class Radix>
+void columns_pass_forward(const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out)
+{
+    using enum ColumnsOf;
+    const bool plain_in = columns.in == complex_block, plain_out = columns.out == complex_block;
+    if (plain_in && plain_out)
+        columns_pass<Radix, false, complex_block, complex_block>(stage, block, columns, in, out);
+    else if (plain_in)
+        columns_pass<Radix, false, complex_block, short_sequences>(stage, block, columns, in, out);
+    else if (plain_out)
+        columns_pass<Radix, false, long_sequence, complex_block>(stage, block, columns, in, out);
+    else
+        columns_pass<Radix, false, long_sequence, short_sequences>(stage, block, columns, in, out);
+}
+
+template <class Radix>
+void columns_pass_back(const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out)
+{
+    using enum ColumnsOf;
+    const bool plain_in = columns.in == complex_block, plain_out = columns.out == complex_block;
+    if (plain_in && plain_out)
+        columns_pass<Radix, true, complex_block, complex_block>(stage, block, columns, in, out);
+    else if (plain_in)
+        columns_pass<Radix, true, complex_block, long_sequence>(stage, block, columns, in, out);
+    else if (plain_out)
+        columns_pass<Radix, true, short_sequences, complex_block>(stage, block, columns, in, out);
+    else
+        columns_pass<Radix, true, short_sequences, long_sequence>(stage, block, columns, in, out);
 }

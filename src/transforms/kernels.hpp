@@ -25,6 +25,17 @@ struct Block {
     Index spread = 1; // the twiddle factors of row a are those of the stage's place a * spread
 };
 
+// Columns first..first + width - 1 of `count`. What a pass reads or writes is a block of complex rows; or packed Hermitian
+// sequences of length `count`, one in each row; or one packed sequence of length rows * count, whose place c + k * count is
+// column c of row k. For packed sequences first >= 1 and 2 (first + width) <= count + 1.
+enum class ColumnsOf { complex_block, short_sequences, long_sequence };
+struct Columns {
+    Index count;
+    Index first;
+    ColumnsOf in = ColumnsOf::complex_block, out = ColumnsOf::complex_block;
+    Index rows = 0; // of a long sequence
+};
+
 // Registers go to and from memory fastest when they do not straddle two lines of the cache: work arrays begin at a line.
 inline constexpr Index kLine = 8; // doubles
 inline double *at_line(double *p)
@@ -41,6 +52,9 @@ struct Kernels {
     // 0 <= first, step < n.
     void (*unit_roots)(Index n, Index first, Index step, Index count, double *cosines, double *sines);
 
+    // The table of all stages of a transform of length n, without its stamps.
+    void (*root_table)(const Stages &, Index n, double *trig);
+
     // out(j, i) = in(i, j) for `rows` by `columns` elements; rows stand `in_row` apart in the one, `out_row` in the other.
     // Here and below, arrays do not overlap.
     void (*transpose)(Index rows, Index columns, const double *in, Index in_row, double *out, Index out_row);
@@ -56,19 +70,12 @@ struct Kernels {
     void (*real_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
     void (*hermitian_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
 
-    // One stage with factors of its own for each element c of row a: those of the stage's place a * columns + first + c.
-    // They come after the butterfly, or before it, where the rows are
+    // One stage with twiddle factors of its own for each element c of row a: those of the stage's place
+    // a * columns.count + columns.first + c. They come after the butterfly, or before it, where the rows are
     //   row (a * radix + l) * before + b -> row (k * after + a) * before + b.
-    void (*columns_pass)(const Stage &, const Block &, Index columns, Index first, Sequence in, Sequence out);
-    void (*columns_pass_back)(const Stage &, const Block &, Index columns, Index first, Sequence in, Sequence out);
-
-    // Columns first..first + width - 1 of `rows` packed Hermitian sequences of length v, to and from a block of complex
-    // rows; and of one packed sequence of length rows * v, whose place f + v k is column f of row k. 1 <= first,
-    // 2 (first + width) <= v + 1.
-    void (*load_short)(Index rows, Index v, Index first, Index width, const double *packed, Sequence block);
-    void (*store_short)(Index rows, Index v, Index first, Index width, Sequence block, double *packed);
-    void (*load_long)(Index rows, Index v, Index first, Index width, const double *packed, Sequence block);
-    void (*store_long)(Index rows, Index v, Index first, Index width, Sequence block, double *packed);
+    // The forward pass may read from a long sequence and write to short ones, the pass back the other way.
+    void (*columns_pass)(const Stage &, const Block &, const Columns &, Sequence in, Sequence out);
+    void (*columns_pass_back)(const Stage &, const Block &, const Columns &, Sequence in, Sequence out);
 };
 
 // The fastest that this processor can run.

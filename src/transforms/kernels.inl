@@ -36,6 +36,7 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 inline constexpr Kernels kKernels{
     .lanes = kLanes,
     .unit_roots = unit_roots,
+    .root_table = root_table,
     .transpose = transpose,
     .complex_pass =
         [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
@@ -56,19 +57,15 @@ inline constexpr Kernels kKernels{
             });
         },
     .columns_pass =
-        [](const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out) {
-            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                columns_pass<Radix, false>(stage, block, columns, first, in, out);
+        [](const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out) {
+            with_radix(stage, [=, &stage, &block, &columns]<class Radix>(std::type_identity<Radix>) {
+                columns_pass_forward<Radix>(stage, block, columns, in, out);
             });
         },
     .columns_pass_back =
-        [](const Stage &stage, const Block &block, Index columns, Index first, Sequence in, Sequence out) {
-            with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                columns_pass<Radix, true>(stage, block, columns, first, in, out);
+        [](const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out) {
+            with_radix(stage, [=, &stage, &block, &columns]<class Radix>(std::type_identity<Radix>) {
+                columns_pass_back<Radix>(stage, block, columns, in, out);
             });
         },
-    .load_short = load_short,
-    .store_short = store_short,
-    .load_long = load_long,
-    .store_long = store_long,
 };

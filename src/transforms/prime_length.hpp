@@ -6,6 +6,9 @@
 
 namespace kor::transforms {
 
+// Of primes above kLargestDirectPrime no 32-bit length has more.
+inline constexpr int kMaxLargePrimes = 5;
+
 // The discrete transform of p points, from input() to output(), where complex numbers stand as pairs re, im.
 //
 // Rader (1968): with a generator g of the residues modulo p, x_{g^q} and X_{g^-q} are related by a cyclic convolution of

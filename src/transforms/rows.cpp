@@ -20,15 +20,14 @@ constexpr Index kMostSideBySide = 16;
 bool Rows::prepare(Index m)
 {
     if (n_ == 1) return true;
-    bool large_prime = false;
+    int large_primes = 0;
     for (int i = 0; i < plan_.stages().count; ++i) {
         Stage &stage = plan_.stages().stage[i];
         if (stage.radix <= kLargestDirectPrime) continue;
-        if (!prime_[i].prepare(stage.radix, stage.cosines, stage.sines, stage.after)) return false;
-        stage.prime = &prime_[i];
-        large_prime = true;
+        stage.prime = &prime_[large_primes++];
+        if (!stage.prime->prepare(stage.radix, stage.cosines, stage.sines, stage.after)) return false;
     }
-    side_by_side_ = m > 1 && n_ <= kLongestSideBySide && !large_prime ? std::min(m, kMostSideBySide) : 1;
+    side_by_side_ = m > 1 && n_ <= kLongestSideBySide && large_primes == 0 ? std::min(m, kMostSideBySide) : 1;
     const Index parts = kind_ == Kind::complex ? 2 : 1;
     return work_.allocate(std::max(plan_.work_size(), kLine + 2 * parts * n_ * side_by_side_));
 }

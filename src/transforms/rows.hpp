@@ -24,7 +24,7 @@ class Rows {
     Index n_;
     Plan plan_;
     Index side_by_side_ = 1; // rows that are transposed and transformed together
-    PrimeTransform prime_[kMaxFactors];
+    PrimeTransform prime_[kMaxLargePrimes];
     Workspace<double> work_;
 };
 

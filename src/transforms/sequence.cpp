@@ -12,27 +12,36 @@ namespace {
 constexpr Index kShortRow = 96;
 constexpr Index kColumnElements = 768;
 
+// Columns of long sequences: a page of memory should not be visited for a line or two.
+constexpr Index kLong = 16384;
+constexpr Index kLongColumnElements = 8192;
+
 constexpr Index kRowBlock = kLine;
 
 } // namespace
 
 Plan::Plan(Kind kind, Index n, const double *trig)
-    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(n)}, stages_{n, trig}, columns_{n}
+    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(kind == Kind::complex ? n : n / 4)}, stages_{n, trig}, columns_{n}
 {
-    // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache.
-    while (lead_ < stages_.count && (rows_ < kernel_->lanes || (columns_ > kShortRow && rows_ < columns_))) {
+    // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache. Columns of packed
+    // sequences come in pairs.
+    const auto better_with_more_rows = [&] {
+        const Index radix = stages_.stage[lead_].radix;
+        return rows_ < kernel_->lanes || (columns_ > kShortRow && rows_ * radix <= columns_ / radix);
+    };
+    while (lead_ < stages_.count && better_with_more_rows()) {
         rows_ *= stages_.stage[lead_].radix;
         columns_ = stages_.stage[lead_++].after;
     }
     // Packed sequences take other roundings in two sweeps than in one: so that a sequence gives the same bits alone as among
     // others, short ones go in one.
-    if (rows_ < kernel_->lanes || columns_ < kernel_->lanes || (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
+    if (rows_ < kernel_->lanes || columns_ < (kind_ == Kind::complex ? 1 : 2) * kernel_->lanes || (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
         lead_ = 0;
         rows_ = 1;
         columns_ = n;
     }
     row_block_ = std::min(rows_, kRowBlock);
-    column_block_ = std::min(columns_, std::max(kRowBlock, kColumnElements / rows_ / kRowBlock * kRowBlock));
+    column_block_ = std::min(columns_, std::max(kRowBlock, (n < kLong ? kColumnElements : kLongColumnElements) / rows_ / kRowBlock * kRowBlock));
 }
 
 // Blocks of rows or columns; passes go to and fro between the two.
@@ -162,7 +171,7 @@ void Plan::transform_complex(Sequence in, Sequence out, double scale, double *wo
                    [&](int i, Array from, Array to) {
                        const Stage &stage = stages_.stage[i];
                        kernel_->columns_pass(stage, {stage.before, stage.after / columns_, width, from.row, to.row},
-                                             columns_, first, from.at, to.at);
+                                             {columns_, first}, from.at, to.at);
                    });
     });
     in_ranges(rows_, row_block_, [&](Index first) {
@@ -204,15 +213,18 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
                    kernel_->real_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at,
                                       to.at, 1.0);
                });
-    const auto columns_back = [&](Index first, Index width) {
+    const auto columns_back = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
-        const Array block{both.block(0, size, true), width};
-        return run_passes(lead_ - 1, 0, block, kNone, block, {both.block(1, size, true), width},
-                          [&](int i, Array from, Array to) {
+        const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
+        return run_passes(lead_ - 1, 0, packed ? Array{{middle, nullptr}, columns_} : block0, packed ? Array{out, 0} : kNone,
+                          block0, block1, [&](int i, Array from, Array to) {
                               const Stage &stage = stages_.stage[i];
-                              kernel_->columns_pass_back(stage,
-                                                         {stage.before, stage.after / columns_, width, from.row, to.row},
-                                                         columns_, first, from.at, to.at);
+                              const bool is_first = packed && i == lead_ - 1, is_last = packed && i == 0;
+                              kernel_->columns_pass_back(
+                                  stage, {stage.before, stage.after / columns_, width, from.row, to.row},
+                                  {columns_, first, is_first ? ColumnsOf::short_sequences : ColumnsOf::complex_block,
+                                   is_last ? ColumnsOf::long_sequence : ColumnsOf::complex_block, rows_},
+                                  from.at, to.at);
                           })
             .at;
     };
@@ -223,18 +235,14 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
             column.re[s] = middle[s * columns_ + half];
             column.im[s] = 0.0;
         }
-        const Sequence done = columns_back(half, 1);
+        const Sequence done = columns_back(half, 1, false);
         for (Index k = 0; 2 * k < rows_; ++k) {
             out.re[k * columns_ + half] = done.re[k];
             if (2 * k + 1 < rows_) out.re[(rows_ - k) * columns_ - half] = done.im[k];
         }
     }
     const Index pairs = (columns_ - 1) / 2, width = std::min(pairs, column_block_);
-    in_ranges(pairs, width, [&](Index i) {
-        const Index first = i + 1;
-        kernel_->load_short(rows_, columns_, first, width, middle, both.block(0, rows_ * width, true));
-        kernel_->store_long(rows_, columns_, first, width, columns_back(first, width), out.re);
-    });
+    in_ranges(pairs, width, [&](Index i) { columns_back(i + 1, width, true); });
 }
 
 void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *work) const
@@ -248,15 +256,18 @@ void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *
                    kernel_->hermitian_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_},
                                            from.at, to.at, 1.0);
                });
-    const auto columns_forward = [&](Index first, Index width) {
+    const auto columns_forward = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
-        const Array block{both.block(0, size, true), width};
-        return run_passes(0, lead_ - 1, block, kNone, block, {both.block(1, size, true), width},
-                          [&](int i, Array from, Array to) {
+        const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
+        return run_passes(0, lead_ - 1, packed ? Array{in, 0} : block0, packed ? Array{{middle, nullptr}, columns_} : kNone,
+                          block0, block1, [&](int i, Array from, Array to) {
                               const Stage &stage = stages_.stage[i];
-                              kernel_->columns_pass(stage,
-                                                    {stage.before, stage.after / columns_, width, from.row, to.row},
-                                                    columns_, first, from.at, to.at);
+                              const bool is_first = packed && i == 0, is_last = packed && i == lead_ - 1;
+                              kernel_->columns_pass(
+                                  stage, {stage.before, stage.after / columns_, width, from.row, to.row},
+                                  {columns_, first, is_first ? ColumnsOf::long_sequence : ColumnsOf::complex_block,
+                                   is_last ? ColumnsOf::short_sequences : ColumnsOf::complex_block, rows_},
+                                  from.at, to.at);
                           })
             .at;
     };
@@ -269,15 +280,11 @@ void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *
             column.im[k] = k == mirror ? 0.0 : in.re[mirror * columns_ + half];
             column.im[mirror] = -column.im[k];
         }
-        const Sequence done = columns_forward(half, 1);
+        const Sequence done = columns_forward(half, 1, false);
         for (Index s = 0; s < rows_; ++s) middle[s * columns_ + half] = done.re[s];
     }
     const Index pairs = (columns_ - 1) / 2, width = std::min(pairs, column_block_);
-    in_ranges(pairs, width, [&](Index i) {
-        const Index first = i + 1;
-        kernel_->load_long(rows_, columns_, first, width, in.re, both.block(0, rows_ * width, true));
-        kernel_->store_short(rows_, columns_, first, width, columns_forward(first, width), middle);
-    });
+    in_ranges(pairs, width, [&](Index i) { columns_forward(i + 1, width, true); });
 
     in_ranges(rows_, row_block_, [&](Index first) {
         const Index width = row_block_;

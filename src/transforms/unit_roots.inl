@@ -71,30 +71,72 @@ KOR_INLINE Pair<Lanes> unit_root(Lanes eighths, double n, const OctantUnit &unit
     return {choose(left_half, -re, re), choose(lower_half, im, 0.0 - im)};
 }
 
-inline void unit_roots(Index n, Index first, Index step, Index count, double *cosines, double *sines)
+// Writes the roots of the places t, of which `count` are wanted.
+KOR_INLINE void store_roots(Lanes t, double n, const OctantUnit &unit, Index count, double *cosines, double *sines)
 {
-    const OctantUnit unit{n};
+    const Pair<Lanes> w = unit_root(8.0 * t, n, unit);
+    if (count >= kLanes) {
+        store_lanes(cosines, w.re);
+        store_lanes(sines, w.im);
+        return;
+    }
+    for (Index lane = 0; lane < count; ++lane) {
+        cosines[lane] = w.re[lane];
+        sines[lane] = w.im[lane];
+    }
+}
+
+inline void roots_of_row(Index n, const OctantUnit &unit, Index first, Index step, Index count, double *cosines,
+                         double *sines)
+{
     const double length = static_cast<double>(n);
     // t for the lanes, then on by kLanes * step; sums stay below 2n, so that doubles hold them exactly.
     Lanes t{};
     std::int64_t place = first;
     for (Index lane = 0; lane < kLanes; ++lane) {
         t[lane] = static_cast<double>(place);
-        place = (place + step) % n;
+        if ((place += step) >= n) place -= n;
     }
     const double stride = static_cast<double>(static_cast<std::int64_t>(step) * kLanes % n);
     for (Index j = 0; j < count; j += kLanes) {
-        const Pair<Lanes> w = unit_root(8.0 * t, length, unit);
-        if (j + kLanes <= count) {
-            store_lanes(cosines + j, w.re);
-            store_lanes(sines + j, w.im);
-        } else {
-            for (Index lane = 0; j + lane < count; ++lane) {
-                cosines[j + lane] = w.re[lane];
-                sines[j + lane] = w.im[lane];
-            }
-        }
+        store_roots(t, length, unit, count - j, cosines + j, sines + j);
         t = t + stride;
         t = choose(t >= length, t - length, t);
     }
+}
+
+inline void unit_roots(Index n, Index first, Index step, Index count, double *cosines, double *sines)
+{
+    roots_of_row(n, OctantUnit{n}, first, step, count, cosines, sines);
+}
+
+inline void root_table(const Stages &stages, Index n, double *trig)
+{
+    const OctantUnit unit{n};
+    const double length = static_cast<double>(n);
+    Lanes t{};
+    Index pending = 0; // places in t whose roots are still to be written
+    Index next = 0;    // where the first of them goes
+    const auto flush = [&]() __attribute__((always_inline)) {
+        store_roots(t, length, unit, pending, trig + next, trig + n + next);
+        next += pending;
+        pending = 0;
+    };
+    for (int i = 0; i < stages.count; ++i) {
+        const Stage &stage = stages.stage[i];
+        for (Index k = 1; k < stage.radix; ++k) {
+            const Index step = stage.before * k;
+            // The twiddle factor of the first element is 1; its place serves for the root that a prime radix needs.
+            Index j = 0, place = stage.radix > kLargestFixedRadix ? n / stage.radix * k : 0;
+            do {
+                t[pending++] = static_cast<double>(place);
+                if (pending == kLanes) flush();
+                place = step * ++j;
+            } while (j < stage.after && (pending > 0 || stage.after < 4 * kLanes));
+            if (j == stage.after) continue;
+            roots_of_row(n, unit, place, step, stage.after - j, trig + next, trig + n + next);
+            next += stage.after - j;
+        }
+    }
+    flush();
 }
