@@ -34,28 +34,6 @@ Index restored_digits(const Index *size, int count, Index value)
     return result;
 }
 
-// Small squares of a tile that are exchanged at a time, so that every line of the cache is used whole.
-constexpr Index kSquare = 8;
-
-// Exchanges a(i, j) with b(j, i) for all i, j < size.
-void swap_transposed(Index size, Index stride, double *a, double *b)
-{
-    for (Index i0 = 0; i0 < size; i0 += kSquare)
-        for (Index j0 = 0; j0 < size; j0 += kSquare)
-            for (Index i = i0; i < std::min(i0 + kSquare, size); ++i)
-                for (Index j = j0; j < std::min(j0 + kSquare, size); ++j)
-                    std::swap(a[i * stride + j], b[j * stride + i]);
-}
-
-void transpose_square(Index size, Index stride, double *a)
-{
-    for (Index i0 = 0; i0 < size; i0 += kSquare)
-        for (Index j0 = i0; j0 < size; j0 += kSquare)
-            for (Index i = i0; i < std::min(i0 + kSquare, size); ++i)
-                for (Index j = std::max(j0, i + 1); j < std::min(j0 + kSquare, size); ++j)
-                    std::swap(a[i * stride + j], a[j * stride + i]);
-}
-
 // Exchanges (i_1, .., s, .., i_k) with (i_k, .., s, .., i_1), s standing for all dimensions in the middle.
 void swap_mirrored(const Dimensions &d, double *x)
 {
@@ -63,6 +41,7 @@ void swap_mirrored(const Dimensions &d, double *x)
     const Index edge = d.size[0], stride = d.n / edge;
     const Index inner = d.mirrored_product / edge; // all mirrored dimensions but the outermost
     const Index middle = d.n / (d.mirrored_product * d.mirrored_product);
+    const Kernels &kernel = kernels_for_length(edge * edge);
     for (Index first = 0; first < inner; ++first) {
         // A tile spans the outermost dimension at both ends; its partner has the inner digits exchanged.
         const Index partner_last = reversed_digits(d.size + 1, d.mirrored - 1, first);
@@ -72,10 +51,7 @@ void swap_mirrored(const Dimensions &d, double *x)
             for (Index s = 0; s < middle; ++s) {
                 double *const tile = x + ((first * middle + s) * inner + last) * edge;
                 double *const partner = x + ((partner_first * middle + s) * inner + partner_last) * edge;
-                if (partner_first == first && partner_last == last)
-                    transpose_square(edge, stride, tile);
-                else if (partner_first > first || partner_last > last)
-                    swap_transposed(edge, stride, tile, partner);
+                if (partner_first > first || partner_last >= last) kernel.swap_transposed(edge, stride, tile, partner);
             }
         }
     }

@@ -229,3 +229,83 @@ void columns_pass_back(const Stage &stage, const Block &block, const Columns &co
     else
         columns_pass<Radix, true, short_sequences, long_sequence>(stage, block, columns, in, out);
 }
+
+// Factors for consecutive lanes of each row: base + base * (root - 1) loses next to nothing when the root is near 1.
+template <class Access>
+struct FactorsAt {
+    Access access;
+    const Factored &factors;
+    Index start, step, c; // rows start, start + step, ..
+
+    template <class V>
+    KOR_INLINE Pair<V> operator()(Index l, Pair<V> x) const
+    {
+        const Index row = start + l * step;
+        const double re = factors.bases.re[row], im = factors.bases.im[row];
+        const Pair<V> less_one{access.load(factors.roots.re + row * factors.roots_row + c), access.load(factors.roots.im + row * factors.roots_row + c)};
+        return x * Pair<V>{re + (re * less_one.re - im * less_one.im), im + (re * less_one.im + im * less_one.re)};
+    }
+};
+
+template <class Radix, bool kFactorsBefore, bool kFactorsAfter, ColumnsOf from, ColumnsOf to>
+void factors_pass(const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
+                  Sequence out)
+{
+    const Radix radix{stage};
+    const Index spread = block.after * block.before;
+    for (Index a = 0; a < block.after; ++a)
+        for (Index b = 0; b < block.before; ++b) {
+            const Index start = a * block.before + b, far_start = a * radix.radix * block.before + b;
+            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                const auto source = rows_of<from>(columns, block.in_row, in, start, spread, c);
+                const auto target = rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
+                const FactorsAt<decltype(access)> before{access, factors, start, spread, c};
+                const FactorsAt<decltype(access)> after{access, factors, far_start, block.before, c};
+                const SameForAll twiddle{stage, a};
+                complex_butterfly(
+                    radix, access, source, target,
+                    [&](Index l, auto x) __attribute__((always_inline)) {
+                        if constexpr (kFactorsBefore)
+                            return before(l, x);
+                        else
+                            return x;
+                    },
+                    [&](Index k, auto y) __attribute__((always_inline)) {
+                        if (a > 0) y = twiddle(k, y);
+                        if constexpr (kFactorsAfter)
+                            return after(k, y);
+                        else
+                            return y;
+                    });
+            });
+        }
+}
+
+template <class Radix>
+void factors_pass_forward(const Stage &stage, const Block &block, const Columns &columns, const Factored &factors,
+                          Sequence in, Sequence out)
+{
+    using enum ColumnsOf;
+    const bool plain_in = columns.in == complex_block, plain_out = columns.out == complex_block;
+    if (plain_in && plain_out)
+        factors_pass<Radix, true, false, complex_block, complex_block>(stage, block, columns, factors, in, out);
+    else if (plain_in)
+        factors_pass<Radix, false, false, complex_block, long_sequence>(stage, block, columns, factors, in, out);
+    else if (plain_out)
+        factors_pass<Radix, true, false, short_sequences, complex_block>(stage, block, columns, factors, in, out);
+    else
+        factors_pass<Radix, true, false, short_sequences, long_sequence>(stage, block, columns, factors, in, out);
+}
+
+template <class Radix>
+void factors_pass_back(const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
+                       Sequence out)
+{
+    using enum ColumnsOf;
+    if (columns.in == complex_block)
+        factors_pass<Radix, false, true, complex_block, short_sequences>(stage, block, columns, factors, in, out);
+    else if (columns.out == complex_block)
+        factors_pass<Radix, false, false, long_sequence, complex_block>(stage, block, columns, factors, in, out);
+    else
+        factors_pass<Radix, false, true, long_sequence, short_sequences>(stage, block, columns, factors, in, out);
+}

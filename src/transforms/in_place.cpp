@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "transforms/passes.hpp"
 #include "transforms/root_table.hpp"
 
 namespace kor::transforms {
@@ -68,223 +69,204 @@ Dimensions::Dimensions(Index length, const InPlaceFactors &factors) : n{length}
 
 namespace {
 
-// What a sweep or a block needs on the stack.
+// What a sweep or the transform of blocks needs on the stack.
 struct alignas(sizeof(double) * kLine) Stack {
-    double table[2 * kGathered];
-    double gathered[2 * kGathered];
-    double work[6 * kLargestBlock + 4 * kLine];
-    double roots[2 * kLargestDimension];
+    double table[2 * kLargestBlock];     // of a block, or of a dimension
+    double straight[2 * kLargestBlock];  // a block in its natural order
+    double work[8 * kGathered];
+    double bases[2 * kLargestDimension];
 };
 
-// Transforms all blocks.
+// Blocks of several dimensions arrive with their digits turned round: (i_1, .., i_k) for what is element (i_k, .., i_1).
+// `kBack` turns them round again.
+template <bool kBack>
+void turn_digits(const Index *size, int count, const double *in, double *out)
+{
+    const Index first = size[0], last = size[count - 1];
+    Index middle = 1;
+    for (int i = 1; i < count - 1; ++i) middle *= size[i];
+    const Kernels &kernel = kernels_for_length(first * last);
+    for (Index m = 0; m < middle; ++m) {
+        Index turned = 0;
+        for (Index i = count - 2, rest = m; i > 0; rest /= size[i--]) turned = turned * size[i] + rest % size[i];
+        // `out` has the dimensions the other way round.
+        if (kBack)
+            kernel.transpose(last, first, in + turned * first, middle * first, out + m * last, middle * last);
+        else
+            kernel.transpose(first, last, in + m * last, middle * last, out + turned * first, middle * first);
+    }
+}
+
 void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, Stack &stack)
 {
     fill_root_table(d.block, stack.table);
     const Plan plan{kind, d.block, stack.table};
     const int dimensions = d.count - d.block_from;
     const Index *const size = d.size + d.block_from;
-
-    // Calls visit(place, index) for the places in a permuted block and the indices in the unpermuted one.
-    const auto walk = [&](auto visit) {
-        Index digit[Dimensions::kMost] = {}, step[Dimensions::kMost];
-        for (Index i = 0, product = 1; i < dimensions; product *= size[i++]) step[i] = product;
-        for (Index place = 0, index = 0; place < d.block; ++place) {
-            visit(place, index);
-            for (int i = dimensions - 1; i >= 0; --i) {
-                index += step[i];
-                if (++digit[i] < size[i]) break;
-                index -= digit[i] * step[i];
-                digit[i] = 0;
-            }
-        }
-    };
+    const bool complex = kind == Kind::complex;
+    const Sequence straight{stack.straight, complex ? stack.straight + d.block : nullptr};
 
     for (Index at = 0; at < d.n; at += d.block) {
-        const Sequence block{x.re + at, x.im != nullptr ? x.im + at : nullptr};
+        const Sequence block = shifted(x, at);
         if (dimensions <= 1) {
             plan.transform(block, block, scale, stack.work);
-            continue;
-        }
-        const Sequence straight{stack.gathered, x.im != nullptr ? stack.gathered + d.block : nullptr};
-        if (kind == Kind::hermitian) {
-            plan.transform(block, block, scale, stack.work);
-            std::copy_n(block.re, d.block, straight.re);
-            walk([&](Index place, Index index) { block.re[place] = straight.re[index]; });
+        } else if (kind == Kind::hermitian) {
+            plan.transform(block, straight, scale, stack.work);
+            turn_digits<true>(size, dimensions, straight.re, block.re);
         } else {
-            walk([&](Index place, Index index) { straight.re[index] = block.re[place]; });
-            if (x.im != nullptr) walk([&](Index place, Index index) { straight.im[index] = block.im[place]; });
+            turn_digits<false>(size, dimensions, block.re, straight.re);
+            if (complex) turn_digits<false>(size, dimensions, block.im, straight.im);
             plan.transform(straight, block, scale, stack.work);
         }
     }
 }
 
-// The sweep for one dimension of size L: elements f + v l of contiguous blocks of L v, or packed Hermitian sequences of
-// length v in their place. Columns f are transformed a few at a time.
+// The sweep for one dimension of size L: it joins the elements f + v l of contiguous blocks of L v, or packed Hermitian
+// sequences of length v in their place. Columns f are transformed a few at a time.
 class Sweep {
   public:
     Sweep(Index n, Index radix, Index v, Stack &stack)
-        : n_{n}, radix_{radix}, v_{v}, stack_{stack}, plan_{Kind::complex, radix, stack.roots}
+        : n_{n}, radix_{radix}, v_{v}, stack_{stack}, stages_{radix, stack.table},
+          row_{std::min(kGathered / radix, v / 8 > kLine ? v / 8 / kLine * kLine : std::max(v / 8, Index{1}))},
+          roots_{stack.work + 4 * kGathered, stack.work + 4 * kGathered + radix * row_}
     {
-        fill_root_table(radix, stack.roots);
+        fill_root_table(radix, stack.table);
+        kernels().roots_less_one(radix * v, radix, row_, roots_);
     }
 
-    void complex(double *re, double *im)
+    void complex(Sequence x)
     {
-        for (Index f = 0; f < v_; f += width_) {
-            width_ = std::min(most(), v_ - f);
-            set_twiddles(f);
+        over_columns(0, v_, [&](Index f, const Factored &factors, Array block0, Array block1) {
             for (Index block = 0; block < n_; block += radix_ * v_) {
-                double *const r = re + block + f, *const i = im + block + f;
-                gather([&](Index l, Index c) { return Value{r[l * v_ + c], i[l * v_ + c]}; });
-                twiddle(gathered());
-                transform();
-                scatter([&](Index k, Index c, Value y) {
-                    r[k * v_ + c] = y.re;
-                    i[k * v_ + c] = y.im;
+                const Array columns{shifted(x, block + f), v_};
+                run_passes(0, last(), columns, columns, block0, block1, [&](int i, Array from, Array to) {
+                    if (i == 0)
+                        kernels().factors_pass(stages_.stage[i], shape(i, from, to), {}, factors, from.at, to.at);
+                    else
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
                 });
             }
-        }
+        });
     }
 
     void real(double *x)
     {
-        real_ends(x);
-        for (Index f = 1; 2 * f < v_; f += width_) {
-            width_ = std::min(most(), (v_ + 1) / 2 - f);
-            set_twiddles(f);
+        over_columns(1, (v_ - 1) / 2, [&](Index f, const Factored &factors, Array block0, Array block1) {
             for (Index block = 0; block < n_; block += radix_ * v_) {
-                double *const up = x + block + f, *const down = x + block - f;
-                gather([&](Index l, Index c) { return Value{up[l * v_ + c], down[(l + 1) * v_ - c]}; });
-                twiddle(gathered());
-                transform();
-                scatter([&](Index k, Index c, Value y) {
-                    const bool lower = 2 * k < radix_;
-                    up[k * v_ + c] = lower ? y.re : -y.im;
-                    down[(radix_ - k) * v_ - c] = lower ? y.im : y.re;
+                const Array columns{{x + block, nullptr}, v_};
+                run_passes(0, last(), columns, columns, block0, block1, [&](int i, Array from, Array to) {
+                    const Columns which{v_, f, i == 0 ? ColumnsOf::short_sequences : ColumnsOf::complex_block,
+                                        i == last() ? ColumnsOf::long_sequence : ColumnsOf::complex_block, radix_};
+                    if (i == 0 || i == last())
+                        kernels().factors_pass(stages_.stage[i], shape(i, from, to), which, factors, from.at, to.at);
+                    else
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
                 });
             }
-        }
+        });
+        single_columns(x, false);
     }
 
     void hermitian(double *x)
     {
-        hermitian_ends(x);
-        for (Index f = 1; 2 * f < v_; f += width_) {
-            width_ = std::min(most(), (v_ + 1) / 2 - f);
-            set_twiddles(f);
+        over_columns(1, (v_ - 1) / 2, [&](Index f, const Factored &factors, Array block0, Array block1) {
             for (Index block = 0; block < n_; block += radix_ * v_) {
-                double *const up = x + block + f, *const down = x + block - f;
-                gather([&](Index k, Index c) {
-                    const double here = up[k * v_ + c], mirror = down[(radix_ - k) * v_ - c];
-                    return 2 * k < radix_ ? Value{here, mirror} : Value{mirror, -here};
-                });
-                transform();
-                twiddle(done_);
-                scatter([&](Index l, Index c, Value y) {
-                    up[l * v_ + c] = y.re;
-                    down[(l + 1) * v_ - c] = y.im;
+                const Array columns{{x + block, nullptr}, v_};
+                run_passes(0, last(), columns, columns, block0, block1, [&](int i, Array from, Array to) {
+                    const Columns which{v_, f, i == 0 ? ColumnsOf::long_sequence : ColumnsOf::complex_block,
+                                        i == last() ? ColumnsOf::short_sequences : ColumnsOf::complex_block, radix_};
+                    if (i == 0 || i == last())
+                        kernels().factors_pass_back(stages_.stage[i], shape(i, from, to), which, factors, from.at, to.at);
+                    else
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
                 });
             }
-        }
+        });
+        single_columns(x, true);
     }
 
   private:
-    struct Value {
-        double re, im;
-    };
+    int last() const { return stages_.count - 1; }
 
-    Index most() const { return std::max(kGathered / radix_, Index{1}); }
-    Sequence gathered() const { return {stack_.gathered, stack_.gathered + radix_ * width_}; }
-
-    template <class Read>
-    void gather(Read read)
+    Block shape(int i, Array from, Array to) const
     {
-        const auto [re, im] = gathered();
-        for (Index l = 0; l < radix_; ++l)
-            for (Index c = 0; c < width_; ++c) {
-                const Value value = read(l, c);
-                re[l * width_ + c] = value.re;
-                im[l * width_ + c] = value.im;
-            }
-    }
-    template <class Write>
-    void scatter(Write write)
-    {
-        const auto [re, im] = done_;
-        for (Index l = 0; l < radix_; ++l)
-            for (Index c = 0; c < width_; ++c) write(l, c, Value{re[l * width_ + c], im[l * width_ + c]});
-    }
-    void transform()
-    {
-        const Sequence spare{stack_.work, stack_.work + radix_ * width_};
-        done_ = plan_.transform_side_by_side(width_, gathered(), spare, 1.0);
+        return {stages_.stage[i].before, stages_.stage[i].after, width_, from.row, to.row};
     }
 
-    // exp(-2 pi i l (f + c) / (L v)) for all l and the columns f + c at hand.
-    void set_twiddles(Index f)
+    // Calls body(f, factors, block0, block1) for ranges of columns from `first` on, width_ of them at a time. Ranges do not
+    // overlap, and whole registers are filled, or none: a pass in place cannot be repeated.
+    template <class Body>
+    void over_columns(Index first, Index count, Body body)
     {
-        const Index length = radix_ * v_;
-        for (Index l = 0; l < radix_; ++l)
-            kernels().unit_roots(length, l * f % length, l, width_, twiddles(l), twiddles(l) + radix_ * width_);
-    }
-    double *twiddles(Index l) { return stack_.table + l * width_; }
-    void twiddle(Sequence x)
-    {
-        const auto [re, im] = x;
-        const double *const c = stack_.table, *const s = c + radix_ * width_;
-        for (Index i = 0; i < radix_ * width_; ++i) {
-            const double product = re[i] * c[i] - im[i] * s[i];
-            im[i] = re[i] * s[i] + im[i] * c[i];
-            re[i] = product;
+        const Sequence bases{stack_.bases, stack_.bases + radix_};
+        for (Index f = first, rest = count; rest > 0; f += width_, rest -= width_) {
+            width_ = std::min(row_, rest);
+            if (width_ > kLine) width_ = width_ / kLine * kLine;
+            kernels().unit_roots(radix_ * v_, 0, f, radix_, bases.re, bases.im);
+            body(f, Factored{bases, roots_, row_}, block(0), block(1));
         }
+    }
+    Array block(int i) const
+    {
+        double *const re = stack_.work + 2 * i * kGathered;
+        return {{re, re + radix_ * width_}, width_};
     }
 
     // The columns f = 0 and, for even v, f = v/2, where the short sequences are real.
-    void real_ends(double *x)
+    void single_columns(double *x, bool back)
     {
         width_ = 1;
-        for (const Index f : {Index{0}, v_ / 2}) {
-            if (f == 0 ? false : v_ % 2 != 0) break;
-            set_twiddles(f);
-            for (Index block = 0; block < n_; block += radix_ * v_) {
-                double *const start = x + block;
-                gather([&](Index l, Index) { return Value{start[l * v_ + f], 0.0}; });
-                twiddle(gathered());
-                transform();
-                scatter([&](Index k, Index, Value y) {
-                    const Index g = f + k * v_, mirror = radix_ * v_ - g;
-                    if (g <= mirror) start[g] = y.re;
-                    if (0 < g && g < mirror) start[mirror] = y.im;
-                });
-            }
-            if (v_ == 1) break;
+        const Array block0 = block(0), block1 = block(1);
+        for (Index start = 0; start < n_; start += radix_ * v_) {
+            const Array column{{x + start, nullptr}, v_};
+            const bool up = back;
+            run_passes(up ? 0 : last(), up ? last() : 0, column, column, block0, block1, [&](int i, Array from, Array to) {
+                const auto pass = back ? kernels().hermitian_pass : kernels().real_pass;
+                pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
+            });
         }
-    }
-    void hermitian_ends(double *x)
-    {
-        width_ = 1;
-        for (const Index f : {Index{0}, v_ / 2}) {
-            if (f == 0 ? false : v_ % 2 != 0) break;
-            set_twiddles(f);
-            for (Index block = 0; block < n_; block += radix_ * v_) {
-                double *const start = x + block;
-                gather([&](Index k, Index) {
-                    const Index g = f + k * v_, mirror = radix_ * v_ - g;
-                    if (g == 0 || g == mirror) return Value{start[g], 0.0};
-                    return g < mirror ? Value{start[g], start[mirror]} : Value{start[mirror], -start[g]};
-                });
-                transform();
-                twiddle(done_);
-                scatter([&](Index l, Index, Value y) { start[l * v_ + f] = y.re; });
+        if (v_ % 2 != 0) return;
+
+        // With its factors, the middle column is complex: half of its transform is the conjugate of the other half.
+        const Sequence bases{stack_.bases, stack_.bases + radix_};
+        const Index half = v_ / 2;
+        kernels().unit_roots(radix_ * v_, 0, half, radix_, bases.re, bases.im);
+        const auto transform = [&] {
+            return run_passes(0, last(), block0, kNone, block0, block1, [&](int i, Array from, Array to) {
+                       kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
+                   })
+                .at;
+        };
+        for (double *start = x; start < x + n_; start += radix_ * v_) {
+            const auto mirror_of = [&](Index k) { return start + (radix_ - k) * v_ - half; };
+            if (back) {
+                for (Index k = 0; 2 * k < radix_; ++k) {
+                    const Index other = radix_ - 1 - k;
+                    block0.at.re[k] = block0.at.re[other] = start[k * v_ + half];
+                    block0.at.im[k] = k == other ? 0.0 : *mirror_of(k);
+                    block0.at.im[other] = -block0.at.im[k];
+                }
+                const Sequence y = transform();
+                for (Index l = 0; l < radix_; ++l) start[l * v_ + half] = y.re[l] * bases.re[l] - y.im[l] * bases.im[l];
+            } else {
+                for (Index l = 0; l < radix_; ++l) {
+                    block0.at.re[l] = start[l * v_ + half] * bases.re[l];
+                    block0.at.im[l] = start[l * v_ + half] * bases.im[l];
+                }
+                const Sequence y = transform();
+                for (Index k = 0; 2 * k < radix_; ++k) {
+                    start[k * v_ + half] = y.re[k];
+                    if (2 * k + 1 < radix_) *mirror_of(k) = y.im[k];
+                }
             }
-            if (v_ == 1) break;
         }
     }
 
     Index n_, radix_, v_, width_ = 1;
     Stack &stack_;
-    Plan plan_;
-    Sequence done_{}; // where the transformed columns stand
+    Stages stages_;
+    Index row_;      // columns at a time
+    Sequence roots_; // factors of the columns of a range
 };
 
 } // namespace
@@ -308,7 +290,7 @@ void transform_in_place(const Dimensions &d, Kind kind, Sequence x, double scale
     Index v = d.block;
     for (int i = d.block_from - 1; i >= 0; --i) {
         Sweep sweep{d.n, d.size[i], v, stack};
-        kind == Kind::complex ? sweep.complex(x.re, x.im) : sweep.real(x.re);
+        kind == Kind::complex ? sweep.complex(x) : sweep.real(x.re);
         v *= d.size[i];
     }
 }

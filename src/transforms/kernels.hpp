@@ -36,6 +36,13 @@ struct Columns {
     Index rows = 0; // of a long sequence
 };
 
+// Factors that vary with row and column: bases(row) (1 + roots(row, c)), where roots(row, c) stands at row * roots_row + c.
+struct Factored {
+    Sequence bases;
+    Sequence roots;
+    Index roots_row;
+};
+
 // Registers go to and from memory fastest when they do not straddle two lines of the cache: work arrays begin at a line.
 inline constexpr Index kLine = 8; // doubles
 inline double *at_line(double *p)
@@ -59,6 +66,9 @@ struct Kernels {
     // Here and below, arrays do not overlap.
     void (*transpose)(Index rows, Index columns, const double *in, Index in_row, double *out, Index out_row);
 
+    // Exchanges a(i, j) with b(j, i) for i, j < size; rows stand `stride` apart. With a = b, transposes a.
+    void (*swap_transposed)(Index size, Index stride, double *a, double *b);
+
     // One stage of a transform, with the same twiddle factors for all elements of a row. For real and Hermitian data, `a`
     // counts the places f of packed sequences:
     //   complex:   row (l * after + a) * before + b   -> row (a * radix + k) * before + b
@@ -76,6 +86,15 @@ struct Kernels {
     // The forward pass may read from a long sequence and write to short ones, the pass back the other way.
     void (*columns_pass)(const Stage &, const Block &, const Columns &, Sequence in, Sequence out);
     void (*columns_pass_back)(const Stage &, const Block &, const Columns &, Sequence in, Sequence out);
+
+    // roots(l, c) = exp(-2 pi i l c / n) - 1 for l < rows, c < width, at l * width + c; 8 rows width <= n.
+    void (*roots_less_one)(Index n, Index rows, Index width, Sequence roots);
+
+    // As complex_pass(), for some columns that may be read from short sequences or written to a long one. What is read from
+    // anything but a complex block that goes to a long sequence is multiplied by factors first.
+    void (*factors_pass)(const Stage &, const Block &, const Columns &, const Factored &, Sequence in, Sequence out);
+    // The opposite way, from a long sequence or to short ones; what goes to short sequences is multiplied by factors last.
+    void (*factors_pass_back)(const Stage &, const Block &, const Columns &, const Factored &, Sequence in, Sequence out);
 };
 
 // The fastest that this processor can run.

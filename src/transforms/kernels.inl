@@ -38,6 +38,7 @@ inline constexpr Kernels kKernels{
     .unit_roots = unit_roots,
     .root_table = root_table,
     .transpose = transpose,
+    .swap_transposed = swap_transposed,
     .complex_pass =
         [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
             with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
@@ -66,6 +67,21 @@ inline constexpr Kernels kKernels{
         [](const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out) {
             with_radix(stage, [=, &stage, &block, &columns]<class Radix>(std::type_identity<Radix>) {
                 columns_pass_back<Radix>(stage, block, columns, in, out);
+            });
+        },
+    .roots_less_one = roots_less_one,
+    .factors_pass =
+        [](const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
+           Sequence out) {
+            with_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
+                factors_pass_forward<Radix>(stage, block, columns, factors, in, out);
+            });
+        },
+    .factors_pass_back =
+        [](const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
+           Sequence out) {
+            with_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
+                factors_pass_back<Radix>(stage, block, columns, factors, in, out);
             });
         },
 };

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "transforms/passes.hpp"
+
 namespace kor::transforms {
 
 namespace {
@@ -72,38 +74,12 @@ Index Plan::work_size() const
 
 namespace {
 
-Sequence shifted(Sequence x, Index by) { return {x.re + by, x.im != nullptr ? x.im + by : nullptr}; }
-
 // Calls body(i) for ranges [i, i + step) that cover [0, count); the last may overlap the one before.
 template <class Body>
 void in_ranges(Index count, Index step, Body body)
 {
     for (Index i = 0; i < count; i += step) body(std::min(i, count - step));
 }
-
-// An array whose rows stand `row` apart.
-struct Array {
-    Sequence at;
-    Index row;
-};
-
-// Makes the passes `first`, first + step, .., last: pass(stage number, from, to). They lead from `in` to `out` by way of the
-// two blocks, or, without `out`, to one of the blocks: to the array that is returned.
-template <class Pass>
-Array run_passes(int first, int last, Array in, Array out, Array block0, Array block1, Pass pass)
-{
-    const int step = first <= last ? 1 : -1;
-    Array from = in;
-    for (int i = first;; i += step) {
-        const bool is_last = i == last;
-        const Array to = is_last && out.at.re != nullptr ? out : from.at.re == block0.at.re ? block1 : block0;
-        pass(i, from, to);
-        from = to;
-        if (is_last) return to;
-    }
-}
-
-constexpr Array kNone{{nullptr, nullptr}, 0};
 
 auto pass_of(const Kernels &kernel, Kind kind)
 {

@@ -20,3 +20,34 @@ inline void transpose(Index rows, Index columns, const double *in, Index in_row,
         }
     }
 }
+
+// Exchanges a(i, j) with b(j, i) for i < rows, j < columns. The two may be the same tile, on the diagonal, but overlap in no
+// other way.
+inline void exchange_transposed(Index rows, Index columns, Index stride, double *a, double *b)
+{
+    if (rows == kLanes && columns == kLanes) {
+        Lanes u[kLanes], v[kLanes];
+        KOR_UNROLL for (Index i = 0; i < kLanes; ++i) u[i] = load_lanes(a + i * stride);
+        KOR_UNROLL for (Index i = 0; i < kLanes; ++i) v[i] = load_lanes(b + i * stride);
+        transpose_square(u);
+        transpose_square(v);
+        KOR_UNROLL for (Index i = 0; i < kLanes; ++i) store_lanes(b + i * stride, u[i]);
+        KOR_UNROLL for (Index i = 0; i < kLanes; ++i) store_lanes(a + i * stride, v[i]);
+        return;
+    }
+    for (Index i = 0; i < rows; ++i)
+        for (Index j = a == b ? i + 1 : 0; j < columns; ++j) {
+            const double kept = a[i * stride + j];
+            a[i * stride + j] = b[j * stride + i];
+            b[j * stride + i] = kept;
+        }
+}
+
+inline void swap_transposed(Index size, Index stride, double *a, double *b)
+{
+    for (Index i = 0; i < size; i += kLanes)
+        for (Index j = a == b ? i : 0; j < size; j += kLanes) {
+            const Index rows = size - i < kLanes ? size - i : kLanes, columns = size - j < kLanes ? size - j : kLanes;
+            exchange_transposed(rows, columns, stride, a + i * stride + j, b + j * stride + i);
+        }
+}

@@ -41,6 +41,33 @@ KOR_INLINE Lanes choose(Condition condition, Lanes yes, Lanes no)
     return condition ? yes : no;
 }
 
+// The angle of `a` octants of n-th parts: its nearest double x, and what x lacks.
+struct Angle {
+    Lanes x, rest;
+};
+KOR_INLINE Angle octant_angle(Lanes a, const OctantUnit &unit)
+{
+    const Lanes leading = a * unit.high, trailing = a * unit.middle + a * unit.low; // the first two products are exact
+    const Lanes x = leading + trailing;
+    return {x, (leading - x) + trailing};
+}
+
+// cos x = 1 - half_square + tail, with all of `rest` in tail and sine.
+struct OctantRoot {
+    Lanes half_square, tail, sine;
+};
+KOR_INLINE OctantRoot octant_root(Lanes x, Lanes rest)
+{
+    const Lanes x2 = x * x;
+    Lanes s = kSinePolynomial[6] * x2 + kSinePolynomial[5];
+    for (int i = 4; i >= 0; --i) s = s * x2 + kSinePolynomial[i];
+    Lanes c = kCosinePolynomial[6] * x2 + kCosinePolynomial[5];
+    for (int i = 4; i >= 0; --i) c = c * x2 + kCosinePolynomial[i];
+    // `rest` needs a few digits of the derivatives only: the cosine is 1 - x^2/2 for that purpose.
+    const Lanes half_square = 0.5 * x2;
+    return {half_square, x2 * x2 * c - x * rest, x + (x * x2 * s + rest * (1.0 - half_square))};
+}
+
 // `eighths` is 8t for 0 <= t < n, all of it exact.
 KOR_INLINE Pair<Lanes> unit_root(Lanes eighths, double n, const OctantUnit &unit)
 {
@@ -51,22 +78,10 @@ KOR_INLINE Pair<Lanes> unit_root(Lanes eighths, double n, const OctantUnit &unit
     const auto steep = a > n;
     a = choose(steep, 2.0 * n - a, a);
 
-    const Lanes leading = a * unit.high, trailing = a * unit.middle + a * unit.low; // the first two products are exact
-    const Lanes x = leading + trailing;
-    const Lanes rest = (leading - x) + trailing;
-
-    const Lanes x2 = x * x;
-    Lanes s = kSinePolynomial[6] * x2 + kSinePolynomial[5];
-    for (int i = 4; i >= 0; --i) s = s * x2 + kSinePolynomial[i];
-    Lanes c = kCosinePolynomial[6] * x2 + kCosinePolynomial[5];
-    for (int i = 4; i >= 0; --i) c = c * x2 + kCosinePolynomial[i];
-
-    const Lanes half_square = 0.5 * x2;
+    const auto [x, rest] = octant_angle(a, unit);
+    const auto [half_square, tail, sine] = octant_root(x, rest);
     const Lanes near_cosine = 1.0 - half_square;
-    // 1 - x^2/2 with what its rounding lost, then the rest of the series and the shift by `rest`.
-    const Lanes cosine = near_cosine + (((1.0 - near_cosine) - half_square) + (x2 * x2 * c - x * rest));
-    const Lanes sine = x + (x * x2 * s + rest * near_cosine);
-
+    const Lanes cosine = near_cosine + (((1.0 - near_cosine) - half_square) + tail);
     const Lanes re = choose(steep, sine, cosine), im = choose(steep, cosine, sine);
     return {choose(left_half, -re, re), choose(lower_half, im, 0.0 - im)};
 }
@@ -139,4 +154,22 @@ inline void root_table(const Stages &stages, Index n, double *trig)
         }
     }
     flush();
+}
+
+// exp(-2 pi i l c / n) - 1: the angles are below pi / 4, and nothing cancels.
+inline void roots_less_one(Index n, Index rows, Index width, Sequence roots)
+{
+    const OctantUnit unit{n};
+    Lanes lane;
+    for (Index i = 0; i < kLanes; ++i) lane[i] = static_cast<double>(i);
+    for (Index l = 0; l < rows; ++l)
+        for (Index c = 0; c < width; c += kLanes) {
+            const auto [x, rest] = octant_angle(8.0 * static_cast<double>(l) * (lane + static_cast<double>(c)), unit);
+            const auto [half_square, tail, sine] = octant_root(x, rest);
+            const Lanes cosine_less_one = tail - half_square;
+            for (Index i = 0; i < kLanes && c + i < width; ++i) {
+                roots.re[l * width + c + i] = cosine_less_one[i];
+                roots.im[l * width + c + i] = -sine[i];
+            }
+        }
 }
