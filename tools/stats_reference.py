@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes tests/stats/laws_data.inc and
-discrete_laws_data.inc. With a library as
+"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes laws_data.inc,
+discrete_laws_data.inc and noncentral_laws_data.inc in tests/stats. With a library as
 argument it also prints the largest errors of that library over a denser set of points."""
 import ctypes
 import os
@@ -183,6 +183,34 @@ def write_discrete():
         out.writelines(rows)
 
 
+def mixture(lam, central):
+    """Poisson weights of mean lam / 2 times central(j), to the last digit."""
+    mean, total, j, term = mp.mpf(lam) / 2, mp.mpf(0), 0, mp.mpf(1)
+    while j < mean or term > total * mp.mpf(10) ** -25:
+        term = mp.exp(j * mp.log(mean) - mean - mp.loggamma(j + 1)) * central(j)
+        total += term
+        j += 1
+    return total
+
+
+def write_noncentral():
+    draw = random.Random(4).uniform
+    with open(os.path.join(ROOT, "tests", "stats", "noncentral_laws_data.inc"), "w", encoding="utf-8") as out:
+        out.write("// Written by tools/stats_reference.py: law, x, parameters, lambda, lower tail.\n")
+        for _ in range(25):
+            lam, df = 10 ** draw(-3, 2.5), 10 ** draw(-2, 2)
+            x = (df + lam) * 10 ** draw(-4, 0.5)
+            with mp.workdps(60):
+                p = mixture(lam, lambda j: gamma(mp.mpf(df) / 2 + j, mp.mpf(x) / 2)[0])
+            if p > SMALLEST:
+                out.write("{kChiSquared, %r, %r, 0.0, %r, %s},\n" % (x, df, lam, mp.nstr(p, 20)))
+            a, b, x = 10 ** draw(-2, 2), 10 ** draw(-2, 2), draw(0.01, 0.9)
+            with mp.workdps(60):
+                p = mixture(lam, lambda j: beta(mp.mpf(a) + j, b, mp.mpf(x), 1 - mp.mpf(x))[0])
+            if p > SMALLEST:
+                out.write("{kBeta, %r, %r, %r, %r, %s},\n" % (x, a, b, lam, mp.nstr(p, 20)))
+
+
 def survey(path):
     lib = ctypes.CDLL(path)
     record = (ctypes.c_char * 1024)()
@@ -236,3 +264,4 @@ if __name__ == "__main__":
     else:
         write()
         write_discrete()
+        write_noncentral()

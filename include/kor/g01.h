@@ -535,6 +535,102 @@ void g01bkc(double rlamda, Integer k, double *plek, double *pgtk, double *peqk, 
 /// \endcode
 void g01blc(Integer n, Integer l, Integer m, Integer k, double *plek, double *pgtk, double *peqk, KorError *fail);
 
+/// \brief Lower tail probabilities of the non-central chi-squared law.
+///
+/// P(X <= x), X the sum of the squares of `df` normal variables of variance 1 whose means have squares that add to
+/// `lambda`.
+///
+/// \param[in] x the value, at least 0
+/// \param[in] df degrees of freedom, at least 0; with 0 the law has a mass exp(-lambda/2) at 0
+/// \param[in] lambda non-centrality, at least 0, and not 0 where `df` is 0
+/// \param[in] tol relative accuracy wanted; a value below 10 x02ajc(), or from 1 up, stands for 10 x02ajc()
+/// \param[in] max_iter the number of terms that may be summed, at least 1; 500 is ample unless `lambda` exceeds 1000
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `x` is less than 0.
+/// - NE_REAL_ARG_LT: also for `df` and `lambda`.
+/// - NE_2_REAL_ARG_CONS: `df` and `lambda` are both 0.
+/// - NE_INT_ARG_LT: `max_iter` is less than 1.
+/// - NE_CONV: more than `max_iter` terms are needed.
+/// \par Accuracy
+/// `tol`, relative to the result, down to 1e-290; about 1e-14 at best. A NaN gives NaN.
+/// \par Method
+/// Poisson weights times central tails, summed from the top downwards: every operation adds positive numbers.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01ecc()
+/// \par Example
+/// \code{.c}
+/// double p = g01gcc(8.26, 20.0, 3.5, 5e-6, 50, &fail);   // p = 0.00321470412666985
+/// \endcode
+double g01gcc(double x, double df, double lambda, double tol, Integer max_iter, KorError *fail);
+
+/// \brief Lower tail probabilities of the non-central F law.
+///
+/// P(F <= f), F the ratio of a non-central chi-squared variable over `df1` and a central one over `df2`.
+///
+/// \param[in] f the ratio, at least 0
+/// \param[in] df1 degrees of freedom of the numerator, greater than 0, at most 1.0e6
+/// \param[in] df2 degrees of freedom of the denominator, greater than 0, at most 1.0e6
+/// \param[in] lambda non-centrality, from 0 to -2 ln(x02amc()) = 1416.79
+/// \param[in] tol relative accuracy wanted; a value below 10 x02ajc(), or from 1 up, stands for 10 x02ajc()
+/// \param[in] max_iter the number of terms that may be summed, at least 1; 500 is ample unless `lambda` exceeds 1000
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_LT: `f` is less than 0.
+/// - NE_REAL_ARG_CONS: `df1`, `df2` or `lambda` is out of its range.
+/// - NE_INT_ARG_LT: `max_iter` is less than 1.
+/// - NE_CONV: more than `max_iter` terms are needed.
+/// \par Accuracy
+/// `tol`, relative to the result, down to 1e-290; about 1e-14 at best. A NaN gives NaN.
+/// \par Method
+/// Poisson weights times central tails, summed from the top downwards: every operation adds positive numbers.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01edc(), g01gec()
+/// \par Example
+/// \code{.c}
+/// double p = g01gdc(5.5, 1.5, 25.5, 3.0, 5e-6, 50, &fail);   // p = 0.821427363202122
+/// \endcode
+double g01gdc(double f, double df1, double df2, double lambda, double tol, Integer max_iter, KorError *fail);
+
+/// \brief Lower tail probabilities of the non-central beta law.
+///
+/// P(X <= x) = sum over j of exp(-lambda/2) (lambda/2)^j / j! times I_x(a + j, b).
+///
+/// \param[in] x the value, from 0 to 1
+/// \param[in] a first shape, greater than 0, at most 1.0e6
+/// \param[in] b second shape, greater than 0, at most 1.0e6
+/// \param[in] lambda non-centrality, from 0 to -2 ln(x02amc()) = 1416.79
+/// \param[in] tol relative accuracy wanted; a value below 10 x02ajc(), or from 1 up, stands for 10 x02ajc()
+/// \param[in] max_iter the number of terms that may be summed, at least 1; 500 is ample unless `lambda` exceeds 1000
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+/// \return the probability; 0 after an error
+///
+/// \par Errors
+/// - NE_REAL_ARG_CONS: `x`, `a`, `b` or `lambda` is out of its range.
+/// - NE_INT_ARG_LT: `max_iter` is less than 1.
+/// - NE_CONV: more than `max_iter` terms are needed.
+/// \par Accuracy
+/// `tol`, relative to the result, down to 1e-290; about 1e-14 at best. A NaN gives NaN.
+/// \par Method
+/// Poisson weights times central tails, summed from the top downwards: every operation adds positive numbers.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01eec(), g01gdc()
+/// \par Example
+/// \code{.c}
+/// double p = g01gec(0.25, 1.0, 2.0, 1.0, 0.0, 100, &fail);   // p = 0.316797401942714
+/// \endcode
+double g01gec(double x, double a, double b, double lambda, double tol, Integer max_iter, KorError *fail);
+
 KOR_END_DECLS
 
 #endif

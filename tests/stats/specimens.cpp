@@ -31,6 +31,9 @@ KOR_SPECIMEN(g01eec)
 }
 
 KOR_VALUE_SPECIMEN(g01bcc, 18.3, 10)
+KOR_VALUE_SPECIMEN(g01gcc, 8.26, 20.0, 3.5, 5e-6, 50)
+KOR_VALUE_SPECIMEN(g01gdc, 5.5, 1.5, 25.5, 3.0, 5e-6, 50)
+KOR_VALUE_SPECIMEN(g01gec, 0.25, 1.0, 2.0, 1.0, 0.0, 100)
 
 #define KOR_DISCRETE_SPECIMEN(name, ...)                                                                               \
     KOR_SPECIMEN(name)                                                                                                 \
