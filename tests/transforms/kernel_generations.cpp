@@ -34,12 +34,12 @@ Doubles everything(const Kernels &kernel, Index n)
             collected.insert(collected.end(), u.begin(), u.end());
             collected.insert(collected.end(), v.begin(), v.end());
         };
-        run([&](double *u, double *v) { kernel.complex_across(stage, batch, x.data(), y.data(), u, v, 0.3); });
-        run([&](double *u, double *) { kernel.real_across(stage, batch, x.data(), u, 0.3); });
-        run([&](double *u, double *) { kernel.hermitian_across(stage, batch, x.data(), u, 0.3); });
-        run([&](double *u, double *v) { kernel.complex_along(stage, x.data(), y.data(), u, v); });
-        run([&](double *u, double *) { kernel.real_along(stage, x.data(), u); });
-        run([&](double *u, double *) { kernel.hermitian_along(stage, x.data(), u); });
+        // Each element of the sequence is a row of `batch` numbers.
+        const Block block{stage.before, stage.after, batch, batch, batch};
+        const auto at = [](const Doubles &data) { return const_cast<double *>(data.data()); };
+        run([&](double *u, double *v) { kernel.complex_pass(stage, block, {at(x), at(y)}, {u, v}, 0.3); });
+        run([&](double *u, double *) { kernel.real_pass(stage, block, {at(x), nullptr}, {u, nullptr}, 0.3); });
+        run([&](double *u, double *) { kernel.hermitian_pass(stage, block, {at(x), nullptr}, {u, nullptr}, 0.3); });
     }
     return collected;
 }
