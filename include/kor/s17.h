@@ -1,5 +1,6 @@
 /// \file s17.h
-/// Chapter s17: Bessel functions J and Y of orders 0 and 1, Airy functions and their derivatives, zeros of Bessel functions.
+/// Chapter s17: Bessel functions J and Y of orders 0 and 1, Airy functions and their derivatives, zeros of Bessel
+/// functions.
 #ifndef KOR_S17_H
 #define KOR_S17_H
 
@@ -20,12 +21,12 @@ KOR_BEGIN_DECLS
 /// - NE_REAL_ARG_GT: `x` is greater than 1e16, where the phase is lost; the result is the amplitude sqrt(2 / (pi x)).
 ///
 /// \par Accuracy
-/// Within 1 ulp for x < 66, next to the zeros there too (the first 20 of them, and one or two more); beyond, within 1 ulp
-/// of the amplitude.
+/// Within 1 ulp for x < 66, next to the zeros there too (the first 20 of them, and one or two more); beyond, within 1
+/// ulp of the amplitude.
 /// \par Method
 /// Below 1/4 the power series with its logarithm; up to 66 polynomials on pieces, those at zeros being centred there;
-/// beyond, modulus and phase (Watson, A Treatise on the Theory of Bessel Functions, 1944, 13.75), the phase in numbers of
-/// two doubles.
+/// beyond, modulus and phase (Watson, A Treatise on the Theory of Bessel Functions, 1944, 13.75), the phase in numbers
+/// of two doubles.
 /// \par Thread safety
 /// Safe: no state.
 /// \par See also
@@ -75,11 +76,11 @@ double s17adc(double x, KorError *fail);
 /// - NE_REAL_ARG_GT: |x| is greater than 1e16, where the phase is lost; the result is the amplitude sqrt(2 / (pi |x|)).
 ///
 /// \par Accuracy
-/// Within 1 ulp for |x| < 66, next to the zeros there too (the first 20 of them, and one or two more); beyond, within 1 ulp
-/// of the amplitude.
+/// Within 1 ulp for |x| < 66, next to the zeros there too (the first 20 of them, and one or two more); beyond, within 1
+/// ulp of the amplitude.
 /// \par Method
-/// Up to 66 polynomials on pieces, those at zeros being centred there; beyond, modulus and phase (Watson, A Treatise on the
-/// Theory of Bessel Functions, 1944, 13.75), the phase in numbers of two doubles.
+/// Up to 66 polynomials on pieces, those at zeros being centred there; beyond, modulus and phase (Watson, A Treatise on
+/// the Theory of Bessel Functions, 1944, 13.75), the phase in numbers of two doubles.
 /// \par Thread safety
 /// Safe: no state.
 /// \par See also
@@ -129,11 +130,12 @@ double s17afc(double x, KorError *fail);
 /// - NE_REAL_ARG_GT: `x` is less than -5.6e10 (the message speaks of -x), where the phase is lost; the result is 0.
 ///
 /// \par Accuracy
-/// Within 1 ulp for x >= -20.6, next to the zeros there too (the first 20); for more negative arguments within 1 ulp of the
-/// amplitude |x|^(-1/4) / sqrt(pi).
+/// Within 1 ulp for x >= -20.6, next to the zeros there too (the first 20); for more negative arguments within 1 ulp of
+/// the amplitude |x|^(-1/4) / sqrt(pi).
 /// \par Method
-/// On [-20.7, 8] polynomials on pieces, those at zeros being centred there; beyond, exponential or modulus and phase times
-/// series in 1 / zeta (F. W. J. Olver, Asymptotics and Special Functions, 1974, chapter 11), zeta in numbers of two doubles.
+/// On [-20.7, 8] polynomials on pieces, those at zeros being centred there; beyond, exponential or modulus and phase
+/// times series in 1 / zeta (F. W. J. Olver, Asymptotics and Special Functions, 1974, chapter 11), zeta in numbers of
+/// two doubles.
 /// \par Thread safety
 /// Safe: no state.
 /// \par Example
@@ -145,16 +147,16 @@ double s17agc(double x, KorError *fail);
 
 /// \brief The Airy function Bi(x).
 ///
-/// The solution of y'' = x y that grows for x > 0, like exp(zeta) / (sqrt(pi) x^(1/4)) with zeta = 2/3 x^(3/2), and lags
-/// a quarter turn behind Ai for x < 0.
+/// The solution of y'' = x y that grows for x > 0, like exp(zeta) / (sqrt(pi) x^(1/4)) with zeta = 2/3 x^(3/2), and
+/// lags a quarter turn behind Ai for x < 0.
 ///
 /// \param[in]     x    the argument, -5.6e10 <= x <= 104.1
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \return Bi(x); a NaN for a NaN, without any report.
 /// \par Errors
-/// - NE_REAL_ARG_GT: `x` is less than -5.6e10 (the message speaks of -x), where the phase is lost: the result is 0; or `x`
-///   is greater than 104.1, next to overflow: the result is Bi(104.1).
+/// - NE_REAL_ARG_GT: `x` is less than -5.6e10 (the message speaks of -x), where the phase is lost: the result is 0; or
+///   `x` is greater than 104.1, next to overflow: the result is Bi(104.1).
 ///
 /// \par Accuracy
 /// As s17agc().
@@ -198,8 +200,8 @@ double s17ajc(double x, KorError *fail);
 ///
 /// \return Bi'(x); a NaN for a NaN, without any report.
 /// \par Errors
-/// - NE_REAL_ARG_GT: `x` is less than -1.8e9 (the message speaks of -x), where the phase is lost: the result is 0; or `x`
-///   is greater than 104.1, next to overflow: the result is Bi'(104.1).
+/// - NE_REAL_ARG_GT: `x` is less than -1.8e9 (the message speaks of -x), where the phase is lost: the result is 0; or
+///   `x` is greater than 104.1, next to overflow: the result is Bi'(104.1).
 ///
 /// \par Accuracy
 /// As s17ajc().
@@ -213,6 +215,40 @@ double s17ajc(double x, KorError *fail);
 /// double y = s17akc(1.0, &fail);   // 0.932435933392776
 /// \endcode
 double s17akc(double x, KorError *fail);
+
+/// \brief The first positive zeros of a Bessel function of real order, or of its derivative.
+///
+/// Zeros of J_a(x) (`mode` 1), Y_a(x) (2), J'_a(x) (3) or Y'_a(x) (4), in ascending order. The derivative of J0 counts
+/// x = 0 as its first zero, as tables do.
+///
+/// \param[in]     a    the order of the Bessel function, 0 <= a <= 100000
+/// \param[in]     n    how many zeros are wanted, at least 1
+/// \param[in]     mode which function, 1 to 4
+/// \param[in]     rel  relative accuracy wanted, greater than 0; full accuracy is given whatever its value
+/// \param[out]    x    `n` elements: the zeros
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_REAL: `a` is less than 0, greater than 100000, or not a number; or `rel` is not greater than 0. `x` is not set.
+/// - NE_INT: `n` is less than 1, or `mode` is not from 1 to 4. `x` is not set.
+/// - NE_TERMINATION_FAILURE: a search did not end. Not known to happen; `x` may be set in part.
+///
+/// \par Accuracy
+/// Within 0.51 ulp. The first zero of Y and Y' takes a time in proportion to the order, some milliseconds for the
+/// largest; each further zero takes about a microsecond.
+/// \par Method
+/// Newton's method for the first, on quotients of neighbouring orders; from zero to zero the Taylor series of the
+/// solution of Bessel's equation (A. Glaser, X. Liu, V. Rokhlin, SIAM J. Sci. Comput. 29 (2007) 1420-1438). In extended
+/// precision.
+/// \par Thread safety
+/// Safe: no state.
+/// \par Example
+/// \code{.c}
+/// KorError fail = {0};
+/// double x[3];
+/// s17alc(0.0, 3, 1, 1e-15, x, &fail);   // 2.40482555769577, 5.52007811028631, 8.65372791291101
+/// \endcode
+void s17alc(double a, Integer n, Integer mode, double rel, double x[], KorError *fail);
 
 KOR_END_DECLS
 

@@ -1344,59 +1344,45 @@ inline constexpr PiecewisePolynomial<78, 459> kBiSlope{
          4631.1451702103905, 1217.1196256102949, 299.6877597105572}},
     }}};
 
-// Ai times exp(zeta) x^(1/4), zeta = 2/3 x^(3/2), in powers of 1 / zeta, for x >= 8; error 2.6e-18
-inline constexpr NearConstantPolynomial<10> kLargeAi = {
-    {0.28209479177387814, 3.1087644027232368e-18},
-    {
-        -0.01958991609540552, 0.01047516346603619, -0.010717643707592785, 0.01626248728849995, -0.032747362719699406,
-        0.08209164032324351, -0.24260909314778908, 0.7684594868729173, -2.13005511230848, 3.4428585672867205}};
+// zeta (f - 1), f = Ai over its leading term for large x, in powers of 1 / zeta, zeta = 2/3 x^(3/2), for x >= 8
+inline constexpr std::array<double, 11> kLargeAi = {
+    -0.06944444444444443, 0.03713348765427544, -0.03799305909980419, 0.05764918367157453, -0.1160982263920181,
+    0.2915301233611791, -0.8748328173531834, 2.993295287391021, -10.5880095114336, 31.562029596803555,
+    -53.25747372438335};
 
-// Bi times exp(-zeta) x^(1/4), zeta = 2/3 x^(3/2), in powers of 1 / zeta, for x >= 8; error 1.8e-18
-inline constexpr NearConstantPolynomial<13> kLargeBi = {
-    {0.5641895835477563, 7.427218527064355e-18},
-    {
-        0.039179832190818005, 0.020950326933626397, 0.021435288945430772, 0.03252491101391708, 0.06552286720656769,
-        0.16276964098006677, 0.592110354475225, -1.955527312944447, 103.82713528620874, -1693.4798840365065,
-        20158.583584639047, -136398.01826408584, 436027.410945974}};
+// zeta (f - 1), f = Bi over its leading term for large x, in powers of 1 / zeta, zeta = 2/3 x^(3/2), for x >= 8
+inline constexpr std::array<double, 14> kLargeBi = {
+    0.06944444444444446, 0.037133487654257835, 0.03799305918315538, 0.0576491716894685, 0.11610227976233059,
+    0.2912728810632851, 0.8969878390233356, 2.353932603903117, 28.188861410074153, -83.3176652049113,
+    -1693.655774276454, 71342.91478480535, -766585.2504763488, 3373361.5243986854};
 
-// Ai' times exp(zeta) x^(-1/4), zeta = 2/3 x^(3/2), in powers of 1 / zeta, for x >= 8; error 2.7e-18
-inline constexpr NearConstantPolynomial<10> kLargeAiSlope = {
-    {-0.28209479177387814, -4.5844461367630894e-18},
-    {
-        -0.02742588253356871, 0.01237973864192091, -0.011978543000034021, 0.017676619172017977, -0.035005923755361885,
-        0.08678629474979184, -0.2545149591276425, 0.8020040334785247, -2.2160437882543538, 3.575567768223584}};
+// zeta (f - 1), f = Ai' over its leading term for large x, in powers of 1 / zeta, zeta = 2/3 x^(3/2), for x >= 8
+inline constexpr std::array<double, 11> kLargeAiSlope = {
+    0.09722222222222221, -0.04388503086415052, 0.04246283076100113, -0.06266215653526991, 0.12410503165563608,
+    -0.30819053890772197, 0.9175560189904948, -3.1216220050475103, 10.999024057119561, -32.70911520024893,
+    55.11866468406862};
 
-// Bi' times exp(-zeta) x^(-1/4), zeta = 2/3 x^(3/2), in powers of 1 / zeta, for x >= 8; error 1.9e-18
-inline constexpr NearConstantPolynomial<13> kLargeBiSlope = {
-    {0.5641895835477563, 7.924057591928452e-18},
-    {
-        -0.05485176506714466, -0.024759477285419305, -0.023957087593476773, -0.035353171106819715,
-        -0.07004108599022986, -0.17210528541243297, -0.6196259264420827, 2.0009413410924464, -107.01805132929078,
-        1741.3444212020133, -20697.404968971237, 139832.70251021266, -446445.86926986254}};
+// zeta (f - 1), f = Bi' over its leading term for large x, in powers of 1 / zeta, zeta = 2/3 x^(3/2), for x >= 8
+inline constexpr std::array<double, 14> kLargeBiSlope = {
+    -0.09722222222222224, -0.04388503086413478, -0.04246283084479786, -0.06266214496284812, -0.12410906882817255,
+    -0.307940867680515, -0.939330365025012, -2.511311255036923, -27.645403335919873, 54.82603513120816,
+    2161.020798452824, -76927.45493035088, 804512.7808428955, -3494987.738460786};
 
-// Modulus of (Ai + i Bi)(-x) times sqrt(pi) x^(1/4), in powers of 1 / x^3; error 1.1e-19
-inline constexpr NearConstantPolynomial<4> kModulus = {
-    {1.0, -1.1116639823508626e-19},
-    {
-        -0.07812499999995075, 0.27893066057019095, -3.223856968788268, 76.39615842593162}};
+// (m - 1) / w, m the modulus of (Ai + i Bi)(-x) over its leading term, in powers of w = 1 / x^3, for x >= 20.6875
+inline constexpr std::array<double, 4> kModulus = {
+    -0.07812499999999604, 0.27893066294211777, -3.2238940316611298, 76.57117814721347};
 
-// x^(3/2) times argument of (Ai + i Bi)(-x) plus zeta less pi / 4, likewise; error 1.7e-20
-inline constexpr NearConstantPolynomial<5> kPhase = {
-    {0.10416666666666667, -4.627656810025636e-18},
-    {
-        -0.11990017361111001, 0.8425394692870084, -14.555240185510648, 464.47816885666975, -23116.18042333944}};
+// x^(3/2) times the argument of (Ai + i Bi)(-x) plus zeta less pi / 4, likewise
+inline constexpr std::array<double, 4> kPhase = {
+    0.10416666666666609, -0.11990017344577952, 0.8425321406092037, -14.451146441368662};
 
-// Modulus of (Ai' + i Bi')(-x) times sqrt(pi) x^(-1/4), in powers of 1 / x^3; error 1.2e-19
-inline constexpr NearConstantPolynomial<4> kModulusSlope = {
-    {1.0, 1.194942196999512e-19},
-    {
-        0.10937499999994706, -0.33923339468366437, 3.6645967827183235, -83.8244293668423}};
+// (m - 1) / w, m the modulus of (Ai' + i Bi')(-x) over its leading term, in powers of w = 1 / x^3, for x >= 20.6875
+inline constexpr std::array<double, 4> kModulusSlope = {
+    0.10937499999999575, -0.339233397233256, 3.6646366216674395, -84.01255824075945};
 
-// x^(3/2) times argument of (Ai' + i Bi')(-x) plus zeta less 3 pi / 4, likewise; error 2.0e-20
-inline constexpr NearConstantPolynomial<5> kPhaseSlope = {
-    {-0.14583333333333334, 9.253687569952522e-18},
-    {
-        0.15874565972222104, -1.0076314289157282, 16.413559237306416, -507.1636391175276, 24773.905229019045}};
+// x^(3/2) times the argument of (Ai' + i Bi')(-x) plus zeta less 3 pi / 4, likewise
+inline constexpr std::array<double, 4> kPhaseSlope = {
+    -0.1458333333333327, 0.15874565954165668, -1.0076234251576908, 16.299882551498563};
 
 } // namespace kor::special::tables::airy
 // clang-format on

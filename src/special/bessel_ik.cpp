@@ -10,72 +10,88 @@ namespace {
 
 using namespace tables::bessel_ik;
 
-// The scaled functions for large x: a series in 1/x over the square root of x.
-template <class Series>
-DoubleDouble large_scaled(const Series &series, double x)
+// The scaled functions for large x: sqrt(c / x) (1 + u series), u = 1/x.
+template <class Products, DoubleDouble c, const auto &series>
+KOR_INLINE Factor<Products> large_factor(double x)
 {
-    return series(1.0 / x) / sqrt(DoubleDouble{x});
+    const RootOfQuotient<Products> size{c, x};
+    const double u = size.quotient * (1.0 / c.hi);
+    return size.factor.times_one_plus(u * polynomial(series, u));
 }
 
-// value exp(x), neither factor having to be representable when the product is.
-double times_exponential(DoubleDouble value, double x)
+template <DoubleDouble c, const auto &series>
+double large_scaled(double x)
 {
-    const Exponential e = extended_exp({x});
-    return times_power_of_two((value * e.value).rounded(), e.exponent);
+    // Where the series is 1 to the last bit, and the root is taken out of reach of underflow.
+    constexpr double kHuge = 0x1p500, kScale = 0x1p-600, kRootOfScale = 0x1p-300;
+    if (x >= kHuge) [[unlikely]]
+        return RootOfQuotient<SplitProducts>{c, x * kScale}.factor.rounded() * kRootOfScale;
+    return with_exact_products([x]<class P>(P) KOR_INLINE_LAMBDA { return large_factor<P, c, series>(x).rounded(); });
+}
+
+// The same times exp(sign x): neither factor need be representable when the product is.
+template <DoubleDouble c, const auto &series, int sign>
+double large(double x)
+{
+    return with_exact_products([x]<class P>(P) KOR_INLINE_LAMBDA {
+        const Exponential e = extended_exp({sign * x});
+        return times_power_of_two((large_factor<P, c, series>(x) * e.value).rounded(), e.exponent);
+    });
 }
 
 // Next to 0 the value is -ln(x), or the pole, and a constant; the rest is small against them.
-DoubleDouble small_k0(double x)
+KOR_INLINE DoubleDouble small_k0(double x)
 {
     const double z = x * x;
-    const DoubleDouble log_x = extended_log_of(x);
-    return kSmallK0(z) - log_x + -log_x.hi * (z * polynomial(kSmallI0, z));
+    const DoubleDouble log_x = log_of_small(x), constant = kSmallK0(z);
+    const DoubleDouble sum = fast_two_sum(-log_x.hi, constant.hi);
+    return fast_two_sum(sum.hi, sum.lo + ((constant.lo - log_x.lo) - log_x.hi * (z * polynomial(kSmallI0, z))));
 }
 
-DoubleDouble small_k1(double x)
+KOR_INLINE DoubleDouble small_k1(double x)
 {
     const double z = x * x;
     const DoubleDouble pole = two_quotient(1.0, x);
-    const double rest = x * (polynomial(kSmallK1, z) + extended_log_of(x).hi * polynomial(kSmallI1, z));
+    const double rest = x * (polynomial(kSmallK1, z) + std::log(x) * polynomial(kSmallI1, z));
     return fast_two_sum(pole.hi, pole.lo + rest);
 }
 
-template <class Table, class Series>
-double growing(const Table &table, const Series &large, double a)
+template <const auto &table, const auto &series>
+KOR_INLINE double growing(double a)
 {
-    return a < table.end() ? table(a) : times_exponential(large_scaled(large, a), a);
+    return a < table.end() ? table(a) : large<kHalfInversePi, series, 1>(a);
 }
 
-template <class Table, class Series>
-double growing_scaled(const Table &table, const Series &large, double a)
+template <const auto &table, const auto &series>
+KOR_INLINE double growing_scaled(double a)
 {
-    return a < table.end() ? table(a) : large_scaled(large, a).rounded();
+    return a < table.end() ? table(a) : large_scaled<kHalfInversePi, series>(a);
 }
 
-template <class Table, class Series>
-double decaying(DoubleDouble (*small)(double), const Table &table, const Series &large, double x)
+template <DoubleDouble (*small)(double), const auto &table, const auto &series>
+KOR_INLINE double decaying(double x)
 {
     if (x < kSmallArgument) return small(x).rounded();
-    return x < table.end() ? table(x) : times_exponential(large_scaled(large, x), -x);
+    return x < table.end() ? table(x) : large<kHalfPi, series, -1>(x);
 }
 
-template <class Table, class Series>
-double decaying_scaled(DoubleDouble (*small)(double), const Table &table, const Series &large, double x)
+template <DoubleDouble (*small)(double), const auto &table, const auto &series>
+KOR_INLINE double decaying_scaled(double x)
 {
-    if (x < kSmallArgument) return times_exponential(small(x), x);
-    return x < table.end() ? table(x) : large_scaled(large, x).rounded();
+    if (x < kSmallArgument) return times_small_exponential(small(x), x);
+    return x < table.end() ? table(x) : large_scaled<kHalfPi, series>(x);
 }
 
 } // namespace
 
-double bessel_i0(double x) { return growing(kI0, kLargeI0, std::fabs(x)); }
-double bessel_i1(double x) { return std::copysign(growing(kI1, kLargeI1, std::fabs(x)), x); }
-double bessel_k0(double x) { return decaying(small_k0, kK0, kLargeK0, x); }
-double bessel_k1(double x) { return decaying(small_k1, kK1, kLargeK1, x); }
+double bessel_i0(double x) { return growing<kI0, kLargeI0>(std::fabs(x)); }
+double bessel_i1(double x) { return std::copysign(growing<kI1, kLargeI1>(std::fabs(x)), x); }
+double bessel_k0(double x) { return decaying<small_k0, kK0, kLargeK0>(x); }
+double bessel_k1(double x) { return decaying<small_k1, kK1, kLargeK1>(x); }
 
-double scaled_bessel_i0(double x) { return growing_scaled(kScaledI0, kLargeI0, std::fabs(x)); }
-double scaled_bessel_i1(double x) { return std::copysign(growing_scaled(kScaledI1, kLargeI1, std::fabs(x)), x); }
-double scaled_bessel_k0(double x) { return decaying_scaled(small_k0, kScaledK0, kLargeK0, x); }
-double scaled_bessel_k1(double x) { return decaying_scaled(small_k1, kScaledK1, kLargeK1, x); }
+double scaled_bessel_i0(double x) { return growing_scaled<kScaledI0, kLargeI0>(std::fabs(x)); }
+double scaled_bessel_i1(double x) { return std::copysign(growing_scaled<kScaledI1, kLargeI1>(std::fabs(x)), x); }
+double scaled_bessel_k0(double x) { return decaying_scaled<small_k0, kScaledK0, kLargeK0>(x); }
+double scaled_bessel_k1(double x) { return decaying_scaled<small_k1, kScaledK1, kLargeK1>(x); }
 
 } // namespace kor::special

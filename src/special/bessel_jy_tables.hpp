@@ -1390,51 +1390,42 @@ inline constexpr PiecewisePolynomial<73, 1052> kY1{
          -8.668205735552992e-13}},
     }}};
 
-// Modulus of J0 + i Y0 times sqrt(pi x / 2), in powers of 1 / x^2; error 1.3e-19
-inline constexpr NearConstantPolynomial<4> kModulus0 = {
-    {1.0, -1.308143160752369e-19},
-    {
-        -0.06249999999997149, 0.1035156240054063, -0.542834527698436, 5.787992348508193}};
+// (m - 1) / z, m the modulus of J0 + i Y0 times sqrt(pi x / 2), in powers of z = 1 / x^2, for x >= 66
+inline constexpr std::array<double, 4> kModulus0 = {
+    -0.06249999999999771, 0.10351562468099468, -0.5428397214358904, 5.80005907390824};
 
-// x times argument of J0 + i Y0 less x - pi / 4, in powers of 1 / x^2; error 1.5e-20
-inline constexpr NearConstantPolynomial<5> kPhase0 = {
-    {-0.125, 1.2325162933858613e-21},
-    {
-        0.06510416666666628, -0.209570312480311, 1.6380655164379365, -23.472037399280275, 523.5956113602223}};
+// x times the argument of J0 + i Y0 less x - pi / 4, likewise
+inline constexpr std::array<double, 4> kPhase0 = {
+    -0.1249999999999995, 0.06510416659643828, -0.2095687810584443, 1.6273662488873588};
 
-// Modulus of J1 + i Y1 times sqrt(pi x / 2), in powers of 1 / x^2; error 1.6e-19
-inline constexpr NearConstantPolynomial<4> kModulus1 = {
-    {1.0, 1.6259147914393678e-19},
-    {
-        0.18749999999996456, -0.19335937376388498, 0.80528274967684, -7.664520305374372}};
+// (m - 1) / z, m the modulus of J1 + i Y1 times sqrt(pi x / 2), in powers of z = 1 / x^2, for x >= 66
+inline constexpr std::array<double, 4> kModulus1 = {
+    0.18749999999999717, -0.19335937460356478, 0.8052892048824085, -7.67951779700037};
 
-// x times argument of J1 + i Y1 less x - 3 pi / 4, in powers of 1 / x^2; error 2.1e-18
-inline constexpr NearConstantPolynomial<4> kPhase1 = {
-    {0.375, -8.045780225974822e-19},
-    {
-        -0.1640624999998246, 0.3708984313810714, -2.3693230630909228, 30.25022709540542}};
+// x times the argument of J1 + i Y1 less x - 3 pi / 4, likewise
+inline constexpr std::array<double, 4> kPhase1 = {
+    0.37499999999999933, -0.164062499908328, 0.3708964385847622, -2.3554340699341707};
 
 // (J0 - 1) / x^2 in powers of x^2, for x < 1/4
-inline constexpr std::array<double, 7> kSmallJ0 = {
-    -0.25, 0.015625, -0.00043402777777777775, 6.781684027777777e-06, -6.781684027777778e-08, 4.709502797067901e-10,
-    -2.4028075495244395e-12};
+inline constexpr std::array<double, 6> kSmallJ0 = {
+    -0.25, 0.015625, -0.00043402777777777775, 6.781684027777777e-06, -6.781684027777778e-08, 4.709502797067901e-10};
 
 // J1 / x, likewise
-inline constexpr std::array<double, 8> kSmallJ1 = {
+inline constexpr std::array<double, 7> kSmallJ1 = {
     0.5, -0.0625, 0.0026041666666666665, -5.425347222222222e-05, 6.781684027777778e-07, -5.651403356481481e-09,
-    3.363930569334215e-11, -1.5017547184527747e-13};
+    3.363930569334215e-11};
 
 // Y0 - 2 / pi ln(x) J0, likewise
-inline constexpr NearConstantPolynomial<7> kSmallY0 = {
+inline constexpr NearConstantPolynomial<6> kSmallY0 = {
     {-0.07380429510868723, 6.4779762734459855e-18},
     {
         0.17760601686906713, -0.016073968025938426, 0.000538602666861655, -9.495005205221546e-06,
-        1.0358476033628096e-07, -7.693079900902932e-10, 4.14356573651271e-12}};
+        1.0358476033628096e-07, -7.693079900902932e-10}};
 
 // (Y1 + 2 / (pi x) - 2 / pi ln(x) J1) / x, likewise
-inline constexpr std::array<double, 8> kSmallY1 = {
+inline constexpr std::array<double, 7> kSmallY1 = {
     -0.19605709064623894, 0.05434868816051024, -0.0029553053360798338, 7.164268749973962e-05, -9.926740619424822e-07,
-    8.931879621220132e-09, -5.6480245515956583e-11, 2.649481507008778e-13};
+    8.931879621220132e-09, -5.6480245515956583e-11};
 
 } // namespace kor::special::tables::bessel_jy
 // clang-format on

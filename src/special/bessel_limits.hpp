@@ -7,8 +7,9 @@ namespace kor::special {
 
 // Beyond it an argument does not determine the phase any more.
 inline constexpr double kLargestOscillating = 1e16;
-inline constexpr double kSmallestAiry = -5.6e10;     // Ai, Bi: zeta is 8.8e15
-inline constexpr double kSmallestAirySlope = -1.8e9; // their derivatives
+inline constexpr double kPhaseOfHalfTheDigits = 0x1.6a09e667f3bcdp+26; // 1 / sqrt(2^-53)
+inline constexpr double kSmallestAiry = -5.6e10;                       // Ai, Bi: zeta is 8.8e15
+inline constexpr double kSmallestAirySlope = -1.8e9;                   // their derivatives
 
 // Beyond it the values overflow; what is returned there is the value at the limit, or near it.
 inline constexpr double kLargestI = 711.6;

@@ -10,28 +10,46 @@ namespace {
 
 using namespace tables::kelvin;
 
-// ker + i kei = size exp(-i angle) 2^exponent for large x.
+// ker + i kei = exp(-t) size exp(-i angle) for large x, t = x / sqrt(2).
+template <class Products>
 struct DecayingOscillation {
-    Oscillation oscillation;
-    int exponent;
+    Exponential decay;
+    Oscillation<Products> oscillation;
 
-    explicit DecayingOscillation(double x)
+    KOR_INLINE double ker() const { return decayed(oscillation.cosine()); }
+    KOR_INLINE double kei() const { return -decayed(oscillation.sine()); }
+    KOR_INLINE double decayed(DoubleDouble value) const
     {
-        const DoubleDouble t = kRootHalf * x;
-        const double u = 1.0 / x;
-        const Exponential decay = extended_exp(-t);
-        oscillation = {sqrt(kHalfPi / x) * kModulus(u) * decay.value, t + (kEighthPi - kPhase(u).hi / x)};
-        exponent = decay.exponent;
+        return times_power_of_two((decay.value * value).rounded(), decay.exponent);
     }
-    double ker() const { return times_power_of_two(oscillation.cosine().rounded(), exponent); }
-    double kei() const { return -times_power_of_two(oscillation.sine().rounded(), exponent); }
 };
+
+template <class Products>
+KOR_INLINE DecayingOscillation<Products> decaying_oscillation(double x)
+{
+    const DoubleDouble product = Products::product(kRootHalf.hi, x), t{product.hi, product.lo + kRootHalf.lo * x};
+    const RootOfQuotient<Products> size{kHalfPi, x};
+    const double u = size.quotient * kTwoOverPi.hi;
+    return {extended_exp(-t),
+            {size.factor.times_one_plus(u * polynomial(kModulus, u)), t + (kEighthPi - u * polynomial(kPhase, u))}};
+}
+
+double large_ker(double x)
+{
+    return with_exact_products([x]<class P>(P) KOR_INLINE_LAMBDA { return decaying_oscillation<P>(x).ker(); });
+}
+
+double large_kei(double x)
+{
+    return with_exact_products([x]<class P>(P) KOR_INLINE_LAMBDA { return decaying_oscillation<P>(x).kei(); });
+}
 
 double small_ker(double x)
 {
     const double z = x * x, w = z * z;
-    const DoubleDouble log_x = extended_log_of(x);
-    return (kSmallKer(z) - log_x + -log_x.hi * (w * polynomial(kSmallBer, w))).rounded();
+    const DoubleDouble log_x = log_of_small(x), constant = kSmallKer(z);
+    const DoubleDouble sum = fast_two_sum(-log_x.hi, constant.hi);
+    return sum.hi + (sum.lo + ((constant.lo - log_x.lo) - log_x.hi * (w * polynomial(kSmallBer, w))));
 }
 
 double small_bei(double x)
@@ -45,7 +63,7 @@ double small_kei(double x)
 {
     const double z = x * x;
     const DoubleDouble rest = kSmallKei(z);
-    return rest.hi + (rest.lo - extended_log_of(x).hi * (z * kSmallBei(z * z).hi));
+    return rest.hi + (rest.lo - std::log(x) * (z * kSmallBei(z * z).hi));
 }
 
 } // namespace
@@ -61,13 +79,13 @@ double kelvin_bei(double x)
 double kelvin_ker(double x)
 {
     if (x < kSmallArgument) return small_ker(x);
-    return x < kKer.end() ? kKer(x) : DecayingOscillation{x}.ker();
+    return x < kKer.end() ? kKer(x) : large_ker(x);
 }
 
 double kelvin_kei(double x)
 {
     if (x < kSmallArgument) return small_kei(x);
-    return x < kKei.end() ? kKei(x) : DecayingOscillation{x}.kei();
+    return x < kKei.end() ? kKei(x) : large_kei(x);
 }
 
 } // namespace kor::special

@@ -785,20 +785,17 @@ inline constexpr PiecewisePolynomial<25, 252> kKei{
          1.2381285414714995e-15, -6.210976200232304e-17}},
     }}};
 
-// Modulus of ker + i kei times sqrt(2 x / pi) exp(x / sqrt(2)), in powers of 1 / x; error 1.3e-18
-inline constexpr NearConstantPolynomial<10> kModulus = {
-    {1.0, -1.0790894727320398e-18},
-    {
-        -0.08838834764831434, 0.0039062499974393747, 0.045920509357369105, -0.10562904276148713, 0.15735055880171178,
-        -0.012657383027027427, -1.1573182913874607, 5.8722881236943945, -17.694224866832982, 27.363094609953542}};
+// x (m - 1), m the modulus of ker + i kei times sqrt(2 x / pi) exp(x / sqrt(2)), in powers of 1 / x, for x >= 16
+inline constexpr std::array<double, 11> kModulus = {
+    -0.08838834764831845, 0.003906250000031439, 0.04592050871826221, -0.1056289618195313, 0.15734457102832014,
+    -0.012380955747710328, -1.1655206974089287, 6.028749709447265, -19.548563227112954, 39.78921405841199,
+    -35.974298572814135};
 
-// x times argument of ker + i kei plus x / sqrt(2) + pi / 8, in powers of 1 / x; error 3.4e-18
-inline constexpr NearConstantPolynomial<12> kPhase = {
-    {0.08838834764831845, -6.033642318088225e-18},
-    {
-        -0.06250000000000006, 0.046035597733551106, -2.094864517723249e-11, -0.148188584653028, 0.536457760887495,
-        -1.1582392042505167, -0.0028083326957052523, 16.715598763627042, -109.95133648080365, 455.16184502061486,
-        -1226.6804313977382, 1659.4621067517785}};
+// x times the argument of ker + i kei plus x / sqrt(2) + pi / 8, likewise
+inline constexpr std::array<double, 11> kPhase = {
+    0.08838834764831842, -0.06249999999993338, 0.04603559769048574, 1.0849358751127787e-08, -0.1481899954429825,
+    0.5365649613691093, -1.1633444251102414, 0.1546215866787431, 13.553716273954636, -69.4903763780665,
+    145.30967071775243};
 
 // (ber - 1) / x^4 in powers of x^4, for x < 1/4
 inline constexpr std::array<double, 3> kSmallBer = {
@@ -812,18 +809,18 @@ inline constexpr NearConstantPolynomial<5> kSmallBei = {
         -1.4963343967340453e-22}};
 
 // ker + ln(x) ber in powers of x^2, for x < 1/4
-inline constexpr NearConstantPolynomial<7> kSmallKer = {
+inline constexpr NearConstantPolynomial<6> kSmallKer = {
     {0.11593151565841245, 3.7780767526472776e-19},
     {
         0.19634954084936207, -0.025248929932162694, -0.0003408846195301425, 1.4914719299260428e-05,
-        5.3263221801584765e-08, -1.2084261650077973e-09, -1.887160636394018e-12}};
+        5.3263221801584765e-08, -1.2084261650077973e-09}};
 
 // kei + ln(x) bei, likewise
-inline constexpr NearConstantPolynomial<7> kSmallKei = {
+inline constexpr NearConstantPolynomial<6> kSmallKei = {
     {-0.7853981633974483, -3.061616997868383e-17},
     {
         0.2789828789146031, 0.01227184630308513, -0.000846035090708223, -5.326322180158476e-06,
-        1.6271056104815983e-07, 3.698834847332275e-10, -6.508697838747355e-12}};
+        1.6271056104815983e-07, 3.698834847332275e-10}};
 
 } // namespace kor::special::tables::kelvin
 // clang-format on

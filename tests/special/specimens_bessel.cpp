@@ -33,3 +33,32 @@ BESSEL_SPECIMEN(s19aac, 12.3)
 BESSEL_SPECIMEN(s19abc, -12.3)
 BESSEL_SPECIMEN(s19acc, 12.3)
 BESSEL_SPECIMEN(s19adc, 123.4)
+
+// Order nu/4.
+#define QUARTER_SPECIMEN(name, x, nu)                                                                                  \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        double value = 99.0;                                                                                           \
+        call([&](KorError *fail) { value = name(x, nu, fail); });                                                      \
+        outputs(value);                                                                                                \
+    }
+
+QUARTER_SPECIMEN(s18ecc, 1.3, -1)
+QUARTER_SPECIMEN(s18eec, 12.3, 3)
+QUARTER_SPECIMEN(s18edc, 1.3, 2)
+QUARTER_SPECIMEN(s18efc, 12.3, 1)
+
+// Sequences of orders.
+#define SEQUENCE_SPECIMEN(name, Element, ...)                                                                          \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        Element b[6] = {};                                                                                             \
+        call([&](KorError *fail) { name(__VA_ARGS__, b, fail); });                                                     \
+        outputs(b, 6);                                                                                                 \
+    }
+
+SEQUENCE_SPECIMEN(s17alc, double, 2.5, 6, 4, 1e-12)
+SEQUENCE_SPECIMEN(s18egc, double, 2.3, 1, 3, 5)
+SEQUENCE_SPECIMEN(s18ehc, double, 23.4, 3, 4, 5)
+SEQUENCE_SPECIMEN(s18ejc, Complex, -2.3, 0.25, 5)
+SEQUENCE_SPECIMEN(s18ekc, Complex, 23.4, 0.25, -5)

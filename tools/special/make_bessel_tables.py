@@ -1,20 +1,20 @@
 #!/usr/bin/env python3
-"""Tables of the Bessel, Airy and Kelvin functions: src/special/{bessel_jy,bessel_ik,airy,kelvin}_tables.hpp.
+"""Tables of the Bessel, Airy and Kelvin functions: src/special/{bessel_jy,bessel_ik,airy,kelvin,bessel_order}_tables.hpp.
 
-    tools/special/make_bessel_tables.py [jy ik airy kelvin]
+    tools/special/make_bessel_tables.py [jy ik airy kelvin order]
 """
 import os
 import sys
 
 import bessel_series as series
-from fit import array, double_double, lines, near_constant, number, pair
+from fit import array, double_double, fit, lines, number, pair
 from mpmath import mp, mpc, mpf
 from piecewise import print_pieces, tile
 
 FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "src", "special")
 TOLERANCE = mpf(2) ** -58  # of the fits for large arguments
 SMALL = mpf(1) / 4         # below it: series in z = x^2, with a logarithm
-SMALL_TERMS = 8            # (z/4)^8 / 8!^2 < 2^-76 there
+SMALL_TERMS = 7            # (z/4)^7 / 7!^2 < 2^-66 there
 JY_END = 66                # beyond the 20th zeros
 IK_END = 16
 AIRY_BEGIN, AIRY_END = mpf("-20.6875"), 8  # beyond the 20th zeros, half-way between neighbours
@@ -39,9 +39,15 @@ def near_constant_series(name, coefficients, comment):
             f"    {{\n{lines([number(c) for c in coefficients[1:]], 8)}}}}};\n")
 
 
-def fitted(name, comment, f, end, at_zero):
-    """f on [0, end]; its value at 0 is a limit."""
-    return near_constant(name, lambda t: mpf(at_zero) if t == 0 else f(t), 0, end, TOLERANCE, comment)
+def large(name, comment, f, end):
+    """f(t) on [0, end] as a plain polynomial, with an error that counts after a multiplication with t <= end."""
+    coefficients = fit(f, mpf(0), mpf(end), TOLERANCE, scale=lambda t: 1 / mpf(end))
+    return array(name, coefficients, comment)
+
+
+def excess(name, comment, f, end):
+    """(f(t) - 1) / t on [0, end], for a function with f(0) = 1."""
+    return large(name, comment, lambda t: (f(t) - 1) / t, end)
 
 
 # ----------------------------------------------------------------------------------------------------------------------
@@ -73,11 +79,10 @@ def jy():
             return (mpc(mp.besselj(n, x), mp.bessely(n, x)) * mp.sqrt(mp.pi * x / 2)
                     * mp.expj((2 * n + 1) * mp.pi / 4 - x))
         end = mpf(1) / JY_END ** 2
-        parts.append(fitted(f"kModulus{n}", f"Modulus of J{n} + i Y{n} times sqrt(pi x / 2), in powers of 1 / x^2",
-                            lambda z: abs(hankel(1 / mp.sqrt(z))), end, 1))
-        parts.append(fitted(f"kPhase{n}", f"x times argument of J{n} + i Y{n} less x - {'3 ' if n else ''}pi / 4, "
-                            "in powers of 1 / x^2",
-                            lambda z: mp.arg(hankel(1 / mp.sqrt(z))) / mp.sqrt(z), end, mpf(4 * n * n - 1) / 8))
+        parts.append(excess(f"kModulus{n}", f"(m - 1) / z, m the modulus of J{n} + i Y{n} times sqrt(pi x / 2), in powers of "
+                            f"z = 1 / x^2, for x >= {JY_END}", lambda z: abs(hankel(1 / mp.sqrt(z))), end))
+        parts.append(large(f"kPhase{n}", f"x times the argument of J{n} + i Y{n} less x - {'3 ' if n else ''}pi / 4, likewise",
+                           lambda z: mp.arg(hankel(1 / mp.sqrt(z))) / mp.sqrt(z), end))
     pole = -2 / mp.pi
     parts.append(array("kSmallJ0", regular(-1, 0)[1:], "(J0 - 1) / x^2 in powers of x^2, for x < 1/4"))
     parts.append(array("kSmallJ1", regular(-1, 1), "J1 / x, likewise"))
@@ -99,10 +104,10 @@ def ik():
                                splits=[2, 4]))
     for n in (0, 1):
         end = mpf(1) / IK_END
-        parts.append(fitted(f"kLargeI{n}", f"sqrt(x) exp(-x) I{n} in powers of 1 / x, for x >= {IK_END}",
-                            lambda u: mp.besseli(n, 1 / u) * mp.exp(-1 / u) / mp.sqrt(u), end, 1 / mp.sqrt(2 * mp.pi)))
-        parts.append(fitted(f"kLargeK{n}", f"sqrt(x) exp(x) K{n}, likewise",
-                            lambda u: mp.besselk(n, 1 / u) * mp.exp(1 / u) / mp.sqrt(u), end, mp.sqrt(mp.pi / 2)))
+        parts.append(excess(f"kLargeI{n}", f"x (sqrt(2 pi x) exp(-x) I{n} - 1) in powers of 1 / x, for x >= {IK_END}",
+                            lambda u: mp.besseli(n, 1 / u) * mp.exp(-1 / u) * mp.sqrt(2 * mp.pi / u), end))
+        parts.append(excess(f"kLargeK{n}", f"x (sqrt(2 x / pi) exp(x) K{n} - 1), likewise",
+                            lambda u: mp.besselk(n, 1 / u) * mp.exp(1 / u) * mp.sqrt(2 / (mp.pi * u)), end))
     parts.append(array("kSmallI0", regular(1, 0)[1:], "(I0 - 1) / x^2 in powers of x^2, for x < 1/4"))
     parts.append(array("kSmallI1", regular(1, 1), "I1 / x, likewise"))
     parts.append(near_constant_series("kSmallK0", logarithmic(1, 0), "K0 + ln(x) I0, likewise"))
@@ -121,15 +126,15 @@ def airy():
     for name, second, slope in functions:
         what = name.replace("Slope", "'")
         f = mp.airybi if second else mp.airyai
-        factor = (1 if second else -1 if slope else 1) / mp.sqrt(mp.pi) / (1 if second else 2)
+        factor = mp.sqrt(mp.pi) * (1 if second else -2 if slope else 2)
 
         def scaled(u):
             x = (mpf(3) / (2 * u)) ** (mpf(2) / 3)
             power = x ** (mpf(-1 if slope else 1) / 4)
-            return f(x, derivative=int(slope)) * power * mp.exp((-1 if second else 1) / u)
-        parts.append(fitted(f"kLarge{name}", f"{what} times exp({'-' if second else ''}zeta) x^({'-' if slope else ''}1/4), "
-                            f"zeta = 2/3 x^(3/2), in powers of 1 / zeta, for x >= {AIRY_END}",
-                            scaled, 1 / (mpf(2) / 3 * mpf(AIRY_END) ** mpf(1.5)), factor))
+            return f(x, derivative=int(slope)) * power * mp.exp((-1 if second else 1) / u) * factor
+        parts.append(excess(f"kLarge{name}", f"zeta (f - 1), f = {what} over its leading term for large x, in powers of "
+                            f"1 / zeta, zeta = 2/3 x^(3/2), for x >= {AIRY_END}",
+                            scaled, 1 / (mpf(2) / 3 * mpf(AIRY_END) ** mpf(1.5))))
     end = mpf(-1) / AIRY_BEGIN ** 3
     for slope in (0, 1):
         def rotating(x):
@@ -138,12 +143,11 @@ def airy():
             zeta = mpf(2) / 3 * x ** mpf(1.5)
             return y * mp.sqrt(mp.pi) * x ** (mpf(-1 if slope else 1) / 4) * mp.expj(zeta - (2 * slope + 1) * mp.pi / 4)
         name, what = ("Slope", "Ai' + i Bi'") if slope else ("", "Ai + i Bi")
-        limit = mpf(-7 if slope else 5) / 48
-        power = "-1/4" if slope else "1/4"
-        parts.append(fitted(f"kModulus{name}", f"Modulus of ({what})(-x) times sqrt(pi) x^({power}), in powers of 1 / x^3",
-                            lambda w: abs(rotating(1 / mp.cbrt(w))), end, 1))
-        parts.append(fitted(f"kPhase{name}", f"x^(3/2) times argument of ({what})(-x) plus zeta less {'3 ' if slope else ''}pi / 4, "
-                            "likewise", lambda w: mp.arg(rotating(1 / mp.cbrt(w))) / mp.sqrt(w), end, limit))
+        parts.append(excess(f"kModulus{name}", f"(m - 1) / w, m the modulus of ({what})(-x) over its leading term, in powers "
+                            f"of w = 1 / x^3, for x >= {number(-AIRY_BEGIN)}", lambda w: abs(rotating(1 / mp.cbrt(w))), end))
+        parts.append(large(f"kPhase{name}", f"x^(3/2) times the argument of ({what})(-x) plus zeta less "
+                           f"{'3 ' if slope else ''}pi / 4, likewise",
+                           lambda w: mp.arg(rotating(1 / mp.cbrt(w))) / mp.sqrt(w), end))
     return parts
 
 
@@ -162,11 +166,10 @@ def kelvin():
         z = x * series.ROTATION_K
         return mp.besselk(0, z) * mp.exp(z) * mp.sqrt(2 * z / mp.pi)
     end = mpf(1) / KELVIN_K_END
-    root = mp.sqrt(2)
-    parts.append(fitted("kModulus", "Modulus of ker + i kei times sqrt(2 x / pi) exp(x / sqrt(2)), in powers of 1 / x",
-                        lambda u: abs(rotating(1 / u)), end, 1))
-    parts.append(fitted("kPhase", "x times argument of ker + i kei plus x / sqrt(2) + pi / 8, in powers of 1 / x",
-                        lambda u: mp.arg(rotating(1 / u)) / u, end, 1 / (8 * root)))
+    parts.append(excess("kModulus", "x (m - 1), m the modulus of ker + i kei times sqrt(2 x / pi) exp(x / sqrt(2)), in powers "
+                        f"of 1 / x, for x >= {KELVIN_K_END}", lambda u: abs(rotating(1 / u)), end))
+    parts.append(large("kPhase", "x times the argument of ker + i kei plus x / sqrt(2) + pi / 8, likewise",
+                       lambda u: mp.arg(rotating(1 / u)) / u, end))
     # K0(s x) = -ln(x) I0(s x) - i pi/4 I0(s x) + logarithmic part, with s^2 = i and I0(s x) = ber + i bei.
     turned = [mpc(0, 1) ** k * (c - mpc(0, 1) * mp.pi / 4 * r)
               for k, (c, r) in enumerate(zip(logarithmic(1, 0), regular(1, 0)))]
@@ -178,11 +181,25 @@ def kelvin():
     return parts
 
 
+def order():
+    """1 / Gamma(1 + x) = sum c_k x^k, split into its even and odd part, for |x| <= 1/2."""
+    terms = 24  # 2^-24 c_24 < 2^-90
+    c = mp.taylor(lambda x: mp.rgamma(1 + x), 0, terms - 1)
+    parts = []
+    for name, what, coefficients in (("kReciprocalGammaEven", "Half the sum of 1 / Gamma(1 + x) and 1 / Gamma(1 - x)", c[0::2]),
+                                     ("kReciprocalGammaOdd", "Half their difference, over x", c[1::2])):
+        body = lines([mp.nstr(x, 25) + "L" for x in coefficients])
+        parts.append(f"// {what}, in powers of x^2, for |x| <= 1/2\n"
+                     f"inline constexpr std::array<long double, {len(coefficients)}> {name} = {{\n{body}}};\n")
+    return parts
+
+
 TABLES = {
     "jy": ("bessel_jy", "Bessel functions J0, J1, Y0, Y1.", jy),
     "ik": ("bessel_ik", "Modified Bessel functions I0, I1, K0, K1.", ik),
     "airy": ("airy", "Airy functions and their derivatives.", airy),
     "kelvin": ("kelvin", "Kelvin functions.", kelvin),
+    "order": ("bessel_order", "Bessel functions of fractional order.", order),
 }
 
 
@@ -190,11 +207,12 @@ def main():
     for key in sys.argv[1:] or TABLES:
         stem, purpose, make = TABLES[key]
         path = os.path.normpath(os.path.join(FOLDER, stem + "_tables.hpp"))
+        text = "\n".join(make())
         with open(path, "w", encoding="utf-8") as file:
             file.write(f"// {purpose}\n// Made by tools/special/make_bessel_tables.py: do not edit.\n#pragma once\n\n"
                        '#include "special/piecewise.hpp"\n\n// clang-format off\n'
-                       f"namespace kor::special::tables::{stem} {{\n\n" + "\n".join(make())
-                       + f"\n}} // namespace kor::special::tables::{stem}\n// clang-format on\n")
+                       f"namespace kor::special::tables::{stem} {{\n\n{text}"
+                       f"\n}} // namespace kor::special::tables::{stem}\n// clang-format on\n")
         print(path)
 
 
