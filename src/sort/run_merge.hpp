@@ -63,7 +63,9 @@ class RunMerge {
         int depth = 0;
         pending[depth++] = {low, middle, high};
         while (depth > 0) {
-            auto [first, second, end] = pending[--depth];
+            --depth;
+            std::ptrdiff_t first = pending[depth].low, end = pending[depth].high;
+            const std::ptrdiff_t second = pending[depth].middle;
             if (first == second || second == end || !before(second, second - 1)) continue;
             // What is in its place already, at the front and at the end.
             first = partition_point(first, second, [&](auto i) { return !before(second, i); });
