@@ -73,8 +73,7 @@ class Arrays {
     }
 
   private:
-    static constexpr std::size_t kTotal = 1
-                                          << 18; // bytes, well within the second-level cache, unless one array has more
+    static constexpr std::size_t kFewest = 65536; // elements in all: more than a predictor of branches remembers
 
     static double key(const Record &record)
     {

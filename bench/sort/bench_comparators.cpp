@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <numeric>
 
-#include "../sort/arrays.hpp"
+#include "sort/arrays.hpp"
 #include "support/ratio_table.hpp"
 
 #ifdef KOR_HAVE_BOOST

@@ -1,7 +1,7 @@
 // Sorting doubles beside the best vectorised sort, and beside those that make the most of order that is there.
 #include <kor/m01.h>
 
-#include "../sort/arrays.hpp"
+#include "sort/arrays.hpp"
 #include "support/ratio_table.hpp"
 
 #ifdef KOR_HAVE_HIGHWAY
