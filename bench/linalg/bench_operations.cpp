@@ -173,6 +173,8 @@ void vectors(int n)
     BLAS("zscal"s, n, const Complex i{0.0, 1.0}; cblas_zscal(n, &i, d.zx.data(), 1));
     OURS("dznrm2"s, n, keep(f06jjc(n, d.zx.data(), 1)));
     BLAS("dznrm2"s, n, keep(cblas_dznrm2(n, d.zx.data(), 1)));
+    OURS("zdscal"s, n, f06jdc(n, -1.0, d.zx.data(), 1));
+    BLAS("zdscal"s, n, cblas_zdscal(n, -1.0, d.zx.data(), 1));
     OURS("izamax"s, n, keep(f06jmc(n, d.zx.data(), 1)));
     BLAS("izamax"s, n, keep(cblas_izamax(n, d.zx.data(), 1)));
 }

@@ -48,6 +48,20 @@ TEST(Cholesky, FactorsReproduceTheMatrix)
             }
 }
 
+TEST(Cholesky, PivotsFarApart)
+{
+    // An element divided by its pivot would overflow; divided by the root it does not.
+    for (const Integer uplo : kTriangles) {
+        double a[] = {0x1p-1060, 0x1p-32, 0x1p-32, 0x1p1000};
+        Record fail;
+        f07fdc(uplo, 2, a, 2, &fail);
+        EXPECT_SUCCESS(fail);
+        EXPECT_EQ(a[0], 0x1p-530);
+        EXPECT_EQ(a[uplo == UpperTriangle ? 1 : 2], 0x1p498);
+        EXPECT_EQ(a[3], 0x1p498 * std::sqrt(15.0));
+    }
+}
+
 TEST(Cholesky, TellsTheMinorThatIsNotPositive)
 {
     for (const Integer n : {1, 2, 5, 12, 40, 100})
