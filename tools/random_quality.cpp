@@ -279,7 +279,14 @@ void simple_laws()
     }
 }
 
-constexpr double kLogLeast = -745.1332191019412; // log of 2^-1075: what is below rounds to 0
+// Next to 0 a part of a law that behaves as c x^a there lies on single doubles: the probability of what rounds to less than
+// x, with `edge` = -1/2, or to x or less, with `edge` = 1/2.
+constexpr double kTiny = 1e-290;
+double tiny_part(double log_c, double a, double x, double edge)
+{
+    const long double end = static_cast<long double>(x) + edge * 0x1p-1074L;
+    return end > 0.0L ? std::exp(log_c + a * static_cast<double>(std::log(end))) : 0.0;
+}
 
 void gammas()
 {
@@ -287,9 +294,11 @@ void gammas()
         start();
         Values x(kDraws);
         g05ffc(a, 1.0, kDraws, x.data(), nullptr);
-        const double at_0 = std::exp(a * kLogLeast - std::lgamma(1.0 + a));
-        const auto cdf = [=](double y) { return y > 0.0 ? boost::math::gamma_p(a, y, kPlain) : at_0; };
-        kolmogorov_smirnov(with("g05ffc", {a}), x, cdf, [=](double y) { return y > 0.0 ? cdf(y) : 0.0; });
+        const auto cdf = [=](double y, double edge) {
+            return y > kTiny ? boost::math::gamma_p(a, y, kPlain) : tiny_part(-std::lgamma(1.0 + a), a, y, edge);
+        };
+        kolmogorov_smirnov(
+            with("g05ffc", {a}), x, [=](double y) { return cdf(y, 0.5); }, [=](double y) { return cdf(y, -0.5); });
     }
 }
 
@@ -301,16 +310,15 @@ void betas()
         start();
         Values x(kDraws);
         g05fec(a, b, kDraws, x.data(), nullptr);
-        // What rounds to 0, and the half spacing of doubles above 1/2, where single doubles may carry a part of the law.
-        constexpr double kHalfSpacing = 0x1p-54;
-        const double at_0 = std::exp(a * kLogLeast) / (a * boost::math::beta(a, b, kPlain));
+        // Above 1/2, too, single doubles may carry a part of the law.
+        const double log_c = -std::log(a * boost::math::beta(a, b, kPlain));
         const auto cdf = [=, a = a, b = b](double y, double edge) {
-            return y > 0.5 ? boost::math::ibetac(b, a, std::max(0.0, (1.0 - y) - edge), kPlain)
-                           : boost::math::ibeta(a, b, y, kPlain);
+            return y > 0.5     ? boost::math::ibetac(b, a, std::max(0.0, (1.0 - y) - edge * 0x1p-53), kPlain)
+                   : y > kTiny ? boost::math::ibeta(a, b, y, kPlain)
+                               : tiny_part(log_c, a, y, edge);
         };
         kolmogorov_smirnov(
-            with("g05fec", {a, b}), x, [=](double y) { return y == 0.0 ? at_0 : cdf(y, kHalfSpacing); },
-            [=](double y) { return y == 0.0 ? 0.0 : cdf(y, -kHalfSpacing); });
+            with("g05fec", {a, b}), x, [=](double y) { return cdf(y, 0.5); }, [=](double y) { return cdf(y, -0.5); });
     }
 }
 

@@ -11,6 +11,7 @@
 #include "random/fill_uniform.hpp"
 #include "random/gamma_laws.hpp"
 #include "random/lanes.hpp"
+#include "random/poisson_law.hpp"
 #include "random/recurrence.hpp"
 #include "support/ulp.hpp"
 
@@ -158,6 +159,22 @@ TEST(Elementary, KeepsItsAccuracy)
     EXPECT_EQ(lane_exp(-745.0).value, 0x1p-1074);
     EXPECT_EQ(lane_exp(1e300).value, std::numeric_limits<double>::infinity());
     EXPECT_EQ(lane_log(1.0), 0.0);
+}
+
+TEST(PoissonLaw, ExactTestUsesTheRightProbabilities)
+{
+    // Either side of the switches: table and Stirling's series (mean 87), series and logarithm (2.2 percent from the mean).
+    for (const double mean : {7.5, 20.0, 86.99, 87.0, 88.0, 1000.0, 1e6, 1e9}) {
+        PoissonConstants c = poisson_constants(mean);
+        for (const double away : {-0.9, -0.3, -0.0221, -0.0219, -1e-3, 0.0, 1e-3, 0.0219, 0.0221, 0.3, 0.9}) {
+            const double k = std::floor(mean * (1.0 + away));
+            const long double exact = k * std::log(static_cast<long double>(mean)) - mean - std::lgamma(k + 1.0L) +
+                                      0.5L * std::log(2.0L * std::acos(-1.0L) * mean);
+            // A logarithm of relative error 2^-53 is multiplied by k; the reference loses what cancels in it.
+            const double tolerance = 1e-14 + 4e-16 * k + 1e-18 * mean * std::log(mean);
+            EXPECT_NEAR(log_relative_mass(c, k), static_cast<double>(exact), tolerance) << mean << " " << k;
+        }
+    }
 }
 
 } // namespace
