@@ -594,7 +594,7 @@ void g05fec(double a, double b, Integer n, double x[], KorError *fail);
 /// \param[in]  a the shape, greater than 0, at most 1e300
 /// \param[in]  b the scale, greater than 0
 /// \param[in]  n how many, at least 1
-/// \param[out] x n elements: the deviates. With a small shape a part of the law lies below the smallest double (half of it
+/// \param[out] x n elements: the deviates. With a small shape a part of the law of scale 1 lies below the smallest double (half of it
 ///               with shape 0.001): such deviates are 0
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///

@@ -53,11 +53,12 @@ class BetaBelow1 {
     BetaBelow1(double first, double second)
     {
         // Where both are as small as this the law sits on 0 and 1, and only the ratio of the parameters counts.
-        constexpr double kTiny = 1e-200, kLift = 0x1p200, kLeast = 1e-300;
+        constexpr double kTiny = 1e-200, kLift = 0x1p200, kLeast = 1e-300, kLargestRatio = 1e300;
         const double lift = std::max(first, second) < kTiny ? kLift : 1.0;
         a_ = std::max(first, second) * lift;
         b_ = std::max(std::min(first, second) * lift, kLeast);
         sum_ = a_ + b_;
+        ratio_ = std::min(a_ / b_, kLargestRatio);
         of_a_ = first >= second ? 1.0 : 0.0;
         of_b_ = 1.0 - of_a_;
     }
@@ -74,13 +75,13 @@ class BetaBelow1 {
         const double past = size > kFar ? size - kFar : 0.0, beyond = positive ? 0.0 : past;
         const double log_ratio = -sum_ * (lane_log1p(b_ / sum_ * growth).value + beyond);
         // w / (b + w) = part / (part + other)
-        const double part = positive ? a_ : a_ * decay, other = positive ? b_ * decay : b_;
+        const double part = positive ? 1.0 : decay * ratio_, other = positive ? decay / ratio_ : 1.0;
         const double x = share_of(of_a_ * part + of_b_ * other, of_b_ * part + of_a_ * other);
         return {x, u1 * u1 * u2, log_ratio - kLog4};
     }
 
   private:
-    double a_, b_, sum_, of_a_, of_b_;
+    double a_, b_, sum_, ratio_, of_a_, of_b_;
 };
 
 } // namespace kor::random
