@@ -1,16 +1,17 @@
 /// \file g05.h
 /// Chapter g05: random numbers.
 ///
-/// All routines draw from one uniform generator, of which each thread has its own: x(i+1) = 13^13 x(i) mod 2^59, delivered
-/// as x / 2^59 rounded to double. A thread that has not been seeded starts from the same default value as every other: give
-/// each thread a seed of its own, and draw these seeds with g05dyc(0, 2147483647) rather than count them. Drawing takes no
-/// lock, and nothing is shared between threads. All results are the same bits on every processor.
+/// All routines draw from one uniform generator, of which each thread has its own: x(i+1) = 13^13 x(i) mod 2^59,
+/// delivered as x / 2^59 rounded to double. A thread that has not been seeded starts from the same default value as
+/// every other: give each thread a seed of its own, and draw these seeds with g05dyc(0, 2147483647) rather than count
+/// them. Drawing takes no lock, and nothing is shared between threads. All results are the same bits on every
+/// processor.
 ///
-/// The generator serves simulation of ordinary size. Its period is 2^57, about 1.4 10^17; one simulation should stay below
-/// the square root of that, 4 10^8 numbers. Successive k-tuples lie on a lattice, as those of every generator of this
-/// kind, and the low bits of x have short periods. Streams keep the ratios of their seeds: with seeds 0 and 1 the numbers of
-/// one are three times those of the other, modulo 1; with three seeds in a row u - 2 v + w is an integer at every step. It
-/// is not fit for cryptography. The guide of the chapter says more.
+/// The generator serves simulation of ordinary size. Its period is 2^57, about 1.4 10^17; one simulation should stay
+/// below the square root of that, 4 10^8 numbers. Successive k-tuples lie on a lattice, as those of every generator of
+/// this kind, and the low bits of x have short periods. Streams keep the ratios of their seeds: with seeds 0 and 1 the
+/// numbers of one are three times those of the other, modulo 1; with three seeds in a row u - 2 v + w is an integer at
+/// every step. It is not fit for cryptography. The guide of the chapter says more.
 #ifndef KOR_G05_H
 #define KOR_G05_H
 
@@ -33,8 +34,8 @@ typedef struct {
 /// \par Accuracy
 /// The number is x / 2^59 rounded once; what would round to 1 becomes 1 - 2^-53.
 /// \par Method
-/// Multiplicative congruential generator, x(i+1) = 13^13 x(i) mod 2^59, x odd; period 2^57. Sixty-three numbers are made at
-/// a time and wait in a buffer. D. H. Lehmer, Ann. Comput. Lab. Harvard 26 (1951) 141-146.
+/// Multiplicative congruential generator, x(i+1) = 13^13 x(i) mod 2^59, x odd; period 2^57. Sixty-three numbers are
+/// made at a time and wait in a buffer. D. H. Lehmer, Ann. Comput. Lab. Harvard 26 (1951) 141-146.
 /// \par Thread safety
 /// Safe, without a lock: each thread has its own stream.
 /// \par Example
@@ -63,8 +64,8 @@ void g05cbc(Integer seed);
 
 /// \brief Starts this thread's stream from the clock: a different stream in each call.
 ///
-/// The seed is the time in seconds, or one more than the last seed from the clock if that is not less, in any thread. Save
-/// the state with g05cfc() where a run must be repeatable after all.
+/// The seed is the time in seconds, or one more than the last seed from the clock if that is not less, in any thread.
+/// Save the state with g05cfc() where a run must be repeatable after all.
 ///
 /// \par Errors
 /// - NE_SYSTEM_TIME: the clock cannot be read. There is no record to report to: the process ends.
@@ -78,8 +79,8 @@ void g05ccc(void);
 
 /// \brief Puts this thread's stream back to its default start.
 ///
-/// The stream is then the one that a thread has when it draws without any seeding; no term is skipped. What samplers carry
-/// over is discarded.
+/// The stream is then the one that a thread has when it draws without any seeding; no term is skipped. What samplers
+/// carry over is discarded.
 ///
 /// \par Errors
 /// None.
@@ -123,8 +124,8 @@ void g05cfc(Integer istate[], double xstate[]);
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
-/// - NE_STATE_CORRUPT: the arrays do not hold a saved state: a check sum does not agree, or an element cannot be. The stream
-///   goes on as it was.
+/// - NE_STATE_CORRUPT: the arrays do not hold a saved state: a check sum does not agree, or an element cannot be. The
+///   stream goes on as it was.
 /// \par Thread safety
 /// Safe: it concerns this thread alone.
 /// \par Example
@@ -194,8 +195,8 @@ double g05dbc(double a);
 /// The law is exact down to tails of 2^-40; deviates beyond 7.1 standard deviations are not made.
 /// \par Method
 /// Random bits choose an interval between normal quantiles, comparisons of uniform numbers a point in it: no elementary
-/// function is formed. R. P. Brent, Comm. ACM 17 (1974) 704-706. It uses two uniform numbers or more, about 2.5 in the mean,
-/// and carries a fraction over to its next call. g05fdc() is faster for many deviates.
+/// function is formed. R. P. Brent, Comm. ACM 17 (1974) 704-706. It uses two uniform numbers or more, 2.4 in the
+/// mean, and carries a fraction over to its next call. g05fdc() is faster for many deviates.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -239,8 +240,8 @@ double g05dfc(double a, double b);
 /// - NE_REAL_ARG_NON_INTEGRAL: 2g is not an integer.
 /// - NE_REAL_ARG_GT: 2g is greater than 2147483647.
 /// \par Method
-/// A sum of exponential deviates and, for odd 2g, half the square of a normal deviate; these come in pairs, and the spare
-/// one waits for the next call. The time is proportional to g: g05ffc() takes any shape at the same cost.
+/// A sum of exponential deviates and, for odd 2g, half the square of a normal deviate; these come in pairs, and the
+/// spare one waits for the next call. The time is proportional to g: g05ffc() takes any shape at the same cost.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -260,8 +261,8 @@ double g05dgc(double g, double b, KorError *fail);
 /// \par Errors
 /// None through a record: `status`, and a line on the standard output stream.
 /// \par Method
-/// Means below 7.5: products of uniform numbers. Others: ratio of uniforms, three uniform numbers a trial, J. H. Ahrens and
-/// U. Dieter, Computing 25 (1980) 193-208. For a mean that stays the same g05ecc() and g05eyc() are faster.
+/// Means below 7.5: products of uniform numbers. Others: ratio of uniforms, three uniform numbers a trial, J. H. Ahrens
+/// and U. Dieter, Computing 25 (1980) 193-208. For a mean that stays the same g05ecc() and g05eyc() are faster.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -296,9 +297,9 @@ Integer g05dyc(Integer a, Integer b);
 /// \param[in]  n   the number of variables, at least 1
 /// \param[in]  c   n rows of `tdc` elements: the covariance matrix; the lower triangle is read
 /// \param[in]  tdc the length of the rows of `c`, at least n
-/// \param[in]  eps a conditional variance (of a variable, given those before it) between -eps and eps times the variance
-///                 is taken for 0; at least 0, at most 0.1 / n. Use 0 for a matrix that is right to rounding error: then
-///                 4 n machine precisions are taken
+/// \param[in]  eps the relative accuracy of `c`: faults up to eps times the variances (a negative variance in what is left
+///                 of a variable when others are given, a covariance where no variance is left) are taken for rounding
+///                 errors; at least 0, at most 0.1 / n. Use 0 for a matrix that is right to the last digits
 /// \param[out] r   `lr` elements, of which (n+1)(n+2)/2 are used: n, the means, the columns of L
 /// \param[in]  lr  the length of `r`, at least (n+1)(n+2)/2 + 1
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
@@ -313,10 +314,12 @@ Integer g05dyc(Integer a, Integer b);
 ///
 /// `r` is untouched after an error.
 /// \par Accuracy
-/// L L' differs from c by a small multiple of n machine precisions times the variances, or by `eps` times them.
+/// L L' differs from c by at most about 8 n machine precisions times the variances (or, where that much is wrong with c, by
+/// eps times them), however near to singular c is.
 /// \par Method
-/// Cholesky's factorisation without exchanges, with the treatment of zero pivots of M. J. R. Healy, Appl. Statist. 17
-/// (1968) 195-197.
+/// Cholesky's factorisation, in the order of the variables. Where it fails, because c is singular to rounding error or
+/// worse: with the largest remaining variance first, N. J. Higham, in Reliable Numerical Computation (1990) 161-185, and an
+/// LQ factorisation that makes the factor triangular.
 /// \par Thread safety
 /// Safe. The vector may be read by several threads at once.
 /// \par Example
@@ -346,8 +349,8 @@ void g05eac(const double a[], Integer n, const double c[], Integer tdc, double e
 ///
 /// `r` is untouched after an error.
 /// \par Accuracy
-/// Values outside the table, of a total probability below 2e-12, are not made; the probabilities of the others are right to
-/// about 1e-15 of their sum.
+/// Values outside the table, of a total probability below 2e-12, are not made; the probabilities of the others are
+/// right to about 1e-15 of their sum.
 /// \par Method
 /// Ratios of neighbouring probabilities, from the mode outwards; indexed search, H. C. Chen and Y. Asau, AIIE Trans. 6
 /// (1974) 163-166.
@@ -368,7 +371,8 @@ void g05ecc(double t, double r[], Integer nr, KorError *fail);
 /// \param[in]  n  the number of trials, not negative
 /// \param[in]  p  the probability of success in a trial, from 0 to 1
 /// \param[out] r  `nr` elements
-/// \param[in]  nr the length of `r`, at least trunc(20 sqrt(n p (1 - p))) + 20; a longer one makes g05eyc() a little faster
+/// \param[in]  nr the length of `r`, at least trunc(20 sqrt(n p (1 - p))) + 20; a longer one makes g05eyc() a little
+///                faster
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
@@ -394,15 +398,16 @@ void g05edc(Integer n, double p, double r[], Integer nr, KorError *fail);
 
 /// \brief Sets up the reference vector of any discrete law, for g05eyc().
 ///
-/// The law gives the values ip1, ip1 + 1, ..., ip1 + np - 1. Its probabilities, or cumulative probabilities, are divided by
-/// their total: weights of any total serve as well.
+/// The law gives the values ip1, ip1 + 1, ..., ip1 + np - 1. Its probabilities, or cumulative probabilities, are
+/// divided by their total: weights of any total serve as well.
 ///
 /// \param[in]  p         np elements: probabilities, not negative; or cumulative probabilities, not decreasing
 /// \param[in]  np        the number of values, at least 1
 /// \param[in]  ip1       the value to which `p[0]` belongs
 /// \param[in]  comp_type Kor_PDF: `p` holds probabilities; Kor_CDF: cumulative ones
 /// \param[out] r         `nr` elements; must not overlap `p`
-/// \param[in]  nr        the length of `r`, at least trunc(1.4 np + 0.5) + 5; a longer one makes g05eyc() a little faster
+/// \param[in]  nr        the length of `r`, at least trunc(1.4 np + 0.5) + 5; a longer one makes g05eyc() a little
+///                       faster
 /// \param[in,out] fail   the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
@@ -436,8 +441,8 @@ void g05exc(const double p[], Integer np, Integer ip1, Integer comp_type, double
 /// \return the integer; 0 when `r` is not such a vector
 ///
 /// \par Errors
-/// There is no record. Where it shows that `r` was never set up, or belongs to g05ezc(), the text of NE_REF_VEC goes to the
-/// standard error stream and nothing is drawn.
+/// There is no record. Where it shows that `r` was never set up, or belongs to g05ezc(), the text of NE_REF_VEC goes to
+/// the standard error stream and nothing is drawn.
 /// \par Accuracy
 /// That of the table.
 /// \par Method
@@ -456,8 +461,8 @@ Integer g05eyc(const double r[]);
 /// \param[in]  r the vector that g05eac() has set up
 ///
 /// \par Errors
-/// There is no record. Where it shows that `r` was never set up, or belongs to g05eyc(), the text of NE_REF_VEC goes to the
-/// standard error stream, nothing is drawn and `z` is untouched.
+/// There is no record. Where it shows that `r` was never set up, or belongs to g05eyc(), the text of NE_REF_VEC goes to
+/// the standard error stream, nothing is drawn and `z` is untouched.
 /// \par Thread safety
 /// Safe; threads may share a reference vector.
 /// \par Example
@@ -473,8 +478,8 @@ void g05ezc(double z[], const double r[]);
 /// \par Errors
 /// - NE_INT_ARG_LT: `n` is less than 1. The report calls the routine "G05EHC".
 /// \par Method
-/// n - 1 exchanges, one uniform number each. R. Durstenfeld, Comm. ACM 7 (1964) 420. A stream of period 2^57 reaches all
-/// orders of 18 elements at most.
+/// n - 1 exchanges, one uniform number each. R. Durstenfeld, Comm. ACM 7 (1964) 420. A stream of period 2^57 reaches
+/// all orders of 18 elements at most.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -534,8 +539,8 @@ void g05fac(double a, double b, Integer n, double x[]);
 
 /// \brief Normal deviates in bulk.
 ///
-/// The deviates come in pairs: a + b r cos(t), a + b r sin(t) with r = sqrt(-2 log U), t = 2 pi V. With an odd number of
-/// them one is in hand at the end; it is the first of the next call.
+/// The deviates come in pairs: a + b r cos(t), a + b r sin(t) with r = sqrt(-2 log U), t = 2 pi V. With an odd number
+/// of them one is in hand at the end; it is the first of the next call.
 ///
 /// \param[in]  a the mean
 /// \param[in]  b the standard deviation
@@ -566,8 +571,8 @@ void g05fdc(double a, double b, Integer n, double x[]);
 /// \param[in]  a the first parameter, greater than 0, at most 1e300
 /// \param[in]  b the second parameter, greater than 0, at most 1e300
 /// \param[in]  n how many, at least 1
-/// \param[out] x n elements: the deviates. Small parameters put a part of the law below the smallest or next to 1 beyond
-///               the largest double below it: such deviates are 0 or 1
+/// \param[out] x n elements: the deviates. Small parameters put a part of the law below the smallest or next to 1
+///               beyond the largest double below it: such deviates are 0 or 1
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
@@ -576,8 +581,8 @@ void g05fdc(double a, double b, Integer n, double x[]);
 /// - NE_INT_ARG_LE: `n` is less than 1.
 /// \par Method
 /// R. C. H. Cheng, Comm. ACM 21 (1978) 317-322: algorithm BB where both parameters are greater than 1, else BC. A trial
-/// takes two uniform numbers; a deviate takes at most 1.5 trials with BB, from 1 to 2 with BC in most cases and 4 where one
-/// parameter is tiny and the other 1.
+/// takes two uniform numbers; a deviate takes at most 1.5 trials with BB, from 1 to 2 with BC in most cases and 4 where
+/// one parameter is tiny and the other 1.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -594,8 +599,8 @@ void g05fec(double a, double b, Integer n, double x[], KorError *fail);
 /// \param[in]  a the shape, greater than 0, at most 1e300
 /// \param[in]  b the scale, greater than 0
 /// \param[in]  n how many, at least 1
-/// \param[out] x n elements: the deviates. With a small shape a part of the law of scale 1 lies below the smallest double (half of it
-///               with shape 0.001): such deviates are 0
+/// \param[out] x n elements: the deviates. With a small shape a part of the law lies below the smallest double, even
+///               before it is multiplied by b (half of it with shape 0.001): such deviates are 0
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
@@ -603,10 +608,10 @@ void g05fec(double a, double b, Integer n, double x[], KorError *fail);
 /// - NE_REAL_ARG_GT: `a` is greater than 1e300.
 /// - NE_INT_ARG_LE: `n` is less than 1.
 /// \par Method
-/// Shape 1: -b log U. Above 1: rejection from Student's t with two degrees of freedom, D. J. Best, Appl. Statist. 27 (1978)
-/// 181-182. Below 1: rejection from a power and an exponential tail, J. H. Ahrens and U. Dieter, Computing 12 (1974)
-/// 223-246, joined where L. Devroye, Non-Uniform Random Variate Generation (1986), has them. A trial takes two uniform
-/// numbers; a deviate takes 1 to 1.3 trials below 1, 3 just above 1, 1.9 with shape 1.5, 1.4 with large shapes.
+/// Shape 1: -b log U. Above 1: rejection from Student's t with two degrees of freedom, D. J. Best, Appl. Statist. 27
+/// (1978) 181-182. Below 1: rejection from a power and an exponential tail, J. H. Ahrens and U. Dieter, Computing 12
+/// (1974) 223-246, joined where L. Devroye, Non-Uniform Random Variate Generation (1986), has them. A trial takes two
+/// uniform numbers; a deviate takes 1 to 1.3 trials below 1, 3 just above 1, 1.9 with shape 1.5, 1.4 with large shapes.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -618,8 +623,8 @@ void g05ffc(double a, double b, Integer n, double x[], KorError *fail);
 
 /// \brief A realisation of an ARMA process, stationary from its first value.
 ///
-/// z[t] = phi[0] z[t-1] + ... + phi[p-1] z[t-p] + e[t] - theta[0] e[t-1] - ... - theta[q-1] e[t-q], with normal e of mean 0
-/// and variance `vara`. (Note the signs of theta, those of Box and Jenkins.)
+/// z[t] = phi[0] z[t-1] + ... + phi[p-1] z[t-p] + e[t] - theta[0] e[t-1] - ... - theta[q-1] e[t-q], with normal e of
+/// mean 0 and variance `vara`. (Note the signs of theta, those of Box and Jenkins.)
 ///
 /// \param[in]  p     the order of the autoregression, not negative
 /// \param[in]  q     the order of the moving average, not negative
@@ -640,9 +645,9 @@ void g05ffc(double a, double b, Integer n, double x[], KorError *fail);
 /// \par Accuracy
 /// The law of the series is exact from its first value: there is no run-in.
 /// \par Method
-/// The autoregression is drawn through its predictions, whose coefficients follow from phi by the Levinson recursion run
-/// downwards (all reflection coefficients below 1: stationary); then the moving average is taken. It takes n + q deviates
-/// of g05ddc(). J. Durbin, Rev. Int. Statist. Inst. 28 (1960) 233-244.
+/// The autoregression is drawn through its predictions, whose coefficients follow from phi by the Levinson recursion
+/// run downwards (all reflection coefficients below 1: stationary); then the moving average is taken. It takes n + q
+/// deviates of g05ddc(). J. Durbin, Rev. Int. Statist. Inst. 28 (1960) 233-244.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -667,15 +672,15 @@ void g05hac(Integer p, Integer q, const double phi[], const double theta[], doub
 /// \param[in]     gamma the asymmetry; 0 for a symmetric process
 /// \param[in]     fcall Kor_Garch_Fcall_True: a new series; Kor_Garch_Fcall_False: the series of the last call goes on
 /// \param[in,out] ht    num + max(p, q) elements: on return the variances in the first `num`, and behind them, oldest
-///                      first, the last max(p, q) of the series, which a call with Kor_Garch_Fcall_False reads there (move
-///                      them to ht[num] when `num` changes)
+///                      first, the last max(p, q) of the series, which a call with Kor_Garch_Fcall_False reads there
+///                      (move them to ht[num] when `num` changes)
 /// \param[in,out] et    num + max(p, q) elements: the observations, kept in the same way
 /// \param[in,out] fail  the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
 /// - NE_INT_ARG_LT: `num` or `q` is less than 1, or `p` negative.
-/// - NE_ARRAY_CONS: an element of `theta` is out of range; or, with Kor_Garch_Fcall_False, `ht` and `et` do not hold what
-///   a call before left there.
+/// - NE_ARRAY_CONS: an element of `theta` is out of range; or, with Kor_Garch_Fcall_False, `ht` and `et` do not hold
+///   what a call before left there.
 /// - NE_REAL_ARG_CONS: `gamma` is not finite.
 /// - NE_BAD_PARAM: `fcall` is neither of the two.
 /// - NE_STATIONARITY: a new series is wanted of a process without a stationary variance: the sum of all coefficients is
@@ -684,7 +689,8 @@ void g05hac(Integer p, Integer q, const double phi[], const double theta[], doub
 /// `ht` and `et` are untouched after an error.
 /// \par Method
 /// A new series starts at the stationary variance and runs unseen until a disturbance has died down to 2^-53, for `num`
-/// steps at least and about 100,000 at most; deviates of g05ddc(). R. F. Engle and V. K. Ng, J. Finance 48 (1993) 1749-1778.
+/// steps at least and about 100,000 at most; deviates of g05ddc(). R. F. Engle and V. K. Ng, J. Finance 48 (1993)
+/// 1749-1778.
 /// \par Thread safety
 /// Safe.
 /// \par Example
