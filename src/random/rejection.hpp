@@ -20,8 +20,7 @@ void sample_by_rejection(State &state, const Tries tries, std::ptrdiff_t n, doub
         // Most often two trials in three succeed, or more.
         const std::ptrdiff_t wanted = n + n / 2 + 1;
         const std::ptrdiff_t trials = std::min(kTrials, (wanted + kTrialStep - 1) / kTrialStep * kTrialStep);
-        double u[2 * kTrials], candidate[kTrials];
-        double taken[kTrials];
+        double u[2 * kTrials], candidate[kTrials], taken[kTrials];
         ahead.peek(2 * trials, u);
         tries(trials, u, candidate, taken);
         std::ptrdiff_t tried = 0, kept = 0;

@@ -11,7 +11,7 @@
 namespace kor::random {
 
 inline constexpr std::ptrdiff_t kBuffer = 63;   // numbers made at a time
-inline constexpr double kNoSpareNormal = 256.0; // never a deviate: no normal deviate of 53 bits reaches 9
+inline constexpr double kNoSpareNormal = 256.0; // never a deviate: sqrt(-2 log 2^-59) is 9.04
 inline constexpr double kNoSpareSquare = -1.0;
 inline constexpr double kFirstFraction = 1.0;
 
