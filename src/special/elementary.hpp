@@ -208,44 +208,49 @@ KOR_INLINE ReducedAngle reduce_angle_pi(double x)
 // Sine and cosine of pi x, x any finite double. Zeros are exact.
 KOR_INLINE SineAndCosine extended_sine_cosine_pi(double x) { return extended_sine_cosine_reduced(reduce_angle_pi(x)); }
 
-// The sine alone, of r in [-pi/2 (1 + 2^-20), pi/2 (1 + 2^-20)].
-KOR_INLINE DoubleDouble extended_sine(DoubleDouble r)
-{
-    const ArcStep step = nearest_arc_step(r);
-    const DoubleDouble c_sine = two_product(step.c.hi, step.sine.hi);
-    const DoubleDouble sum = fast_two_sum(step.s.hi, c_sine.hi);
-    return fast_two_sum(sum.hi, step.s.hi * step.versine +
-                                    (c_sine.lo + step.c.hi * step.sine.lo + step.c.lo * step.sine.hi) +
-                                    (sum.lo + step.s.lo));
-}
-
-// sin(pi x), x any finite double. Zeros are exact.
+// sin(pi x), x any finite double; relative error 2^-60. Zeros are exact. With |x - n| = j/128 + d, both without error, it is
+// S + C pi d + ..., and C pi has few enough bits in its high part for an exact product with the upper half of d.
 KOR_INLINE DoubleDouble extended_sine_pi(double x)
 {
+    using namespace tables;
     constexpr double kSmall = 0x1p30;
     const double within = std::fabs(x) < kSmall ? x : std::fmod(x, 2.0);
     const NearestInteger n = nearest_integer(within);
-    return extended_sine(tables::kPi * (within - n.value)).scaled(1 - 2 * (n.count & 1));
+    const double r = within - n.value, size = std::fabs(r);
+    const NearestInteger j = nearest_integer(128.0 * size);
+    const auto &[s, c, c_pi] = kSinePi[j.count];
+
+    const double d = size - j.value * (1.0 / 128), d_1 = upper_half(d), d_2 = d - d_1, square = d * d;
+    const DoubleDouble sum = fast_two_sum(s.hi, c_pi.hi * d_1);
+    const double bend =
+        square * (s.hi * polynomial(kVersinePiSeries, square) + c * (d * polynomial(kSinePiSeries, square)));
+    const double rest = s.lo + (c_pi.lo * d_1 + (c_pi.hi + c_pi.lo) * d_2);
+    const double sign = std::copysign(1.0, r) * (1 - 2 * (n.count & 1));
+    return fast_two_sum(sum.hi, sum.lo + (rest + bend)).scaled(sign);
 }
 
-// Tangent of a reduced angle, relative error 2^-57. With r = j pi/128 + d and T = tan(j pi/128) it is the quotient of
-// T + tan d and 1 - T tan d; in odd quadrants minus the reciprocal quotient.
-KOR_INLINE DoubleDouble extended_tangent_reduced(ReducedAngle angle)
+// Tangent of a reduced angle, within 0.8 ulp: tan r, or -cot r in odd quadrants. With r = j pi/128 + d, w = tan d and V the
+// tangent or cotangent of the table: V + side (1 + V^2) w / (1 - side V w), side -1 for the cotangent; next to 0 series.
+KOR_INLINE double tangent_reduced(ReducedAngle angle)
 {
     using namespace tables;
+    constexpr double kSeriesBelow = 0.1;
     const DoubleDouble r = angle.r;
-    const NearestInteger j = nearest_integer(r.hi * kArcStepsPerRadian);
-    const DoubleDouble t = kTangents[std::abs(j.count)].scaled(std::copysign(1.0, r.hi));
-    const DoubleDouble d = two_sum(r.hi - j.value * kArcStepHigh, r.lo - j.value * kArcStepLow);
-    const double square = d.hi * d.hi, bend = d.hi * (square * polynomial(kTangentSeries, square));
-
-    const DoubleDouble sum = two_sum(t.hi, d.hi);
-    DoubleDouble numerator = fast_two_sum(sum.hi, sum.lo + (t.lo + (d.lo + bend)));
-    DoubleDouble denominator = fast_two_sum(1.0, -t.hi * (d.hi + bend));
     const bool odd = angle.quadrant & 1;
-    swap_if(odd, numerator.hi, denominator.hi);
-    swap_if(odd, numerator.lo, denominator.lo);
-    return (numerator / denominator).scaled(odd ? -1.0 : 1.0);
+    if (std::fabs(r.hi) < kSeriesBelow) {
+        const double square = r.hi * r.hi;
+        if (!odd) return r.hi + (r.lo + r.hi * (square * polynomial(kTangentNearZero, square)));
+        const double reciprocal = 1.0 / r.hi;
+        const DoubleDouble product = two_product(reciprocal, r.hi);
+        const double remainder = ((1.0 - product.hi) - product.lo) - reciprocal * r.lo;
+        return -(reciprocal + (reciprocal * remainder - r.hi * polynomial(kCotangentNearZero, square)));
+    }
+    const NearestInteger j = nearest_integer(r.hi * kArcStepsPerRadian);
+    const double side = odd ? -1.0 : 1.0, sign = std::copysign(side, r.hi * side);
+    const DoubleDouble v = kTangents[odd][std::abs(j.count)];
+    const double d = std::copysign(1.0, r.hi) * ((r.hi - j.value * kArcStepHigh) + (r.lo - j.value * kArcStepLow));
+    const double square = d * d, w = d + d * (square * polynomial(kTangentSeries, square));
+    return sign * (v.hi + (v.lo + side * (1.0 + v.hi * v.hi) * w / (1.0 - side * v.hi * w)));
 }
 
 } // namespace kor::special

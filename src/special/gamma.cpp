@@ -36,11 +36,17 @@ KOR_INLINE DoubleDouble stirling(DoubleDouble x, DoubleDouble log_x)
 
 KOR_INLINE DoubleDouble stirling(double x) { return stirling({x}, extended_log(x)); }
 
-// pi / (sin(pi x) Gamma(1 - x)).
+// ln Gamma(1 + d) is zero at 0 and 1; without a branch.
+KOR_INLINE double distance_from_zero(double d) { return d - static_cast<double>(d >= 0.5); }
+
+// -pi / (x sin(pi x) Gamma(-x)).
 double reflected(double x)
 {
-    const DoubleDouble right = extended_gamma(two_sum(1.0, -x));
-    return (tables::kPi / (extended_sine_pi(x) * right)).rounded();
+    const DoubleDouble x_sine = extended_sine_pi(x) * -x;
+    if (-x < kStirlingFrom)
+        return (tables::kPi / static_cast<DoubleDouble>(tables::kGamma.times(x_sine, {-x}))).rounded();
+    const Exponential e = extended_exp(-stirling(-x));
+    return times_power_of_two((tables::kPi * e.value / x_sine).rounded(), e.exponent);
 }
 
 } // namespace
@@ -64,7 +70,7 @@ double gamma(double x)
 
 DoubleDouble extended_log_gamma_one_plus(double d)
 {
-    return tables::kLogGammaFactor.times({d < 0.5 ? d : d - 1.0}, {d});
+    return tables::kLogGammaFactor.times({distance_from_zero(d)}, {d});
 }
 
 double log_gamma(double x)
@@ -74,7 +80,7 @@ double log_gamma(double x)
     if (x >= 3.0) return tables::kLogGamma.open({x}).rounded();
     if (x >= 0.5) {
         const double d = x - 1.0;
-        return tables::kLogGammaFactor.times({d < 0.5 ? d : d - 1.0}, {d}).rounded();
+        return tables::kLogGammaFactor.times({distance_from_zero(d)}, {d}).rounded();
     }
     if (x >= kLogarithmBelow) return tables::kLogGammaBelowHalf.open({x}).rounded();
     const DoubleDouble log_x = extended_log(x);

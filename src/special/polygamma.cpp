@@ -73,7 +73,7 @@ DoubleDouble extended_digamma(DoubleDouble x)
 // sum, are formed with low parts.
 DoubleDouble magnitude(DoubleDouble x, Integer k)
 {
-    constexpr int kCarefulTerms = 2;
+    constexpr int kCarefulTerms = 4;
     DoubleDouble leading{0.0};
     for (int n = 0; n < kCarefulTerms && x.hi < kSeriesFrom; ++n) {
         leading = leading + 1.0 / power(x, k + 1);

@@ -32,7 +32,7 @@ double s07aac(double x, KorError *fail)
         report.error<NE_FUN_INF>(x);
         return std::copysign(1.0 / nearest, -angle.r.hi);
     }
-    const double value = extended_tangent_reduced(angle).rounded();
+    const double value = tangent_reduced(angle);
     report.success();
     return value;
 }

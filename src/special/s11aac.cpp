@@ -9,13 +9,15 @@
 namespace {
 
 constexpr double kSeriesBelow = 0.25;
+constexpr double kPiecesBelow = 0.875;
 
-// 1/2 ln((1 + x) / (1 - x)), the quotient in two doubles.
+// Next to 1, ln((1 + x) / (1 - x)) / 2, the quotient in two doubles.
 double arctanh(double x)
 {
     using namespace kor::special;
     if (x < kSeriesBelow) return odd_function(tables::kArctanhSeries, x);
-    return 0.5 * extended_log(two_sum(1.0, x) / two_sum(1.0, -x)).rounded();
+    if (x < kPiecesBelow) return tables::kArctanh.open({x}).rounded();
+    return 0.5 * extended_log(two_sum(1.0, x) / DoubleDouble{1.0 - x}).rounded();
 }
 
 } // namespace

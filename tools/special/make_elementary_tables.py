@@ -62,7 +62,7 @@ def sine_cosine():
     n = 32  # steps to pi/4
     step = mp.pi / 128
     rows = []
-    for j in range(2 * n + 2):
+    for j in range(n + 2):
         rows.append("{" + pair(double_double(mp.sin(j * step))) + ", " + pair(double_double(mp.cos(j * step))) + "}")
     half = step / 2 * mpf("1.01")
     s = lambda r2: (mp.sin(mp.sqrt(r2)) / mp.sqrt(r2) - 1) / r2 if r2 else -mpf(1) / 6
@@ -71,9 +71,13 @@ def sine_cosine():
     tangents = [mp.tan(j * step) for j in range(n + 2)]
     t = lambda r2: (mp.tan(mp.sqrt(r2)) / mp.sqrt(r2) - 1) / r2 if r2 else mpf(1) / 3
     ts = fit(t, 0, half ** 2, mpf(2) ** -54)
+    near = mpf("0.1")
+    tn = fit(t, 0, near ** 2, mpf(2) ** -50)
+    q = lambda r2: (1 / mp.sqrt(r2) - mp.cot(mp.sqrt(r2))) / mp.sqrt(r2) if r2 else mpf(1) / 3
+    cn = fit(q, 0, near ** 2, mpf(2) ** -50)
     step_hi, step_lo = split_bits(step, 48)
     yield ("// sine and cosine of j pi/128\nstruct SineCosine {\n    DoubleDouble sine, cosine;\n};\n"
-           f"inline constexpr std::array<SineCosine, {2 * n + 2}> kSineCosine = {{{{\n{lines(rows)}}}}};\n")
+           f"inline constexpr std::array<SineCosine, {n + 2}> kSineCosine = {{{{\n{lines(rows)}}}}};\n")
     yield f"inline constexpr double kArcStepHigh = {number(step_hi)}; // pi / 128, a multiple of 2^-48, and the rest"
     yield f"inline constexpr double kArcStepLow = {number(step_lo)};"
     yield f"inline constexpr double kArcStepsPerRadian = {number(1 / step)}; // 128 / pi\n"
@@ -81,8 +85,26 @@ def sine_cosine():
         table_error(s, 0, half ** 2, [], ss), 2))
     yield array("kCosineSeries", cs, "(cos(r) - 1 + r^2/2) / r^4 in r^2, |r| <= pi/256; error " + mp.nstr(
         table_error(c, 0, half ** 2, [], cs), 2))
-    yield pair_array("kTangents", [double_double(x) for x in tangents], "tangents of j pi/128")
+    cotangents = [mpf(0)] + [1 / x for x in tangents[1:]]
+    yield ("// tangents and cotangents of j pi/128; what stands for the cotangent of 0 is not used\n"
+           f"inline constexpr std::array<DoubleDouble, {n + 2}> kTangents[2] = {{\n" +
+           ",\n".join("    {{" + lines([pair(double_double(x)) for x in row], 6).lstrip() + "}}" for row in (tangents, cotangents)) + "};\n")
     yield array("kTangentSeries", ts, "(tan(r)/r - 1) / r^2 in r^2, |r| <= pi/256; error " + mp.nstr(table_error(t, 0, half ** 2, [], ts), 2))
+    yield array("kTangentNearZero", tn, "(tan(r)/r - 1) / r^2 in r^2, |r| <= 0.1; error " + mp.nstr(table_error(t, 0, near ** 2, [], tn), 2))
+    yield array("kCotangentNearZero", cn, "(1/r - cot(r)) / r in r^2, |r| <= 0.1; error " + mp.nstr(table_error(q, 0, near ** 2, [], cn), 2))
+    rows = []
+    for j in range(2 * n + 1):
+        cosine = mp.cos(j * step) if j < 2 * n else mpf(0)
+        rows.append("{" + ", ".join([pair(double_double(mp.sin(j * step))), number(cosine), pair(short_pair(mp.pi * cosine))]) + "}")
+    yield ("// sine and cosine of pi j/128, and pi times the cosine, its high part of 26 bits\n"
+           "struct SinePi {\n    DoubleDouble sine;\n    double cosine;\n    DoubleDouble cosine_pi;\n};\n"
+           f"inline constexpr std::array<SinePi, {2 * n + 1}> kSinePi = {{{{\n{lines(rows)}}}}};\n")
+    bound = (mpf(1) / 256) ** 2 * mpf("1.001")
+    sp = lambda u: (mp.sin(mp.pi * mp.sqrt(u)) / mp.sqrt(u) - mp.pi) / u if u else -mp.pi ** 3 / 6
+    cp = lambda u: (mp.cos(mp.pi * mp.sqrt(u)) - 1) / u if u else -mp.pi ** 2 / 2
+    sps, cps = fit(sp, 0, bound, mpf(2) ** -50), fit(cp, 0, bound, mpf(2) ** -54)
+    yield array("kSinePiSeries", sps, "(sin(pi d)/d - pi) / d^2 in d^2, |d| <= 1/256; error " + mp.nstr(table_error(sp, 0, bound, [], sps), 2))
+    yield array("kVersinePiSeries", cps, "(cos(pi d) - 1) / d^2 in d^2, |d| <= 1/256; error " + mp.nstr(table_error(cp, 0, bound, [], cps), 2))
     # pi/2 in pieces of 26 bits, whose products with a count below 2^27 are exact.
     rest, parts = mp.pi / 2, []
     for k in range(7):

@@ -55,8 +55,8 @@ def polygamma_series():
 parts = [
     pieces("kGamma", "UniformPieces<0.5, 8, {count}, {terms}>", mp.gamma, grid(mpf("0.5"), 12, 8), TIGHT,
            "gamma on [1/2, 12), pieces of width 1/8"),
-    pieces("kLogGammaFactor", "UniformPieces<-0.5, 8, {count}, {terms}>", log_gamma_factor, grid(mpf("-0.5"), 2, 8), TIGHT,
-           "ln gamma(1 + d) / d on [-1/2, 1/2), ln gamma(1 + d) / (d - 1) on [1/2, 2), pieces of width 1/8"),
+    pieces("kLogGammaFactor", "UniformPieces<-0.5, 16, {count}, {terms}>", log_gamma_factor, grid(mpf("-0.5"), 2, 16), TIGHT,
+           "ln gamma(1 + d) / d on [-1/2, 1/2), ln gamma(1 + d) / (d - 1) on [1/2, 2), pieces of width 1/16"),
     pieces("kLogGammaBelowHalf", "BinadePieces<0.0625, 4, {count}, {terms}>", mp.loggamma, binade_centres(-4, -1, 4), TIGHT,
            "ln gamma on [1/16, 1/2), sixteen pieces a binade"),
     pieces("kLogGamma", "BinadePieces<3.0, 4, {count}, {terms}>", mp.loggamma,
