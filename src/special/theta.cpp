@@ -100,6 +100,7 @@ double by_series(int k, double x, double q)
     const Harmonics h{x, q};
     if (k == 3) return 1.0 + h.even_rest(1.0);
     if (k != 1 && k != 2) return 1.0 + h.even_rest(-1.0);
+    if (q == 0.0) return 0.0;
     const DoubleDouble factor = sqrt(sqrt(DoubleDouble{q})).scaled(2.0) * (k == 1 ? h.sine : h.cosine);
     return (factor * fast_two_sum(1.0, h.odd_rest(k == 1 ? 1.0 : -1.0))).rounded();
 }
