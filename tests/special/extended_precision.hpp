@@ -10,7 +10,6 @@ inline bool long_double_is_long()
     return one + small != one;
 }
 
-// Half an ulp for the rounding of the result, half an ulp for that of the reference, and a little for the kernel.
-inline double ulps_of_extended_kernels() { return long_double_is_long() ? 1.1 : 300.0; }
+inline double ulps_of_extended_kernels() { return long_double_is_long() ? 0.6 : 300.0; }
 
 } // namespace kor::testing

@@ -146,7 +146,7 @@ def fractional_orders():
 
 
 def complex_arguments():
-    """COMPLEX_VALUE(kernel, order, re, im, value re, value im, size against which errors count)."""
+    """COMPLEX_VALUE(kernel, order, re, im, value re, value im, size)."""
     rng = random.Random(13)
     table = []
     for modulus in (1e-6, 0.3, 2.9, 3.2, 12.0, 26.0, 38.0, 300.0):
@@ -165,11 +165,14 @@ def complex_arguments():
             for kernel, f in (("s17def_f", mp.besselj), ("s17dcf_f", mp.bessely), ("s18def_f", mp.besseli),
                               ("s18dcf_f", mp.besselk)):
                 below = math.copysign(1.0, y) < 0 and y == 0.0
-                value = mp.conj(f(v, mp.conj(z))) if below else f(v, z)
+                at = lambda w: mp.mpc(mp.conj(f(w, mp.conj(z))) if below else f(w, z))
+                value = at(v)
+                # Next to a zero errors count against the neighbours in order.
+                size = max(abs(value), min(abs(at(v + 1)), abs(at(v - 1)) if v >= 1 else mp.inf))
                 if 1e-280 < abs(value) < 1e300:
-                    value = mp.mpc(value)
-                    table.append(f"COMPLEX_VALUE({kernel}, {order!r}, {x!r}, {y!r}, {float(value.real)!r}, {float(value.imag)!r})")
-    write("bessel_complex_data.inc", "kernel, order, argument, value", table)
+                    table.append(f"COMPLEX_VALUE({kernel}, {order!r}, {x!r}, {y!r}, {float(value.real)!r}, "
+                                 f"{float(value.imag)!r}, {float(size):.3g})")
+    write("bessel_complex_data.inc", "kernel, order, argument, value, size against which errors count", table)
 
 
 def main():
