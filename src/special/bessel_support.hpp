@@ -47,15 +47,17 @@ KOR_INLINE DoubleDouble log_of_small(double x)
     return fast_two_sum(sum.hi, sum.lo + (series + (r_lo + (n * kLn2Low + cell.log_lo))));
 }
 
-// (exp(x) - 1) / x for 0 <= x <= 1/4, relative error 2^-53.
-inline constexpr std::array<double, 12> kGrowthSeries = {1.0,          1.0 / 2,       1.0 / 6,        1.0 / 24,
-                                                         1.0 / 120,    1.0 / 720,     1.0 / 5040,     1.0 / 40320,
-                                                         1.0 / 362880, 1.0 / 3628800, 1.0 / 39916800, 1.0 / 479001600};
+// (exp(x) - 1 - x) / x^2 for 0 <= x <= 1/4, relative error 2^-53.
+inline constexpr std::array<double, 11> kGrowthSeries = {1.0 / 2,       1.0 / 6,        1.0 / 24,       1.0 / 120,
+                                                         1.0 / 720,     1.0 / 5040,     1.0 / 40320,    1.0 / 362880,
+                                                         1.0 / 3628800, 1.0 / 39916800, 1.0 / 479001600};
 
-// value exp(x) for the same x; the product of value's low part is what exp(x) leaves of it.
+// value exp(x) for the same x.
 KOR_INLINE double times_small_exponential(DoubleDouble value, double x)
 {
-    return value.hi + (value.lo + value.hi * (x * polynomial(kGrowthSeries, x)));
+    const DoubleDouble linear = two_product(value.hi, x), sum = fast_two_sum(value.hi, linear.hi);
+    const double rest = linear.hi * (x * polynomial(kGrowthSeries, x));
+    return sum.hi + (sum.lo + ((linear.lo + (value.lo + value.lo * x)) + rest));
 }
 
 // How exact products are formed: by splitting the factors, or by a fused multiplication where the processor has it. The

@@ -10,45 +10,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/dispatch.hpp"
 #include "special/carlson_tables.hpp"
 #include "special/elementary.hpp"
+#include "special/lanes.hpp"
 
 namespace kor::special {
 
 namespace {
 
-constexpr double kNearRf = 0.05;  // relative distances from the mean at which the series, to the 11th order, serves
-constexpr double kNearRj = 0.012; // likewise, to the 7th order
-constexpr int kMaxSteps = 600;    // a step takes two binades of at most 2100 between the arguments
-
-// A square root and, to first order, what it lacks.
-KOR_INLINE DoubleDouble root_of(DoubleDouble x)
-{
-    const double root = std::sqrt(x.hi);
-    const DoubleDouble square = two_square(root);
-    const double missing = ((x.hi - square.hi) - square.lo) + x.lo;
-    return {root, root > 0.0 ? missing * (0.5 / root) : 0.0};
-}
-
-// The part of a step that all integrals share: roots and lambda of the present arguments.
-struct Roots {
-    DoubleDouble x, y, z, lambda;
-
-    KOR_INLINE Roots(DoubleDouble x_, DoubleDouble y_, DoubleDouble z_)
-        : x{root_of(x_)}, y{root_of(y_)}, z{root_of(z_)}, lambda{0.0}
-    {
-        const DoubleDouble xy = two_product(x.hi, y.hi), xz = two_product(x.hi, z.hi), yz = two_product(y.hi, z.hi);
-        const DoubleDouble two = two_sum(xy.hi, xz.hi), three = two_sum(two.hi, yz.hi);
-        const double slopes = x.lo * (y.hi + z.hi) + y.lo * (x.hi + z.hi) + z.lo * (x.hi + y.hi);
-        lambda = {three.hi, (two.lo + three.lo) + (xy.lo + xz.lo + yz.lo) + slopes};
-    }
-    // An argument, or the mean, after the step.
-    KOR_INLINE DoubleDouble step(DoubleDouble w) const
-    {
-        const DoubleDouble sum = two_sum(w.hi, lambda.hi);
-        return {0.25 * sum.hi, 0.25 * (sum.lo + (w.lo + lambda.lo))};
-    }
-};
+constexpr double kNear = 0.05; // relative distances from the mean at which the series, to the 11th order, serve
+constexpr int kMaxSteps = 600; // a step takes two binades of at most 2100 between the arguments
 
 // RD and RJ, of degree -3/2, are scaled to keep their products in range: arguments by 4^k, the value by 2^3k.
 constexpr double kSmall = 0x1p-200, kLarge = 0x1p200;
@@ -63,45 +35,95 @@ Scaling scaling(double size)
     return {std::ldexp(1.0, 2 * k), std::ldexp(1.0, k)};
 }
 
-// The series of RF less its constant term 1.
+constexpr DoubleDouble kThird{0x1.5555555555555p-2, 0x1.5555555555555p-56};
+constexpr DoubleDouble kFifth{0x1.999999999999ap-3, -0x1.999999999999ap-57};
+
+// Sums and products whose low part may be a few units of the high part's last place: it goes no further than this file.
+KOR_INLINE DoubleDouble open_sum(DoubleDouble x, DoubleDouble y)
+{
+    const DoubleDouble sum = two_sum(x.hi, y.hi);
+    return {sum.hi, sum.lo + (x.lo + y.lo)};
+}
+
+KOR_INLINE DoubleDouble open_product(DoubleDouble x, DoubleDouble y)
+{
+    const DoubleDouble product = two_product(x.hi, y.hi);
+    return {product.hi, product.lo + (x.hi * y.lo + x.lo * y.hi)};
+}
+
+// numerator / sqrt(radicand): one root and one division, corrected by what both leave.
+KOR_INLINE DoubleDouble over_root(DoubleDouble numerator, DoubleDouble radicand)
+{
+    const double root = std::sqrt(radicand.hi), reciprocal = 1.0 / root;
+    const DoubleDouble square = two_square(root);
+    const double root_lacks = (((radicand.hi - square.hi) - square.lo) + radicand.lo) * (0.5 * reciprocal);
+    const double quotient = numerator.hi * reciprocal;
+    const DoubleDouble product = two_product(quotient, root);
+    const double left = ((numerator.hi - product.hi) - product.lo) + (numerator.lo - quotient * root_lacks);
+    return {quotient, left * reciprocal};
+}
+
+// lambda, from the roots of the arguments.
+KOR_INLINE DoubleDouble sum_of_products(const ExtendedLanes &roots)
+{
+    const ExtendedLanes products = neighbour_products(roots);
+    return open_sum(open_sum(products[0], products[1]), products[2]);
+}
+
+// Polynomials in e2, one for each power of e3.
+template <class Table, class T, std::size_t Power = 0>
+KOR_INLINE T in_two_variables(const Table &table, T e2, T e3)
+{
+    const auto &row = std::get<Power>(table);
+    T sum{row.back()};
+    for (std::size_t i = row.size() - 1; i-- > 0;) sum = sum * e2 + row[i];
+    if constexpr (Power + 1 < std::tuple_size_v<Table>)
+        sum += e3 * in_two_variables<Table, T, Power + 1>(table, e2, e3);
+    return sum;
+}
+
+// The series about equal arguments, less their constant terms 1.
 template <class T>
 KOR_INLINE T rf_series(T e2, T e3)
 {
-    using namespace tables;
-    const auto in_e2 = [&](const auto &c) {
-        T sum{c.back()};
-        for (std::size_t i = c.size() - 1; i-- > 0;) sum = sum * e2 + c[i];
-        return sum;
-    };
-    return in_e2(kRfSeries0) + e3 * (in_e2(kRfSeries1) + e3 * (in_e2(kRfSeries2) + e3 * in_e2(kRfSeries3)));
+    return in_two_variables(tables::kRfSeries, e2, e3);
 }
 
-// The series of RJ less its constant term 1.
 template <class T>
 KOR_INLINE T rj_series(T e2, T e3, T e4, T e5)
 {
-    return e2 * (-3.0 / 14 + e2 * (9.0 / 88 - e2 * (1.0 / 16)) + e3 * (-9.0 / 52 + e2 * (45.0 / 272)) +
-                 e4 * (3.0 / 20)) +
-           e3 * (1.0 / 6 + e3 * (3.0 / 40)) - e4 * (3.0 / 22) + e5 * (3.0 / 26) - (e3 * e4 + e2 * e5) * (9.0 / 68);
+    using namespace tables;
+    return in_two_variables(kRjSeries, e2, e3) +
+           e4 * (in_two_variables(kRjSeries4, e2, e3) + e4 * in_two_variables(kRjSeries44, e2, e3)) +
+           e5 * (in_two_variables(kRjSeries5, e2, e3) + e4 * in_two_variables(kRjSeries45, e2, e3) +
+                 e5 * in_two_variables(kRjSeries55, e2, e3));
+}
+
+// scale (1 + series) mean^(-3/2)
+KOR_INLINE DoubleDouble last_term(double scale, double series, DoubleDouble mean)
+{
+    return scale * (over_root({1.0, series}, mean) / mean);
+}
+
+// RC(r, 1), r > 0.
+KOR_INLINE DoubleDouble rc_of_ratio(double r)
+{
+    constexpr double kPiecesUpTo = 1024.0;
+    if (r < 0.5) return tables::kRcBelow({std::sqrt(r)});
+    if (r < kPiecesUpTo) return tables::kRcAbove({r});
+    const DoubleDouble less_one = sqrt(two_sum(r, -1.0));
+    return extended_log(sqrt(DoubleDouble{r}) + less_one) / less_one;
 }
 
 } // namespace
 
 DoubleDouble extended_rc(double x, double y)
 {
-    constexpr double kPiecesUpTo = 1024.0;
     constexpr double kLogarithmFrom = 0x1p60;
-    const double ratio = x / y;
-    if (ratio > kLogarithmFrom) {
-        // ln(4 x / y) / (2 sqrt x); the quotient may overflow.
-        const DoubleDouble log_4 = extended_log(4.0);
-        return (extended_log(x) - extended_log(y) + log_4).scaled(0.5) / sqrt(DoubleDouble{x});
-    }
-    const DoubleDouble root = sqrt(DoubleDouble{y});
-    if (ratio < 0.5) return tables::kRcBelow({std::sqrt(ratio)}) / root;
-    if (ratio < kPiecesUpTo) return tables::kRcAbove(two_quotient(x, y)) / root;
-    const DoubleDouble r = two_quotient(x, y), less_one = sqrt(r - 1.0);
-    return extended_log(sqrt(r) + less_one) / (less_one * root);
+    // RC(x/y, 1) / sqrt y, where a relative error of x/y counts a half at most.
+    if (x / y < kLogarithmFrom) return over_root(rc_of_ratio(x / y), {y});
+    // ln(4 x / y) / (2 sqrt x); the quotient may overflow.
+    return (extended_log(x) - extended_log(y) + extended_log(4.0)).scaled(0.5) / sqrt(DoubleDouble{x});
 }
 
 double carlson_rc(double x, double y) { return extended_rc(x, y).rounded(); }
@@ -113,78 +135,84 @@ double carlson_rc_principal(double x, double y)
     return (sqrt(x / distance) * extended_rc(distance.hi, -y)).rounded();
 }
 
-double carlson_rf(double x0, double y0, double z0)
+KOR_CLONES double carlson_rf(double x, double y, double z)
 {
-    DoubleDouble x{x0}, y{y0}, z{z0};
-    DoubleDouble mean = (two_sum(x0, y0) + z0) / 3.0;
-    const double far_x = mean.hi - x0, far_y = mean.hi - y0, far_z = mean.hi - z0;
+    const DoubleDouble mean = (two_sum(x, y) + z) * kThird;
+    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z;
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z)});
+    ExtendedLanes w{{x, y, z, mean.hi}, {0.0, 0.0, 0.0, mean.lo}};
     double scale = 1.0; // 4^-n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearRf * mean.hi; ++n) {
-        const Roots roots{x, y, z};
-        x = roots.step(x);
-        y = roots.step(y);
-        z = roots.step(z);
-        mean = roots.step(mean);
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * w.hi[3]; ++n) {
+        w = quarter_of_sum(w, sum_of_products(sqrt(w)));
         scale *= 0.25;
     }
-    const double per_mean = scale / mean.hi;
+    const double per_mean = scale / w.hi[3];
     const double dx = far_x * per_mean, dy = far_y * per_mean, dz = -(dx + dy);
     const double series = rf_series(dx * dy - dz * dz, dx * dy * dz);
-    return (fast_two_sum(1.0, series) / sqrt(mean)).rounded();
+    return over_root({1.0, series}, w[3]).rounded();
 }
 
-double carlson_rd(double x0, double y0, double z0)
+KOR_CLONES double carlson_rd(double x, double y, double z)
 {
-    if (const double size = std::max({x0, y0, z0}); size < kSmall || size > kLarge) {
+    if (const double size = std::max({x, y, z}); size < kSmall || size > kLarge) {
         const auto [factor, power] = scaling(size);
-        return carlson_rd(x0 * factor, y0 * factor, z0 * factor) * power * power * power;
+        return carlson_rd(x * factor, y * factor, z * factor) * power * power * power;
     }
-    DoubleDouble x{x0}, y{y0}, z{z0}, sum{0.0};
-    DoubleDouble mean = (two_sum(x0, y0) + z * 3.0) / 5.0;
-    const double far_x = mean.hi - x0, far_y = mean.hi - y0, far_z = mean.hi - z0;
+    const DoubleDouble mean = (two_sum(x, y) + two_sum(2.0 * z, z)) * kFifth;
+    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z;
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z)});
-    double scale = 1.0; // 4^-n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearRj * mean.hi; ++n) {
-        const Roots roots{x, y, z};
-        sum = sum + scale / (roots.z * (roots.lambda + z));
-        x = roots.step(x);
-        y = roots.step(y);
-        z = roots.step(z);
-        mean = roots.step(mean);
+    ExtendedLanes w{{x, y, z, mean.hi}, {0.0, 0.0, 0.0, mean.lo}};
+    DoubleDouble sum{0.0};
+    double scale = 1.0, reciprocal_scale = 1.0; // 4^-n, 4^n
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * w.hi[3]; ++n) {
+        const ExtendedLanes roots = sqrt(w);
+        const DoubleDouble lambda = sum_of_products(roots), root_z = roots[2];
+        // 4^-n / (sqrt z (z + lambda)): the denominator with its rounding errors, the quotient without its own.
+        const DoubleDouble z_lambda = two_sum(lambda.hi, w.hi[2]);
+        const DoubleDouble product = two_product(root_z.hi, z_lambda.hi);
+        const double lacking = product.lo + root_z.hi * (z_lambda.lo + (lambda.lo + w.lo[2])) + root_z.lo * z_lambda.hi;
+        const double quotient = scale / product.hi;
+        const DoubleDouble next = two_sum(sum.hi, quotient);
+        sum = {next.hi, sum.lo + (next.lo - lacking * (quotient * (quotient * reciprocal_scale)))};
+
+        w = quarter_of_sum(w, lambda);
         scale *= 0.25;
+        reciprocal_scale *= 4.0;
     }
-    const double per_mean = scale / mean.hi;
+    const double per_mean = scale / w.hi[3];
     const double dx = far_x * per_mean, dy = far_y * per_mean, dz = -(dx + dy) / 3.0;
     const double xy = dx * dy, zz = dz * dz;
     const double series = rj_series(xy - 6.0 * zz, (3.0 * xy - 8.0 * zz) * dz, 3.0 * (xy - zz) * zz, xy * zz * dz);
-    const DoubleDouble tail = scale * (fast_two_sum(1.0, series) / (mean * sqrt(mean)));
-    return (3.0 * sum + tail).rounded();
+    return (3.0 * sum + last_term(scale, series, w[3])).rounded();
 }
 
-double carlson_rj(double x0, double y0, double z0, double p0)
+KOR_CLONES double carlson_rj(double x, double y, double z, double p)
 {
-    if (const double size = std::max({x0, y0, z0, p0}); size < kSmall || size > kLarge) {
+    if (const double size = std::max({x, y, z, p}); size < kSmall || size > kLarge) {
         const auto [factor, power] = scaling(size);
-        return carlson_rj(x0 * factor, y0 * factor, z0 * factor, p0 * factor) * power * power * power;
+        return carlson_rj(x * factor, y * factor, z * factor, p * factor) * power * power * power;
     }
-    DoubleDouble x{x0}, y{y0}, z{z0}, p{p0}, sum{0.0};
-    DoubleDouble mean = (two_sum(x0, y0) + z0 + p * 2.0) / 5.0;
-    const double far_x = mean.hi - x0, far_y = mean.hi - y0, far_z = mean.hi - z0, far_p = mean.hi - p0;
+    DoubleDouble mean = (two_sum(x, y) + two_sum(z, 2.0 * p)) * kFifth;
+    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z, far_p = mean.hi - p;
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z), std::fabs(far_p)});
+    ExtendedLanes w{{x, y, z, p}, {0.0, 0.0, 0.0, 0.0}};
+    DoubleDouble total{0.0};
     double scale = 1.0; // 4^-n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearRj * mean.hi; ++n) {
-        const Roots roots{x, y, z};
-        const DoubleDouble root_p = root_of(p);
-        // d = (sqrt p + sqrt x)(sqrt p + sqrt y)(sqrt p + sqrt z) and 1 + e = 2 sqrt p (p + lambda) / d: no cancellation.
-        const DoubleDouble d = (root_p + roots.x) * (root_p + roots.y) * (root_p + roots.z);
-        const DoubleDouble one_plus_e = root_p.scaled(2.0) * (roots.lambda + p) / d;
-        sum = sum + scale * (extended_rc(1.0, one_plus_e.hi) / d);
-        x = roots.step(x);
-        y = roots.step(y);
-        z = roots.step(z);
-        p = roots.step(p);
-        mean = roots.step(mean);
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * mean.hi; ++n) {
+        const ExtendedLanes roots = sqrt(w);
+        const DoubleDouble lambda = sum_of_products(roots), root_p = roots[3];
+        // With d = (sqrt p + sqrt x)(sqrt p + sqrt y)(sqrt p + sqrt z) and a = 2 sqrt p (p + lambda) the term RC(1, a/d) / d
+        // is RC(d/a, 1) / sqrt(a d), which has no cancellation.
+        const ExtendedLanes factors = sum(roots, root_p);
+        const DoubleDouble d = open_product(open_product(factors[0], factors[1]), factors[2]);
+        const DoubleDouble a = open_product(root_p.scaled(2.0), open_sum(lambda, w[3]));
+        const double reciprocal = 1.0 / a.hi, ratio = d.hi * reciprocal;
+        const DoubleDouble rc = rc_of_ratio(ratio + (d.lo - ratio * a.lo) * reciprocal);
+        const DoubleDouble term = over_root(rc, open_product(a, d)).scaled(scale);
+        total = open_sum(total, term);
+
+        w = quarter_of_sum(w, lambda);
+        mean = open_sum(mean, lambda).scaled(0.25);
         scale *= 0.25;
     }
     const double per_mean = scale / mean.hi;
@@ -193,8 +221,7 @@ double carlson_rj(double x0, double y0, double z0, double p0)
     const double e2 = dx * dy + dx * dz + dy * dz - 3.0 * pp;
     const double e3 = xyz + 2.0 * e2 * dp + 4.0 * pp * dp;
     const double e4 = (2.0 * xyz + e2 * dp + 3.0 * pp * dp) * dp;
-    const DoubleDouble tail = scale * (fast_two_sum(1.0, rj_series(e2, e3, e4, xyz * pp)) / (mean * sqrt(mean)));
-    return (6.0 * sum + tail).rounded();
+    return (6.0 * total + last_term(scale, rj_series(e2, e3, e4, xyz * pp), mean)).rounded();
 }
 
 // With x <= y <= z, p = -q and r = z - (z-x)(z-y)/(z+q):
@@ -219,7 +246,7 @@ bool carlson_rf(Cplx x, Cplx y, Cplx z, Cplx &value)
     Cplx mean = first_mean;
     double scale = 1.0;
     int n = 0;
-    for (; n < kMaxSteps && farthest * scale >= kNearRf * std::abs(mean); ++n) {
+    for (; n < kMaxSteps && farthest * scale >= kNear * std::abs(mean); ++n) {
         const Cplx rx = std::sqrt(x), ry = std::sqrt(y), rz = std::sqrt(z);
         const Cplx lambda = rx * ry + rz * (rx + ry);
         x = (x + lambda) * 0.25;
@@ -241,7 +268,7 @@ bool carlson_rd(Cplx x, Cplx y, Cplx z, Cplx &value)
     Cplx mean = first_mean, sum{};
     double scale = 1.0;
     int n = 0;
-    for (; n < kMaxSteps && farthest * scale >= kNearRj * std::abs(mean); ++n) {
+    for (; n < kMaxSteps && farthest * scale >= kNear * std::abs(mean); ++n) {
         const Cplx rx = std::sqrt(x), ry = std::sqrt(y), rz = std::sqrt(z);
         const Cplx lambda = rx * ry + rz * (rx + ry);
         sum += scale / (rz * (z + lambda));

@@ -2,6 +2,8 @@
 // Made by tools/special/make_carlson_tables.py: do not edit.
 #pragma once
 
+#include <tuple>
+
 #include "special/evaluate.hpp"
 
 // clang-format off
@@ -261,20 +263,43 @@ inline constexpr UniformPieces<0.0, 16, 12, 9> kRcBelow = {{{
      {-0.42458120759804996, 0.19678092336352723, -0.09790472402897347, 0.05055851433199919, -0.026714404321246787,
       0.014336622200408293, -0.007780798770110301, 0.004261986308385419, -0.002348359259594977}}}}};
 
-// RF: E3^0 times powers of E2
-inline constexpr std::array<double, 6> kRfSeries0 = {
-    0.0, -0.1, 0.041666666666666664, -0.02403846153846154, 0.01608455882352941, -0.01171875};
+// RF: an array of powers of E2 for each power of E3, to the 11th order
+inline constexpr std::tuple kRfSeries = {
+    std::array{0.0, -0.1, 0.041666666666666664, -0.02403846153846154, 0.01608455882352941, -0.01171875},
+    std::array{0.07142857142857142, -0.06818181818181818, 0.0625, -0.05756578947368421, 0.053498641304347824},
+    std::array{0.028846153846153848, -0.05514705882352941, 0.078125},
+    std::array{0.01644736842105263, -0.04755434782608696}};
 
-// RF: E3^1 times powers of E2
-inline constexpr std::array<double, 5> kRfSeries1 = {
-    0.07142857142857142, -0.06818181818181818, 0.0625, -0.05756578947368421, 0.053498641304347824};
+// RJ likewise: the terms without E4 and E5
+inline constexpr std::tuple kRjSeries = {
+    std::array{0.0, -0.21428571428571427, 0.10227272727272728, -0.0625, 0.04317434210526316, -0.032099184782608696},
+    std::array{0.16666666666666666, -0.17307692307692307, 0.16544117647058823, -0.15625, 0.14765625},
+    std::array{0.075, -0.14802631578947367, 0.2139945652173913},
+    std::array{0.044642857142857144, -0.13125}};
 
-// RF: E3^2 times powers of E2
-inline constexpr std::array<double, 3> kRfSeries2 = {
-    0.028846153846153848, -0.05514705882352941, 0.078125};
+// RJ: the factor of E4
+inline constexpr std::tuple kRjSeries4 = {
+    std::array{-0.13636363636363635, 0.15, -0.14802631578947367, 0.14266304347826086},
+    std::array{-0.1323529411764706, 0.26785714285714285, -0.39375},
+    std::array{-0.12228260869565218}};
 
-// RF: E3^3 times powers of E2
-inline constexpr std::array<double, 2> kRfSeries3 = {
-    0.01644736842105263, -0.04755434782608696};
+// RJ: the factor of E5
+inline constexpr std::tuple kRjSeries5 = {
+    std::array{0.11538461538461539, -0.1323529411764706, 0.13392857142857142, -0.13125},
+    std::array{0.11842105263157894, -0.24456521739130435},
+    std::array{0.1125}};
+
+// RJ: the factor of E4^2
+inline constexpr std::tuple kRjSeries44 = {
+    std::array{0.05921052631578947, -0.12228260869565218},
+    std::array{0.1125}};
+
+// RJ: the factor of E4 E5
+inline constexpr std::tuple kRjSeries45 = {
+    std::array{-0.10714285714285714, 0.225}};
+
+// RJ: the factor of E5^2
+inline constexpr std::tuple kRjSeries55 = {
+    std::array{0.04891304347826087}};
 
 } // namespace kor::special::tables
