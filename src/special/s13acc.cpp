@@ -24,7 +24,11 @@ double cosine_integral(double x)
         const DoubleDouble zero = tables::kCiZeros[(quarters + 4) / 12];
         return tables::kCiFactor.times(two_sum(x, -zero.hi) + -zero.lo, {x}).rounded();
     }
-    if (x > kAuxiliaryUpTo) return std::isinf(x) ? 0.0 : std::sin(x) / x;
+    if (std::isinf(x)) return 0.0;
+    if (x > kAuxiliaryUpTo) { // two terms of the asymptotic series, rounded once
+        const long double argument = x;
+        return static_cast<double>((std::sin(argument) - std::cos(argument) / argument) / argument);
+    }
     const auto [sine, cosine] = extended_sine_cosine_of({x});
     const auto [f, g] = scaled_auxiliary(x);
     return ((f * sine - g.hi * cosine.hi / x) / x).rounded();
