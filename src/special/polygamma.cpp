@@ -69,10 +69,20 @@ DoubleDouble extended_digamma(DoubleDouble x)
     return extended_log(x) - (0.5 * reciprocal + square * kDigammaTail.open(square).rounded());
 }
 
-// |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 1; about 2^-54. The first terms, which may carry the
-// sum, are formed with low parts.
+// The asymptotic series of |psi^(k)(x)|, x large, k >= 1.
+DoubleDouble magnitude_by_series(DoubleDouble x, Integer k)
+{
+    const DoubleDouble first = kFactorial[k - 1] / power(x, k);
+    return first + first * series_beyond_first(x.hi, k);
+}
+
+// |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 1; about 2^-54. Trigamma has a table; else the first terms,
+// which may carry the sum, are formed with low parts.
 DoubleDouble magnitude(DoubleDouble x, Integer k)
 {
+    if (x.hi >= kSeriesFrom) return magnitude_by_series(x, k);
+    if (k == 1 && x.hi >= 1.0) return tables::kTrigamma(x);
+    if (k == 1) return tables::kTrigamma(x + 1.0) + 1.0 / square(x);
     constexpr int kCarefulTerms = 4;
     DoubleDouble leading{0.0};
     for (int n = 0; n < kCarefulTerms && x.hi < kSeriesFrom; ++n) {
@@ -81,9 +91,7 @@ DoubleDouble magnitude(DoubleDouble x, Integer k)
     }
     double rest = 0.0;
     for (; x.hi < kSeriesFrom; x = x + 1.0) rest += 1.0 / plain_power(x.hi, k + 1);
-    const DoubleDouble first = kFactorial[k - 1] / power(x, k);
-    const DoubleDouble tail = first + first * series_beyond_first(x.hi, k);
-    return (leading + rest) * kFactorial[k] + tail;
+    return (leading + rest) * kFactorial[k] + magnitude_by_series(x, k);
 }
 
 // d^k/dt^k cot(t) / (1 + cot^2 t) as a polynomial in c = cot t, k >= 1: coefficients of 1, c, ..., c^(k-1).
@@ -164,9 +172,12 @@ Integer s14aef_f(double x, Integer k, double *value)
     *value = 0.0;
     if (k < 0 || k > kLargestRealOrder) return kPolygammaOrder;
     if (x <= 0.0 && x == std::floor(x)) return kPolygammaPole;
-    const double log_size = std::log(std::fabs(x));
-    if (std::log(kFactorial[k]) - (k + 1) * log_size > kLogLargest) return kPolygammaOverflow;
-    if (k > 0 && x > 1.0 && std::log(kFactorial[k - 1]) - k * log_size < kLogSmallest) return kPolygammaUnderflow;
+    constexpr double kOrdinary = 1e40; // from its reciprocal on no order overflows, and up to it none underflows
+    if (const double size = std::fabs(x); size < 1.0 / kOrdinary || size > kOrdinary) {
+        const double log_size = std::log(size);
+        if (std::log(kFactorial[k]) - (k + 1) * log_size > kLogLargest) return kPolygammaOverflow;
+        if (k > 0 && x > 1.0 && std::log(kFactorial[k - 1]) - k * log_size < kLogSmallest) return kPolygammaUnderflow;
+    }
     *value = k == 0 ? digamma(x) : polygamma(x, k);
     return kPolygammaDone;
 }

@@ -69,6 +69,8 @@ parts = [
            "digamma(x) / (x - zero) on [1, 16), eight pieces a binade"),
     near_constant("kDigammaTail", digamma_tail, 0, mpf(1) / 256, mpf(2) ** -56,
                   "x^2 (ln x - 1/(2 x) - digamma(x)) in 1/x^2, x >= 16"),
+    pieces("kTrigamma", "BinadePieces<1.0, 3, {count}, {terms}>", lambda x: mp.polygamma(1, x), binade_centres(0, 4, 3), TIGHT,
+           "trigamma on [1, 16), eight pieces a binade"),
     polygamma_series(),
 ]
 header(OUT, "Tables of the gamma function and its logarithm.", "make_gamma_tables.py", parts)
