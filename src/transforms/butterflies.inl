@@ -58,6 +58,16 @@ inline constexpr double kSin72 = 0.9510565162951535;        // sin(2 pi / 5)
 inline constexpr double kSin36BySin72 = 0.6180339887498949; // sin(4 pi / 5) / sin(2 pi / 5)
 inline constexpr double kQuarterSqrt5 = 0.5590169943749475; // (cos(2 pi / 5) - cos(4 pi / 5)) / 2
 
+// Calls body with each of 0..count-1 as a constant.
+template <int i>
+using Constant = std::integral_constant<int, i>;
+template <int count, class Body>
+KOR_INLINE void each(Body body)
+{
+    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) { (body(Constant<i>{}), ...); }
+    (std::make_integer_sequence<int, count>{});
+}
+
 template <int p>
 struct Butterfly;
 
@@ -132,4 +142,106 @@ struct Butterfly<6> {
         Butterfly<3>::run(odd, b);
         for (int k = 0; k < 6; ++k) out[k] = k % 2 == 0 ? a[k % 3] + b[k % 3] : a[k % 3] - b[k % 3];
     }
+};
+
+// exp(-2 pi i t / n) for a small constant n, correctly rounded.
+struct Root {
+    double re, im;
+};
+constexpr Root constant_root(int t, int n)
+{
+    // The Taylor series of the angle in long double, after reduction to (-pi, pi].
+    t %= n;
+    if (2 * t > n) t -= n;
+    const long double x = 6.283185307179586476925286766559005768L * t / n;
+    long double cosine = 1.0L, sine = x, term_c = 1.0L, term_s = x;
+    for (int i = 1; i < 20; ++i) {
+        term_c *= -x * x / ((2 * i - 1) * (2 * i));
+        term_s *= -x * x / ((2 * i) * (2 * i + 1));
+        cosine += term_c;
+        sine += term_s;
+    }
+    return {static_cast<double>(cosine), static_cast<double>(-sine)};
+}
+
+// y * exp(-2 pi i t / n), with the multiples of a quarter turn exact.
+template <int t, int n, class V>
+KOR_INLINE Pair<V> turned(Pair<V> y)
+{
+    if constexpr (t % n == 0)
+        return y;
+    else if constexpr (4 * t % n == 0 && 4 * t / n % 4 == 1)
+        return {y.im, -y.re};
+    else if constexpr (4 * t % n == 0 && 4 * t / n % 4 == 2)
+        return {-y.re, -y.im};
+    else if constexpr (4 * t % n == 0 && 4 * t / n % 4 == 3)
+        return {-y.im, y.re};
+    else {
+        constexpr Root w = constant_root(t, n);
+        return y * Pair<double>{w.re, w.im};
+    }
+}
+
+// A composite number of points, by two factors: x_{b l1 + l2} -> X_{k1 + a k2}.
+template <int a, int b>
+struct Composite {
+    template <class X, class V>
+    KOR_INLINE static void run(const X *x, Pair<V> *out)
+    {
+        Pair<V> half[b][a];
+        each<b>([&]<int l2>(Constant<l2>) __attribute__((always_inline)) {
+            X column[a];
+            KOR_UNROLL for (int l1 = 0; l1 < a; ++l1) column[l1] = x[b * l1 + l2];
+            Butterfly<a>::run(column, half[l2]);
+        });
+        each<a>([&]<int k1>(Constant<k1>) __attribute__((always_inline)) {
+            Pair<V> row[b], y[b];
+            each<b>([&]<int l2>(Constant<l2>)
+                        __attribute__((always_inline)) { row[l2] = turned<k1 * l2, a * b>(half[l2][k1]); });
+            Butterfly<b>::run(row, y);
+            KOR_UNROLL for (int k2 = 0; k2 < b; ++k2) out[k1 + a * k2] = y[k2];
+        });
+    }
+};
+
+// Seven points, from sums and differences of mirrored ones.
+template <>
+struct Butterfly<7> {
+    template <class X, class V>
+    KOR_INLINE static void run(const X *x, Pair<V> *out)
+    {
+        const X sum[] = {x[1] + x[6], x[2] + x[5], x[3] + x[4]};
+        const X difference[] = {x[1] - x[6], x[2] - x[5], x[3] - x[4]};
+        out[0] = complex(x[0] + (sum[0] + (sum[1] + sum[2])));
+        each<3>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+            constexpr Root w1 = constant_root(i + 1, 7), w2 = constant_root(2 * (i + 1), 7),
+                           w3 = constant_root(3 * (i + 1), 7);
+            const X even = x[0] + (w1.re * sum[0] + (w2.re * sum[1] + w3.re * sum[2]));
+            const X odd = w1.im * difference[0] + (w2.im * difference[1] + w3.im * difference[2]);
+            out[i + 1] = plus_i(even, odd);
+            out[6 - i] = minus_i(even, odd);
+        });
+    }
+};
+
+template <>
+struct Butterfly<8> : Composite<4, 2> {
+};
+template <>
+struct Butterfly<9> : Composite<3, 3> {
+};
+template <>
+struct Butterfly<10> : Composite<5, 2> {
+};
+template <>
+struct Butterfly<12> : Composite<4, 3> {
+};
+template <>
+struct Butterfly<14> : Composite<7, 2> {
+};
+template <>
+struct Butterfly<15> : Composite<5, 3> {
+};
+template <>
+struct Butterfly<16> : Composite<4, 4> {
 };

@@ -1,12 +1,15 @@
 // c06eaz: the factors of a length for the transforms in place, and whether they suit them.
+#include <cstdint>
+
 #include "transforms/in_place_factors.hpp"
 
 namespace kor::transforms {
 
-InPlaceFactors c06eaz(Index n)
+InPlaceFactors c06eaz(Integer n)
 {
     InPlaceFactors factors{InPlaceStatus::good, 1, 1};
-    Index rest = n, prime = 2;
+    // Short divisions are faster.
+    auto rest = static_cast<std::uint32_t>(n), prime = std::uint32_t{2};
     int count = 0;
     while (rest > 1) {
         while (prime <= kLargestInPlacePrime && rest % prime != 0) ++prime;
@@ -15,7 +18,7 @@ InPlaceFactors c06eaz(Index n)
             return factors;
         }
         const bool pair = rest % (prime * prime) == 0;
-        (pair ? factors.square_root : factors.square_free) *= prime;
+        (pair ? factors.square_root : factors.square_free) *= static_cast<Index>(prime);
         rest /= pair ? prime * prime : prime;
         count += pair ? 2 : 1;
         if (count > kMostInPlaceFactors) {

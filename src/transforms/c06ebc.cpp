@@ -13,6 +13,6 @@ void c06ebc(Integer n, double x[], KorError *fail)
     InPlaceFactors factors;
     if (!suits_in_place(report, n, factors)) return;
 
-    transform_in_place(Dimensions{n, factors}, Kind::hermitian, {x, nullptr}, 1.0 / std::sqrt(static_cast<double>(n)));
+    transform_in_place(n, factors, Kind::hermitian, {x, nullptr}, 1.0 / std::sqrt(static_cast<double>(n)));
     report.success();
 }

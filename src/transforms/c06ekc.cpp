@@ -35,12 +35,11 @@ void c06ekc(Integer Operation, Integer n, double x[], double y[], KorError *fail
     if (!suits_in_place(report, n, factors)) return;
 
     // Unscaled, the transform of z is the product of the transforms of x and y.
-    const Dimensions dimensions{n, factors};
     const double length = static_cast<double>(n);
-    transform_in_place(dimensions, Kind::real, {x, nullptr}, 1.0);
-    transform_in_place(dimensions, Kind::real, {y, nullptr}, 1.0);
+    transform_in_place(n, factors, Kind::real, {x, nullptr}, 1.0);
+    transform_in_place(n, factors, Kind::real, {y, nullptr}, 1.0);
     multiply(n, x, y, Operation == Kor_Correlation);
-    transform_in_place(dimensions, Kind::hermitian, {x, nullptr}, 1.0 / length);
+    transform_in_place(n, factors, Kind::hermitian, {x, nullptr}, 1.0 / length);
     const double scale = 1.0 / std::sqrt(length);
     for (Index k = 0; k < n; ++k) y[k] *= scale;
     report.success();

@@ -79,9 +79,11 @@ KOR_INLINE void complex_butterfly(const Radix &radix, Access access, Source sour
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] = before(l, source.load(access, l));
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) { points.x[l] = before(l, source.load(access, l)); });
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k) target.store(access, k, after(k, points.y[k]));
+    radix.loop(
+        radix.radix, [&](Index k) __attribute__((always_inline)) { target.store(access, k, after(k, points.y[k])); });
 }
 
 // Rows that follow each other without a gap are one long row.
@@ -95,29 +97,40 @@ KOR_INLINE Block merged(Block block)
     return block;
 }
 
-template <class Radix>
-void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
+// The butterflies of row a of the blocks.
+template <class Radix, class Twiddle>
+KOR_INLINE void complex_row(const Radix &radix, const Block &block, Index a, Sequence in, Sequence out, Twiddle twiddle)
 {
-    const Radix radix{stage};
-    const Block block = merged(given);
-    const auto row = [&](Index a, auto twiddle) __attribute__((always_inline)) {
-        for (Index b = 0; b < block.before; ++b) {
-            const Index from = (a * block.before + b) * block.in_row;
-            const Index to = (a * radix.radix * block.before + b) * block.out_row;
-            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+    for (Index b = 0; b < block.before; ++b) {
+        const Index from = (a * block.before + b) * block.in_row;
+        const Index to = (a * radix.radix * block.before + b) * block.out_row;
+        deal<Radix>(
+            block.width, [&](auto access, Index c) __attribute__((always_inline)) {
                 const Rows source{{in.re + from + c, in.im + from + c}, block.after * block.before * block.in_row};
                 const Rows target{{out.re + to + c, out.im + to + c}, block.before * block.out_row};
                 complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
             });
-        }
-    };
-    row(0, ScaledOnly{scale});
-    for (Index a = 1; a < block.after; ++a) row(a, SameForAll{stage, a * block.spread});
+    }
+}
+
+template <class Radix>
+void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence out)
+{
+    const Radix radix{stage};
+    const Block block = merged(given);
+    complex_row(radix, block, 0, in, out, NoTwiddle{});
+    for (Index a = 1; a < block.after; ++a) complex_row(radix, block, a, in, out, SameForAll{stage, a * block.spread});
+}
+
+template <class Radix>
+void complex_whole(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
+{
+    complex_row(Radix{stage}, merged(given), 0, in, out, ScaledOnly{scale});
 }
 
 // What a pass over columns reads or writes, besides rows of complex numbers: columns first + c, first >= 1, of packed
 // sequences of length v.
-struct ShortRows { // of one sequence in each row
+struct ShortRows {  // of one sequence in each row
     double *packed; // column 0 of the first row
     Index v, step;  // from row to row
     Index first;
@@ -145,7 +158,8 @@ struct LongRows { // of one sequence of length rows * v, whose place first + c +
     KOR_INLINE auto load(Access access, Index l) const
     {
         const Index k = row + l * row_step;
-        const auto here = access.load(packed + k * v + first), mirror = access.load_mirrored(packed + (rows - k) * v - first);
+        const auto here = access.load(packed + k * v + first),
+                   mirror = access.load_mirrored(packed + (rows - k) * v - first);
         return 2 * k < rows ? Pair<typename Access::Value>{here, mirror} : Pair<typename Access::Value>{mirror, -here};
     }
     template <class Access, class V>
@@ -184,18 +198,19 @@ void columns_pass(const Stage &stage, const Block &block, const Columns &columns
         for (Index b = 0; b < block.before; ++b) {
             const Index start = a * block.before + b, spread = block.after * block.before;
             const Index far_start = a * radix.radix * block.before + b;
-            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                const auto source = kBack ? rows_of<from>(columns, block.in_row, in, far_start, block.before, c)
-                                          : rows_of<from>(columns, block.in_row, in, start, spread, c);
-                const auto target = kBack ? rows_of<to>(columns, block.out_row, out, start, spread, c)
-                                          : rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
-                const OneForEach<decltype(access), Radix::kRootsInTable> twiddle{
-                    access, stage, a * columns.count + columns.first + c};
-                if constexpr (kBack)
-                    complex_butterfly(radix, access, source, target, twiddle, NoTwiddle{});
-                else
-                    complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
-            });
+            deal<Radix>(
+                block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                    const auto source = kBack ? rows_of<from>(columns, block.in_row, in, far_start, block.before, c)
+                                              : rows_of<from>(columns, block.in_row, in, start, spread, c);
+                    const auto target = kBack ? rows_of<to>(columns, block.out_row, out, start, spread, c)
+                                              : rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
+                    const OneForEach<decltype(access), Radix::kRootsInTable> twiddle{
+                        access, stage, a * columns.count + columns.first + c};
+                    if constexpr (kBack)
+                        complex_butterfly(radix, access, source, target, twiddle, NoTwiddle{});
+                    else
+                        complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
+                });
         }
 }
 
@@ -242,7 +257,8 @@ struct FactorsAt {
     {
         const Index row = start + l * step;
         const double re = factors.bases.re[row], im = factors.bases.im[row];
-        const Pair<V> less_one{access.load(factors.roots.re + row * factors.roots_row + c), access.load(factors.roots.im + row * factors.roots_row + c)};
+        const Pair<V> less_one{access.load(factors.roots.re + row * factors.roots_row + c),
+                               access.load(factors.roots.im + row * factors.roots_row + c)};
         return x * Pair<V>{re + (re * less_one.re - im * less_one.im), im + (re * less_one.im + im * less_one.re)};
     }
 };
@@ -256,28 +272,29 @@ void factors_pass(const Stage &stage, const Block &block, const Columns &columns
     for (Index a = 0; a < block.after; ++a)
         for (Index b = 0; b < block.before; ++b) {
             const Index start = a * block.before + b, far_start = a * radix.radix * block.before + b;
-            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                const auto source = rows_of<from>(columns, block.in_row, in, start, spread, c);
-                const auto target = rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
-                const FactorsAt<decltype(access)> before{access, factors, start, spread, c};
-                const FactorsAt<decltype(access)> after{access, factors, far_start, block.before, c};
-                const SameForAll twiddle{stage, a};
-                complex_butterfly(
-                    radix, access, source, target,
-                    [&](Index l, auto x) __attribute__((always_inline)) {
-                        if constexpr (kFactorsBefore)
-                            return before(l, x);
-                        else
-                            return x;
-                    },
-                    [&](Index k, auto y) __attribute__((always_inline)) {
-                        if (a > 0) y = twiddle(k, y);
-                        if constexpr (kFactorsAfter)
-                            return after(k, y);
-                        else
-                            return y;
-                    });
-            });
+            deal<Radix>(
+                block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                    const auto source = rows_of<from>(columns, block.in_row, in, start, spread, c);
+                    const auto target = rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
+                    const FactorsAt<decltype(access)> before{access, factors, start, spread, c};
+                    const FactorsAt<decltype(access)> after{access, factors, far_start, block.before, c};
+                    const SameForAll twiddle{stage, a};
+                    complex_butterfly(
+                        radix, access, source, target,
+                        [&](Index l, auto x) __attribute__((always_inline)) {
+                            if constexpr (kFactorsBefore)
+                                return before(l, x);
+                            else
+                                return x;
+                        },
+                        [&](Index k, auto y) __attribute__((always_inline)) {
+                            if (a > 0) y = twiddle(k, y);
+                            if constexpr (kFactorsAfter)
+                                return after(k, y);
+                            else
+                                return y;
+                        });
+                });
         }
 }
 
@@ -298,8 +315,8 @@ void factors_pass_forward(const Stage &stage, const Block &block, const Columns 
 }
 
 template <class Radix>
-void factors_pass_back(const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
-                       Sequence out)
+void factors_pass_back(const Stage &stage, const Block &block, const Columns &columns, const Factored &factors,
+                       Sequence in, Sequence out)
 {
     using enum ColumnsOf;
     if (columns.in == complex_block)

@@ -31,7 +31,8 @@ Index divisor_from(Index n, Index least)
 Dimensions::Dimensions(Index length, const InPlaceFactors &factors) : n{length}
 {
     // As few dimensions as the sizes allow: the mirrored ones no more than are needed to bring the rest down to a block.
-    const Index wanted = divisor_from(factors.square_root, (n + kLargestBlock - 1) / kLargestBlock);
+    const Index needed = n <= kLargestBlock ? 1 : std::max((n + kLargestBlock - 1) / kLargestBlock, kLine);
+    const Index wanted = divisor_from(factors.square_root, needed);
     mirrored_product = wanted > 0 ? wanted : factors.square_root;
     const Index middle = n / (mirrored_product * mirrored_product);
 
@@ -71,8 +72,8 @@ namespace {
 
 // What a sweep or the transform of blocks needs on the stack.
 struct alignas(sizeof(double) * kLine) Stack {
-    double table[2 * kLargestBlock];     // of a block, or of a dimension
-    double straight[2 * kLargestBlock];  // a block in its natural order
+    double table[2 * kLargestBlock];    // of a block, or of a dimension
+    double straight[2 * kLargestBlock]; // a block in its natural order
     double work[8 * kGathered];
     double bases[2 * kLargestDimension];
 };
@@ -99,8 +100,8 @@ void turn_digits(const Index *size, int count, const double *in, double *out)
 
 void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, Stack &stack)
 {
-    fill_root_table(d.block, stack.table);
     const Plan plan{kind, d.block, stack.table};
+    fill_root_table(d.block, stack.table);
     const int dimensions = d.count - d.block_from;
     const Index *const size = d.size + d.block_from;
     const bool complex = kind == Kind::complex;
@@ -143,7 +144,7 @@ class Sweep {
                     if (i == 0)
                         kernels().factors_pass(stages_.stage[i], shape(i, from, to), {}, factors, from.at, to.at);
                     else
-                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at);
                 });
             }
         });
@@ -160,7 +161,7 @@ class Sweep {
                     if (i == 0 || i == last())
                         kernels().factors_pass(stages_.stage[i], shape(i, from, to), which, factors, from.at, to.at);
                     else
-                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at);
                 });
             }
         });
@@ -176,9 +177,10 @@ class Sweep {
                     const Columns which{v_, f, i == 0 ? ColumnsOf::long_sequence : ColumnsOf::complex_block,
                                         i == last() ? ColumnsOf::short_sequences : ColumnsOf::complex_block, radix_};
                     if (i == 0 || i == last())
-                        kernels().factors_pass_back(stages_.stage[i], shape(i, from, to), which, factors, from.at, to.at);
+                        kernels().factors_pass_back(stages_.stage[i], shape(i, from, to), which, factors, from.at,
+                                                    to.at);
                     else
-                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
+                        kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at);
                 });
             }
         });
@@ -220,10 +222,11 @@ class Sweep {
         for (Index start = 0; start < n_; start += radix_ * v_) {
             const Array column{{x + start, nullptr}, v_};
             const bool up = back;
-            run_passes(up ? 0 : last(), up ? last() : 0, column, column, block0, block1, [&](int i, Array from, Array to) {
-                const auto pass = back ? kernels().hermitian_pass : kernels().real_pass;
-                pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
-            });
+            run_passes(up ? 0 : last(), up ? last() : 0, column, column, block0, block1,
+                       [&](int i, Array from, Array to) {
+                           const auto pass = back ? kernels().hermitian_pass : kernels().real_pass;
+                           pass(stages_.stage[i], shape(i, from, to), from.at, to.at);
+                       });
         }
         if (v_ % 2 != 0) return;
 
@@ -232,9 +235,10 @@ class Sweep {
         const Index half = v_ / 2;
         kernels().unit_roots(radix_ * v_, 0, half, radix_, bases.re, bases.im);
         const auto transform = [&] {
-            return run_passes(0, last(), block0, kNone, block0, block1, [&](int i, Array from, Array to) {
-                       kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at, 1.0);
-                   })
+            return run_passes(0, last(), block0, kNone, block0, block1,
+                              [&](int i, Array from, Array to) {
+                                  kernels().complex_pass(stages_.stage[i], shape(i, from, to), from.at, to.at);
+                              })
                 .at;
         };
         for (double *start = x; start < x + n_; start += radix_ * v_) {
@@ -271,8 +275,11 @@ class Sweep {
 
 } // namespace
 
-void transform_in_place(const Dimensions &d, Kind kind, Sequence x, double scale)
+void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
 {
+    if (has_butterfly(n)) return transform_whole(kind, n, x, scale);
+
+    const Dimensions d{n, factors};
     Stack stack;
     if (kind == Kind::hermitian) {
         Index v = d.n;

@@ -33,7 +33,7 @@ struct Dimensions {
 void c06eay(const Dimensions &, double *x);
 void c06eay_inverse(const Dimensions &, double *x);
 
-// The transforms, their results multiplied by `scale`.
-void transform_in_place(const Dimensions &, Kind kind, Sequence x, double scale);
+// The transforms of length n, their results multiplied by `scale`; `factors` are those of n, found good.
+void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale);
 
 } // namespace kor::transforms

@@ -5,7 +5,7 @@
 
 namespace kor::transforms {
 
-inline constexpr Index kLargestInPlacePrime = 19;
+inline constexpr Integer kLargestInPlacePrime = 19;
 inline constexpr int kMostInPlaceFactors = 20;
 
 enum class InPlaceStatus { good, prime_too_large, too_many_factors };
@@ -18,6 +18,6 @@ struct InPlaceFactors {
 };
 
 // c06eaz: for n >= 2.
-InPlaceFactors c06eaz(Index n);
+InPlaceFactors c06eaz(Integer n);
 
 } // namespace kor::transforms

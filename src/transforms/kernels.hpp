@@ -74,11 +74,15 @@ struct Kernels {
     //   complex:   row (l * after + a) * before + b   -> row (a * radix + k) * before + b
     //   real:      row (f * radix + l) * before + b   -> row g * before + b
     //   Hermitian: row g * before + b                 -> row (f * radix + l) * before + b
-    // f and g are places in packed Hermitian sequences of length `after` and radix * after. Results without a twiddle
-    // factor are multiplied by `scale`: all of them, if `after` is 1.
-    void (*complex_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
-    void (*real_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
-    void (*hermitian_pass)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+    // f and g are places in packed Hermitian sequences of length `after` and radix * after.
+    void (*complex_pass)(const Stage &, const Block &, Sequence in, Sequence out);
+    void (*real_pass)(const Stage &, const Block &, Sequence in, Sequence out);
+    void (*hermitian_pass)(const Stage &, const Block &, Sequence in, Sequence out);
+
+    // A stage without twiddle factors, where `after` is 1; results are multiplied by `scale`.
+    void (*complex_whole)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+    void (*real_whole)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
+    void (*hermitian_whole)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
 
     // One stage with twiddle factors of its own for each element c of row a: those of the stage's place
     // a * columns.count + columns.first + c. They come after the butterfly, or before it, where the rows are
@@ -90,11 +94,12 @@ struct Kernels {
     // roots(l, c) = exp(-2 pi i l c / n) - 1 for l < rows, c < width, at l * width + c; 8 rows width <= n.
     void (*roots_less_one)(Index n, Index rows, Index width, Sequence roots);
 
-    // As complex_pass(), for some columns that may be read from short sequences or written to a long one. What is read from
+    // As complex_pass(), but without large primes, for some columns that may be read from short sequences or written to a long one. What is read from
     // anything but a complex block that goes to a long sequence is multiplied by factors first.
     void (*factors_pass)(const Stage &, const Block &, const Columns &, const Factored &, Sequence in, Sequence out);
     // The opposite way, from a long sequence or to short ones; what goes to short sequences is multiplied by factors last.
-    void (*factors_pass_back)(const Stage &, const Block &, const Columns &, const Factored &, Sequence in, Sequence out);
+    void (*factors_pass_back)(const Stage &, const Block &, const Columns &, const Factored &, Sequence in,
+                              Sequence out);
 };
 
 // The fastest that this processor can run.

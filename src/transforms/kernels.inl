@@ -12,9 +12,9 @@
 #include "transforms/real_passes.inl"
 // clang-format on
 
-// Calls body with the type that stands for the stage's radix.
+// Calls body with the type that stands for the stage's radix; no large prime.
 template <class Body>
-KOR_INLINE void with_radix(const Stage &stage, Body body)
+KOR_INLINE void with_small_radix(const Stage &stage, Body body)
 {
     switch (stage.radix) {
     case 2:
@@ -27,9 +27,42 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
         return body(std::type_identity<Fixed<5>>{});
     case 6:
         return body(std::type_identity<Fixed<6>>{});
+    case 7:
+        return body(std::type_identity<Fixed<7>>{});
     default:
-        if (stage.prime != nullptr) return body(std::type_identity<LargePrime>{});
         return body(std::type_identity<Prime>{});
+    }
+}
+
+// The same for every stage.
+template <class Body>
+KOR_INLINE void with_radix(const Stage &stage, Body body)
+{
+    if (stage.prime != nullptr) return body(std::type_identity<LargePrime>{});
+    with_small_radix(stage, body);
+}
+
+// The same for a stage that is a whole transform.
+template <class Body>
+KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
+{
+    switch (stage.radix) {
+    case 8:
+        return body(std::type_identity<Fixed<8>>{});
+    case 9:
+        return body(std::type_identity<Fixed<9>>{});
+    case 10:
+        return body(std::type_identity<Fixed<10>>{});
+    case 12:
+        return body(std::type_identity<Fixed<12>>{});
+    case 14:
+        return body(std::type_identity<Fixed<14>>{});
+    case 15:
+        return body(std::type_identity<Fixed<15>>{});
+    case 16:
+        return body(std::type_identity<Fixed<16>>{});
+    default:
+        return with_radix(stage, body);
     }
 }
 
@@ -40,21 +73,39 @@ inline constexpr Kernels kKernels{
     .transpose = transpose,
     .swap_transposed = swap_transposed,
     .complex_pass =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out) {
             with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                complex_pass<Radix>(stage, block, in, out, scale);
+                complex_pass<Radix>(stage, block, in, out);
             });
         },
     .real_pass =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out) {
             with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                packed_pass<Radix, RealDirection>(stage, block, in.re, out.re, scale);
+                packed_pass<Radix, RealDirection>(stage, block, in.re, out.re);
             });
         },
     .hermitian_pass =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out) {
             with_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                packed_pass<Radix, HermitianDirection>(stage, block, in.re, out.re, scale);
+                packed_pass<Radix, HermitianDirection>(stage, block, in.re, out.re);
+            });
+        },
+    .complex_whole =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                complex_whole<Radix>(stage, block, in, out, scale);
+            });
+        },
+    .real_whole =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                packed_whole<Radix, RealDirection>(stage, block, in.re, out.re, scale);
+            });
+        },
+    .hermitian_whole =
+        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
+            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
+                packed_whole<Radix, HermitianDirection>(stage, block, in.re, out.re, scale);
             });
         },
     .columns_pass =
@@ -73,14 +124,14 @@ inline constexpr Kernels kKernels{
     .factors_pass =
         [](const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
            Sequence out) {
-            with_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
+            with_small_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
                 factors_pass_forward<Radix>(stage, block, columns, factors, in, out);
             });
         },
     .factors_pass_back =
         [](const Stage &stage, const Block &block, const Columns &columns, const Factored &factors, Sequence in,
            Sequence out) {
-            with_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
+            with_small_radix(stage, [=, &stage, &block, &columns, &factors]<class Radix>(std::type_identity<Radix>) {
                 factors_pass_back<Radix>(stage, block, columns, factors, in, out);
             });
         },

@@ -34,7 +34,7 @@ Index generator(Index p, const Factors &factors)
                        power(static_cast<std::uint64_t>(g), static_cast<std::uint64_t>((p - 1) / prime),
                              static_cast<std::uint64_t>(p)) != 1;
             };
-            return factor > kLargestFixedRadix || factor == 5 ? no_root(factor) : no_root(2) && no_root(3);
+            return factor > kLargestPlainRadix || factor == 5 ? no_root(factor) : no_root(2) && no_root(3);
         });
         if (generates) return g;
     }
@@ -96,7 +96,8 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
 
     if (!table_.allocate(2 * length_)) return false;
     fill_root_table(length_, table_.data());
-    const Index work = std::max({plan(Kind::complex).work_size(), plan(Kind::real).work_size(), plan(Kind::hermitian).work_size()});
+    const Index work =
+        std::max({plan(Kind::complex).work_size(), plan(Kind::real).work_size(), plan(Kind::hermitian).work_size()});
 
     const Index parts[] = {2 * p, 2 * p, length_, 2 * length_, work};
     Count total = 0;

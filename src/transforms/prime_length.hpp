@@ -1,6 +1,8 @@
 // Transforms of a large prime length, by convolution.
 #pragma once
 
+#include <memory>
+
 #include "frame/workspace.hpp"
 #include "transforms/sequence.hpp"
 
@@ -35,8 +37,8 @@ class PrimeTransform {
     Plan plan(Kind kind) const;
 
     Index p_ = 0;
-    Index length_ = 0; // of the convolution: p - 1, or at least 2(p - 1) - 1
-    Workspace<double> table_;   // of roots for length_
+    Index length_ = 0;        // of the convolution: p - 1, or at least 2(p - 1) - 1
+    Workspace<double> table_; // of roots for length_
     Workspace<double> memory_;
     Workspace<Integer> powers_; // g^q modulo p, q = 0..p-2
     double *input_ = nullptr;
@@ -44,6 +46,22 @@ class PrimeTransform {
     double *kernel_ = nullptr; // packed transform of the kernel, divided by length_
     double *signal_ = nullptr; // the sequences that are convolved: real parts, then imaginary parts
     double *work_ = nullptr;
+};
+
+// Those of one length, set up as they come: most lengths have none, and should not pay for them.
+class LargePrimes {
+  public:
+    LargePrimes() {}
+    LargePrimes(const LargePrimes &) = delete;
+    ~LargePrimes() { std::destroy_n(prime_, count_); }
+    PrimeTransform &add() { return *std::construct_at(prime_ + count_++); }
+    int count() const { return count_; }
+
+  private:
+    int count_ = 0;
+    union {
+        PrimeTransform prime_[kMaxLargePrimes];
+    };
 };
 
 } // namespace kor::transforms

@@ -1,16 +1,23 @@
 // The kinds of radix that a pass can be built on: a fixed butterfly, an odd prime, a large prime. Part of kernels.inl.
 //
 // Each offers: `radix`; kRootsInTable, whether the table holds roots in place of the first twiddle factors; kInRegisters,
-// whether it takes registers of elements; Points, the arrays of a butterfly's inputs x and outputs y; run() for complex or
+// whether it takes registers of elements; loop(), a loop over points; Points, the arrays of a butterfly's inputs x and outputs y; run() for complex or
 // real inputs; run_to_real() for Hermitian inputs, which may leave the imaginary parts of y unset.
 
 template <int p>
 struct Fixed {
     static constexpr Index radix = p;
-    static constexpr bool kRootsInTable = false;
+    static constexpr bool kRootsInTable = p > kLargestPlainRadix;
     static constexpr bool kInRegisters = true;
 
     explicit Fixed(const Stage &) {}
+
+    // Calls body(i) for i = 0..count-1.
+    template <class Body>
+    KOR_INLINE static void loop(Index count, Body body)
+    {
+        KOR_UNROLL for (Index i = 0; i < count; ++i) body(i);
+    }
 
     template <class X, class V>
     struct Points {
@@ -38,13 +45,19 @@ struct Prime {
 
     explicit Prime(const Stage &stage) : radix{stage.radix}
     {
-        if (radix <= kLargestFixedRadix) __builtin_unreachable();
+        if (radix <= kLargestPlainRadix) __builtin_unreachable();
         cosine[0] = 1.0;
         sine[0] = 0.0;
         for (Index t = 1; t < radix; ++t) {
             cosine[t] = stage.cosines[(t - 1) * stage.after];
             sine[t] = stage.sines[(t - 1) * stage.after];
         }
+    }
+
+    template <class Body>
+    KOR_INLINE static void loop(Index count, Body body)
+    {
+        for (Index i = 0; i < count; ++i) body(i);
     }
 
     template <class X, class V>
@@ -124,6 +137,12 @@ struct LargePrime {
     static constexpr bool kInRegisters = false;
 
     explicit LargePrime(const Stage &stage) : radix{stage.radix}, prime{*stage.prime} {}
+
+    template <class Body>
+    KOR_INLINE static void loop(Index count, Body body)
+    {
+        for (Index i = 0; i < count; ++i) body(i);
+    }
 
     template <class X, class V>
     struct Points {

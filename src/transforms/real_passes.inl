@@ -17,14 +17,16 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
 {
     using V = typename Access::Value;
     typename Radix::template Points<V, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] = access.load(in + l * layout.row_step);
+    radix.loop(
+        radix.radix, [&](Index l)
+                         __attribute__((always_inline)) { points.x[l] = access.load(in + l * layout.row_step); });
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k <= radix.radix / 2; ++k)
-    {
-        access.store(out + k * r * layout.long_step, scale * points.y[k].re);
-        if (k > 0 && 2 * k < radix.radix)
-            access.store(out + (radix.radix - k) * r * layout.long_step, scale * points.y[k].im);
-    }
+    radix.loop(
+        radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
+            access.store(out + k * r * layout.long_step, scale * points.y[k].re);
+            if (k > 0 && 2 * k < radix.radix)
+                access.store(out + (radix.radix - k) * r * layout.long_step, scale * points.y[k].im);
+        });
 }
 
 // `shift` leads from f = 0 to the first lane's f; the mirror of f is r - f.
@@ -34,26 +36,26 @@ KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLa
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-    {
-        const double *row = in + l * layout.row_step;
-        points.x[l] = twiddle(l, Pair<V>{access.load(row + f * layout.short_step),
-                                         access.load_mirrored(row + (r - f) * layout.short_step)});
-    }
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            const double *row = in + l * layout.row_step;
+            points.x[l] = twiddle(l, Pair<V>{access.load(row + f * layout.short_step),
+                                             access.load_mirrored(row + (r - f) * layout.short_step)});
+        });
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
-    {
-        double *const here = out + (f + r * k) * layout.long_step;
-        double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
-        const Pair<V> y = points.y[k];
-        if (2 * k < radix.radix) {
-            access.store(here, y.re);
-            access.store_mirrored(mirror, y.im);
-        } else {
-            access.store_mirrored(mirror, y.re);
-            access.store(here, -y.im);
-        }
-    }
+    radix.loop(
+        radix.radix, [&](Index k) __attribute__((always_inline)) {
+            double *const here = out + (f + r * k) * layout.long_step;
+            double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
+            const Pair<V> y = points.y[k];
+            if (2 * k < radix.radix) {
+                access.store(here, y.re);
+                access.store_mirrored(mirror, y.im);
+            } else {
+                access.store_mirrored(mirror, y.re);
+                access.store(here, -y.im);
+            }
+        });
 }
 
 // f = r/2, where the short sequences are real.
@@ -63,15 +65,16 @@ KOR_INLINE void real_butterfly_at_half(const Radix &radix, Access access, const 
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) points.x[l] =
-        twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            points.x[l] = twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
+        });
     radix.run(points);
-    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k)
-    {
+    radix.loop((radix.radix + 1) / 2, [&](Index k) __attribute__((always_inline)) {
         access.store(out + (r / 2 + r * k) * layout.long_step, points.y[k].re);
         if (2 * k + 1 < radix.radix)
             access.store(out + (r * (radix.radix - k) - r / 2) * layout.long_step, points.y[k].im);
-    }
+    });
 }
 
 template <class Radix, class Access>
@@ -81,19 +84,23 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
     points.x[0] = {access.load(in), V{}};
-    KOR_UNROLL for (Index k = 1; 2 * k <= radix.radix; ++k)
-    {
-        const V re = access.load(in + k * r * layout.long_step);
-        if (2 * k == radix.radix) {
-            points.x[k] = {re, V{}};
-        } else {
-            const V im = access.load(in + (radix.radix - k) * r * layout.long_step);
-            points.x[k] = {re, im};
-            points.x[radix.radix - k] = {re, -im};
-        }
-    }
+    radix.loop(
+        radix.radix / 2, [&](Index i) __attribute__((always_inline)) {
+            const Index k = i + 1;
+            const V re = access.load(in + k * r * layout.long_step);
+            if (2 * k == radix.radix) {
+                points.x[k] = {re, V{}};
+            } else {
+                const V im = access.load(in + (radix.radix - k) * r * layout.long_step);
+                points.x[k] = {re, im};
+                points.x[radix.radix - k] = {re, -im};
+            }
+        });
     radix.run_to_real(points);
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l) access.store(out + l * layout.row_step, scale * points.y[l].re);
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            access.store(out + l * layout.row_step, scale * points.y[l].re);
+        });
 }
 
 template <class Radix, class Access, class Twiddle>
@@ -102,23 +109,23 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index k = 0; k < radix.radix; ++k)
-    {
-        const double *const here = in + (f + r * k) * layout.long_step;
-        const double *const mirror = in + (r * (radix.radix - k) - f) * layout.long_step;
-        if (2 * k < radix.radix)
-            points.x[k] = {access.load(here), access.load_mirrored(mirror)};
-        else
-            points.x[k] = {access.load_mirrored(mirror), -access.load(here)};
-    }
+    radix.loop(
+        radix.radix, [&](Index k) __attribute__((always_inline)) {
+            const double *const here = in + (f + r * k) * layout.long_step;
+            const double *const mirror = in + (r * (radix.radix - k) - f) * layout.long_step;
+            if (2 * k < radix.radix)
+                points.x[k] = {access.load(here), access.load_mirrored(mirror)};
+            else
+                points.x[k] = {access.load_mirrored(mirror), -access.load(here)};
+        });
     radix.run(points);
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-    {
-        const Pair<V> y = twiddle(l, points.y[l]);
-        double *const row = out + l * layout.row_step;
-        access.store(row + f * layout.short_step, y.re);
-        access.store_mirrored(row + (r - f) * layout.short_step, y.im);
-    }
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            const Pair<V> y = twiddle(l, points.y[l]);
+            double *const row = out + l * layout.row_step;
+            access.store(row + f * layout.short_step, y.re);
+            access.store_mirrored(row + (r - f) * layout.short_step, y.im);
+        });
 }
 
 template <class Radix, class Access, class Twiddle>
@@ -127,8 +134,7 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    KOR_UNROLL for (Index k = 0; 2 * k < radix.radix; ++k)
-    {
+    radix.loop((radix.radix + 1) / 2, [&](Index k) __attribute__((always_inline)) {
         const V re = access.load(in + (r / 2 + r * k) * layout.long_step);
         if (2 * k + 1 == radix.radix) {
             points.x[k] = {re, V{}};
@@ -137,10 +143,12 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
             points.x[k] = {re, im};
             points.x[radix.radix - 1 - k] = {re, -im};
         }
-    }
+    });
     radix.run(points);
-    KOR_UNROLL for (Index l = 0; l < radix.radix; ++l)
-        access.store(out + l * layout.row_step + r / 2 * layout.short_step, twiddle(l, points.y[l]).re);
+    radix.loop(
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            access.store(out + l * layout.row_step + r / 2 * layout.short_step, twiddle(l, points.y[l]).re);
+        });
 }
 
 // The two directions, for the loops that they share.
@@ -181,30 +189,58 @@ struct HermitianDirection {
     static constexpr bool kToLong = false;
 };
 
+// Places of the rows of a block.
+template <class Direction>
+KOR_INLINE PackedLayout layout_of(const Block &block, Index radix)
+{
+    const Index in_step = block.before * block.in_row, out_step = block.before * block.out_row;
+    return Direction::kToLong ? PackedLayout{radix * in_step, in_step, out_step}
+                              : PackedLayout{radix * out_step, out_step, in_step};
+}
+
+// Calls butterfly(access, in, out) for all rows b and all their elements.
+template <class Radix, class Body>
+KOR_INLINE void over_rows(const Block &block, const double *in, double *out, Body butterfly)
+{
+    for (Index b = 0; b < block.before; ++b)
+        deal<Radix>(
+            block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                butterfly(SideBySide{access}, in + b * block.in_row + c, out + b * block.out_row + c);
+            });
+}
+
 template <class Radix, class Direction>
-void packed_pass(const Stage &stage, const Block &given, const double *in, double *out, double scale)
+void packed_pass(const Stage &stage, const Block &given, const double *in, double *out)
+{
+    constexpr double kUnscaled = 1.0;
+    const Radix radix{stage};
+    const Block block = merged(given);
+    const Index r = block.after;
+    const PackedLayout layout = layout_of<Direction>(block, radix.radix);
+    over_rows<Radix>(
+        block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            Direction::at_zero(radix, access, layout, r, from, to, kUnscaled);
+        });
+    for (Index f = 1; 2 * f < r; ++f)
+        over_rows<Radix>(
+            block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+                Direction::between(radix, access, layout, r, f, from, to, SameForAll{stage, f * block.spread});
+            });
+    if (r % 2 == 0)
+        over_rows<Radix>(
+            block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+                Direction::at_half(radix, access, layout, r, from, to, SameForAll{stage, r / 2 * block.spread});
+            });
+}
+
+template <class Radix, class Direction>
+void packed_whole(const Stage &stage, const Block &given, const double *in, double *out, double scale)
 {
     const Radix radix{stage};
     const Block block = merged(given);
-    const Index r = block.after, n = radix.radix;
-    const Index in_step = block.before * block.in_row, out_step = block.before * block.out_row;
-    const PackedLayout layout = Direction::kToLong ? PackedLayout{n * in_step, in_step, out_step}
-                                                   : PackedLayout{n * out_step, out_step, in_step};
-    const auto rows = [&](auto butterfly) __attribute__((always_inline)) {
-        for (Index b = 0; b < block.before; ++b)
-            deal<Radix>(block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                butterfly(SideBySide{access}, in + b * block.in_row + c, out + b * block.out_row + c);
-            });
-    };
-    rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
-        Direction::at_zero(radix, access, layout, r, from, to, scale);
-    });
-    for (Index f = 1; 2 * f < r; ++f)
-        rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
-            Direction::between(radix, access, layout, r, f, from, to, SameForAll{stage, f * block.spread});
-        });
-    if (r % 2 == 0)
-        rows([&](auto access, const double *from, double *to) __attribute__((always_inline)) {
-            Direction::at_half(radix, access, layout, r, from, to, SameForAll{stage, r / 2 * block.spread});
+    const PackedLayout layout = layout_of<Direction>(block, radix.radix);
+    over_rows<Radix>(
+        block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            Direction::at_zero(radix, access, layout, 1, from, to, scale);
         });
 }

@@ -7,7 +7,7 @@ namespace kor::transforms {
 
 void fill_root_table(Index n, double *trig)
 {
-    kernels_for_length(n).root_table(Stages{n, trig}, n, trig);
+    kernels().root_table(Stages{n, trig}, n, trig);
     trig[n - 1] = trig[2 * n - 1] = static_cast<double>(n);
 }
 

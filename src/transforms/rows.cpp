@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-
 namespace kor::transforms {
 
 namespace {
@@ -20,14 +19,13 @@ constexpr Index kMostSideBySide = 16;
 bool Rows::prepare(Index m)
 {
     if (n_ == 1) return true;
-    int large_primes = 0;
     for (int i = 0; i < plan_.stages().count; ++i) {
         Stage &stage = plan_.stages().stage[i];
         if (stage.radix <= kLargestDirectPrime) continue;
-        stage.prime = &prime_[large_primes++];
+        stage.prime = &primes_.add();
         if (!stage.prime->prepare(stage.radix, stage.cosines, stage.sines, stage.after)) return false;
     }
-    side_by_side_ = m > 1 && n_ <= kLongestSideBySide && large_primes == 0 ? std::min(m, kMostSideBySide) : 1;
+    side_by_side_ = m > 1 && n_ <= kLongestSideBySide && primes_.count() == 0 ? std::min(m, kMostSideBySide) : 1;
     const Index parts = kind_ == Kind::complex ? 2 : 1;
     return work_.allocate(std::max(plan_.work_size(), kLine + 2 * parts * n_ * side_by_side_));
 }

@@ -1,6 +1,8 @@
 // Many sequences of one length, with the caller's table of roots: the driver of the multiple-sequence engine.
 #pragma once
 
+#include <cmath>
+
 #include "frame/workspace.hpp"
 #include "transforms/prime_length.hpp"
 #include "transforms/sequence.hpp"
@@ -24,13 +26,17 @@ class Rows {
     Index n_;
     Plan plan_;
     Index side_by_side_ = 1; // rows that are transposed and transformed together
-    PrimeTransform prime_[kMaxLargePrimes];
+    LargePrimes primes_;
     Workspace<double> work_;
 };
 
 // The drivers by kind: false, with the data untouched, when there is no memory.
 inline bool transform_rows(Kind kind, Index m, Index n, Sequence x, const double *trig)
 {
+    if (m == 1 && has_butterfly(n)) {
+        transform_whole(kind, n, x, 1.0 / std::sqrt(static_cast<double>(n)));
+        return true;
+    }
     Rows rows{kind, n, trig};
     if (!rows.prepare(m)) return false;
     rows.transform(m, x);

@@ -23,7 +23,8 @@ constexpr Index kRowBlock = kLine;
 } // namespace
 
 Plan::Plan(Kind kind, Index n, const double *trig)
-    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(kind == Kind::complex ? n : n / 4)}, stages_{n, trig}, columns_{n}
+    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(kind == Kind::complex ? n : n / 4)},
+      stages_{Stages::fewest(n, trig)}, columns_{n}
 {
     // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache. Columns of packed
     // sequences come in pairs.
@@ -37,13 +38,15 @@ Plan::Plan(Kind kind, Index n, const double *trig)
     }
     // Packed sequences take other roundings in two sweeps than in one: so that a sequence gives the same bits alone as among
     // others, short ones go in one.
-    if (rows_ < kernel_->lanes || columns_ < (kind_ == Kind::complex ? 1 : 2) * kernel_->lanes || (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
+    if (rows_ < kernel_->lanes || columns_ < (kind_ == Kind::complex ? 1 : 2) * kernel_->lanes ||
+        (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
         lead_ = 0;
         rows_ = 1;
         columns_ = n;
     }
     row_block_ = std::min(rows_, kRowBlock);
-    column_block_ = std::min(columns_, std::max(kRowBlock, (n < kLong ? kColumnElements : kLongColumnElements) / rows_ / kRowBlock * kRowBlock));
+    column_block_ = std::min(columns_, std::max(kRowBlock, (n < kLong ? kColumnElements : kLongColumnElements) / rows_ /
+                                                               kRowBlock * kRowBlock));
 }
 
 // Blocks of rows or columns; passes go to and fro between the two.
@@ -81,12 +84,38 @@ void in_ranges(Index count, Index step, Body body)
     for (Index i = 0; i < count; i += step) body(std::min(i, count - step));
 }
 
-auto pass_of(const Kernels &kernel, Kind kind)
+// The pass of a stage for rows: those without twiddle factors scale.
+void pass_rows(const Kernels &kernel, Kind kind, const Stage &stage, const Block &block, Sequence in, Sequence out,
+               double scale)
 {
-    return kind == Kind::complex ? kernel.complex_pass : kind == Kind::real ? kernel.real_pass : kernel.hermitian_pass;
+    if (block.after == 1) {
+        switch (kind) {
+        case Kind::complex:
+            return kernel.complex_whole(stage, block, in, out, scale);
+        case Kind::real:
+            return kernel.real_whole(stage, block, in, out, scale);
+        case Kind::hermitian:
+            return kernel.hermitian_whole(stage, block, in, out, scale);
+        }
+    }
+    switch (kind) {
+    case Kind::complex:
+        return kernel.complex_pass(stage, block, in, out);
+    case Kind::real:
+        return kernel.real_pass(stage, block, in, out);
+    case Kind::hermitian:
+        return kernel.hermitian_pass(stage, block, in, out);
+    }
 }
 
 } // namespace
+
+void transform_whole(Kind kind, Index n, Sequence x, double scale)
+{
+    // A butterfly reads all before it writes.
+    const Stage stage{n, 1, 1, nullptr, nullptr, nullptr};
+    pass_rows(kernels_for_length(n), kind, stage, {1, 1, 1, 1, 1}, x, x, scale);
+}
 
 void Plan::transform(Sequence in, Sequence out, double scale, double *work) const
 {
@@ -94,44 +123,43 @@ void Plan::transform(Sequence in, Sequence out, double scale, double *work) cons
     work = at_line(work);
     if (lead_ == 0) return transform_in_one_sweep(in, out, scale, work);
     switch (kind_) {
-    case Kind::complex: return transform_complex(in, out, scale, work);
-    case Kind::real: return transform_real(in, out, scale, work);
-    case Kind::hermitian: return transform_hermitian(in, out, scale, work);
+    case Kind::complex:
+        return transform_complex(in, out, scale, work);
+    case Kind::real:
+        return transform_real(in, out, scale, work);
+    case Kind::hermitian:
+        return transform_hermitian(in, out, scale, work);
     }
 }
 
 Sequence Plan::transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const
 {
     const Kernels &kernel = batch >= kernels().lanes ? kernels() : *kernel_;
-    const auto pass = pass_of(kernel, kind_);
     const int end = stages_.count - 1;
     const Array one{x, batch}, other{spare, batch};
     const bool reversed = kind_ == Kind::real;
-    return run_passes(reversed ? end : 0, reversed ? 0 : end, one, kNone, one, other, [&](int i, Array from, Array to) {
-               const Stage &stage = stages_.stage[i];
-               pass(stage, {stage.before, stage.after, batch, batch, batch}, from.at, to.at, stage.after == 1 ? scale : 1.0);
-           }).at;
+    return run_passes(reversed ? end : 0, reversed ? 0 : end, one, kNone, one, other,
+                      [&](int i, Array from, Array to) {
+                          const Stage &stage = stages_.stage[i];
+                          pass_rows(kernel, kind_, stage, {stage.before, stage.after, batch, batch, batch}, from.at,
+                                    to.at, scale);
+                      })
+        .at;
 }
 
 void Plan::transform_in_one_sweep(Sequence in, Sequence out, double scale, double *work) const
 {
-    // A single pass may not go from an array to itself: then it ends in the work array.
     const Index part = whole_lines(n_);
     const Sequence one{work, out.im != nullptr ? work + part : nullptr};
     const Sequence other = shifted(one, out.im != nullptr ? 2 * part : part);
-    const bool direct = stages_.count > 1 || in.re != out.re;
-    const auto pass = pass_of(*kernel_, kind_);
     const int end = stages_.count - 1;
     const bool reversed = kind_ == Kind::real;
-    const Array last = run_passes(reversed ? end : 0, reversed ? 0 : end, {in, 1}, direct ? Array{out, 1} : kNone, {one, 1},
-                                  {other, 1}, [&](int i, Array from, Array to) {
-                                      const Stage &stage = stages_.stage[i];
-                                      pass(stage, {stage.before, stage.after, 1, 1, 1}, from.at, to.at,
-                                           stage.after == 1 ? scale : 1.0);
-                                  });
-    if (direct) return;
-    std::copy_n(last.at.re, n_, out.re);
-    if (out.im != nullptr) std::copy_n(last.at.im, n_, out.im);
+    // A single pass has a single butterfly, which reads all before it writes: it may go from an array to itself.
+    run_passes(reversed ? end : 0, reversed ? 0 : end, {in, 1}, {out, 1}, {one, 1}, {other, 1},
+               [&](int i, Array from, Array to) {
+                   const Stage &stage = stages_.stage[i];
+                   pass_rows(*kernel_, kind_, stage, {stage.before, stage.after, 1, 1, 1}, from.at, to.at, scale);
+               });
 }
 
 void Plan::transform_complex(Sequence in, Sequence out, double scale, double *work) const
@@ -158,8 +186,8 @@ void Plan::transform_complex(Sequence in, Sequence out, double scale, double *wo
         run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block,
                    {both.block(1, size, true), width}, [&](int i, Array from, Array to) {
                        const Stage &stage = stages_.stage[i];
-                       kernel_->complex_pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at,
-                                             to.at, stage.after == 1 ? scale : 1.0);
+                       pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row},
+                                 from.at, to.at, scale);
                    });
     });
 }
@@ -171,14 +199,13 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
 
     in_ranges(rows_, row_block_, [&](Index first) {
         const Index width = row_block_;
-        const Array done = run_passes(stages_.count - 1, lead_, {shifted(in, first), rows_}, kNone,
-                                      {both.block(0, 0, false), width}, {both.block(1, 0, false), width},
-                                      [&](int i, Array from, Array to) {
-                                          const Stage &stage = stages_.stage[i];
-                                          kernel_->real_pass(
-                                              stage, {stage.before / rows_, stage.after, width, from.row, to.row},
-                                              from.at, to.at, stage.after == 1 ? scale : 1.0);
-                                      });
+        const Array done = run_passes(
+            stages_.count - 1, lead_, {shifted(in, first), rows_}, kNone, {both.block(0, 0, false), width},
+            {both.block(1, 0, false), width}, [&](int i, Array from, Array to) {
+                const Stage &stage = stages_.stage[i];
+                pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at,
+                          to.at, scale);
+            });
         kernel_->transpose(columns_, width, done.at.re, width, middle + first * columns_, columns_);
     });
 
@@ -186,14 +213,16 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
     run_passes(lead_ - 1, 0, {{middle, nullptr}, columns_}, {out, columns_}, {both.block(0, 0, false), 1},
                {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
                    const Stage &stage = stages_.stage[i];
-                   kernel_->real_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at,
-                                      to.at, 1.0);
+                   pass_rows(*kernel_, kind_, stage,
+                             {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at,
+                             1.0);
                });
     const auto columns_back = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
         const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
-        return run_passes(lead_ - 1, 0, packed ? Array{{middle, nullptr}, columns_} : block0, packed ? Array{out, 0} : kNone,
-                          block0, block1, [&](int i, Array from, Array to) {
+        return run_passes(lead_ - 1, 0, packed ? Array{{middle, nullptr}, columns_} : block0,
+                          packed ? Array{out, 0} : kNone, block0, block1,
+                          [&](int i, Array from, Array to) {
                               const Stage &stage = stages_.stage[i];
                               const bool is_first = packed && i == lead_ - 1, is_last = packed && i == 0;
                               kernel_->columns_pass_back(
@@ -229,14 +258,16 @@ void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *
     run_passes(0, lead_ - 1, {in, columns_}, {{middle, nullptr}, columns_}, {both.block(0, 0, false), 1},
                {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
                    const Stage &stage = stages_.stage[i];
-                   kernel_->hermitian_pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_},
-                                           from.at, to.at, 1.0);
+                   pass_rows(*kernel_, kind_, stage,
+                             {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at,
+                             1.0);
                });
     const auto columns_forward = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
         const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
-        return run_passes(0, lead_ - 1, packed ? Array{in, 0} : block0, packed ? Array{{middle, nullptr}, columns_} : kNone,
-                          block0, block1, [&](int i, Array from, Array to) {
+        return run_passes(0, lead_ - 1, packed ? Array{in, 0} : block0,
+                          packed ? Array{{middle, nullptr}, columns_} : kNone, block0, block1,
+                          [&](int i, Array from, Array to) {
                               const Stage &stage = stages_.stage[i];
                               const bool is_first = packed && i == 0, is_last = packed && i == lead_ - 1;
                               kernel_->columns_pass(
@@ -266,11 +297,11 @@ void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *
         const Index width = row_block_;
         const Array block{both.block(0, 0, false), width};
         kernel_->transpose(width, columns_, middle + first * columns_, columns_, block.at.re, width);
-        run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block, {both.block(1, 0, false), width},
-                   [&](int i, Array from, Array to) {
+        run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block,
+                   {both.block(1, 0, false), width}, [&](int i, Array from, Array to) {
                        const Stage &stage = stages_.stage[i];
-                       kernel_->hermitian_pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row},
-                                               from.at, to.at, stage.after == 1 ? scale : 1.0);
+                       pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row},
+                                 from.at, to.at, scale);
                    });
     });
 }

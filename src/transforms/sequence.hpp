@@ -50,4 +50,7 @@ class Plan {
     Index column_block_;
 };
 
+// The transform of a sequence whose length has a butterfly of its own, in place, without tables or memory.
+void transform_whole(Kind kind, Index n, Sequence x, double scale);
+
 } // namespace kor::transforms

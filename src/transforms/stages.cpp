@@ -18,4 +18,12 @@ Stages::Stages(Index n, const double *trig) : count{0}
     }
 }
 
+Stages Stages::fewest(Index n, const double *trig)
+{
+    if (!has_butterfly(n)) return {n, trig};
+    Stages whole{1, trig};
+    whole.stage[whole.count++] = {n, 1, 1, trig, trig, nullptr};
+    return whole;
+}
+
 } // namespace kor::transforms

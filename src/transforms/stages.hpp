@@ -13,7 +13,7 @@ class PrimeTransform;
 
 // Radices above this are primes: their butterflies read roots of unity from the table, and the table's rows for them hold
 // those roots where the others hold the twiddle factor 1.
-inline constexpr Index kLargestFixedRadix = 6;
+inline constexpr Index kLargestPlainRadix = 6;
 
 // Primes above this are worked out by convolution, those up to it by the definition.
 inline constexpr Index kLargestDirectPrime = 61;
@@ -34,11 +34,35 @@ struct Stage {
     Index radix;
     Index before;
     Index after;
-    const double
-        *cosines; // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above
-    const double *sines;   // kLargestFixedRadix the element j = 0 holds cos(2 pi k / radix) instead; `sines`: -sin
+    // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above kLargestPlainRadix
+    // the element j = 0 holds cos(2 pi k / radix) instead. `sines`: -sin.
+    const double *cosines;
+    const double *sines;
     PrimeTransform *prime; // for a radix too large to work out by its definition, otherwise null
 };
+
+// Lengths with a butterfly of their own, whose roots are constants.
+constexpr bool has_butterfly(Index n)
+{
+    switch (n) {
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+    case 6:
+    case 7:
+    case 8:
+    case 9:
+    case 10:
+    case 12:
+    case 14:
+    case 15:
+    case 16:
+        return true;
+    default:
+        return false;
+    }
+}
 
 struct Stages {
     Stage stage[kMaxFactors];
@@ -46,6 +70,9 @@ struct Stages {
 
     // `trig` holds 2n elements as c06gzc fills them.
     Stages(Index n, const double *trig);
+
+    // As few stages as will do: one for a length with a butterfly of its own.
+    static Stages fewest(Index n, const double *trig);
 };
 
 } // namespace kor::transforms

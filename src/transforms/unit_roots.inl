@@ -129,11 +129,11 @@ inline void root_table(const Stages &stages, Index n, double *trig)
 {
     const OctantUnit unit{n};
     const double length = static_cast<double>(n);
-    Lanes t{};
-    Index pending = 0; // places in t whose roots are still to be written
-    Index next = 0;    // where the first of them goes
-    const auto flush = [&]() __attribute__((always_inline)) {
-        store_roots(t, length, unit, pending, trig + next, trig + n + next);
+    double place[kLanes] = {};   // of the roots that are still to be written
+    Index pending = 0, next = 0; // how many they are, and where the first of them goes
+    const auto flush = [&]() __attribute__((always_inline))
+    {
+        store_roots(load_lanes(place), length, unit, pending, trig + next, trig + n + next);
         next += pending;
         pending = 0;
     };
@@ -142,14 +142,17 @@ inline void root_table(const Stages &stages, Index n, double *trig)
         for (Index k = 1; k < stage.radix; ++k) {
             const Index step = stage.before * k;
             // The twiddle factor of the first element is 1; its place serves for the root that a prime radix needs.
-            Index j = 0, place = stage.radix > kLargestFixedRadix ? n / stage.radix * k : 0;
-            do {
-                t[pending++] = static_cast<double>(place);
+            place[pending++] = stage.radix > kLargestPlainRadix ? static_cast<double>(n / stage.radix * k) : 0.0;
+            Index j = 1;
+            // Long rows need no memory for their places, once those before them are written.
+            const Index gathered = stage.after < 4 * kLanes ? stage.after : kLanes - pending + 1;
+            for (; j < gathered; ++j) {
                 if (pending == kLanes) flush();
-                place = step * ++j;
-            } while (j < stage.after && (pending > 0 || stage.after < 4 * kLanes));
+                place[pending++] = static_cast<double>(step * j);
+            }
+            if (pending == kLanes) flush();
             if (j == stage.after) continue;
-            roots_of_row(n, unit, place, step, stage.after - j, trig + next, trig + n + next);
+            roots_of_row(n, unit, step * j, step, stage.after - j, trig + next, trig + n + next);
             next += stage.after - j;
         }
     }

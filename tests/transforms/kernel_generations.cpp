@@ -1,53 +1,149 @@
 // Every generation of processors gives the same bits, for every kind of pass.
+#include <algorithm>
 #include <cstring>
+#include <initializer_list>
 
 #include <gtest/gtest.h>
 
 #include "transforms/generations.hpp"
 #include "transforms/reference.hpp"
-#include "transforms/root_table.hpp"
 
 namespace kor::testing {
 namespace {
 
 using namespace kor::transforms;
 
+// What the passes of one generation write.
+class Collected {
+  public:
+    explicit Collected(const Kernels &kernel) : kernel_{kernel} {}
+
+    // Calls pass(from, to) from random numbers to zeros; `to` holds what is written to sequences of these sizes.
+    template <class Pass>
+    void run(std::size_t in, std::size_t out, Pass pass)
+    {
+        Doubles x = random_doubles(in, 1), y = random_doubles(in, 2), u(out), v(out);
+        pass(Sequence{x.data(), y.data()}, Sequence{u.data(), v.data()});
+        add(u);
+        add(v);
+    }
+    void add(const Doubles &values) { values_.insert(values_.end(), values.begin(), values.end()); }
+    const Doubles &values() const { return values_; }
+    const Kernels &kernel() const { return kernel_; }
+
+  private:
+    const Kernels &kernel_;
+    Doubles values_;
+};
+
+constexpr Index kBatch = 3;
+
+// Each element of the sequence is a row of kBatch numbers.
+void rows(Collected &to, const Stage &stage, std::size_t n)
+{
+    const Block block{stage.before, stage.after, kBatch, kBatch, kBatch};
+    const Kernels &kernel = to.kernel();
+    for (const auto pass : {kernel.complex_pass, kernel.real_pass, kernel.hermitian_pass})
+        to.run(kBatch * n, kBatch * n, [&](Sequence x, Sequence y) { pass(stage, block, x, y); });
+}
+void without_twiddles(Collected &to, const Stage &stage, std::size_t n)
+{
+    const Block block{stage.before, 1, kBatch, kBatch, kBatch};
+    const Kernels &kernel = to.kernel();
+    for (const auto pass : {kernel.complex_whole, kernel.real_whole, kernel.hermitian_whole})
+        to.run(kBatch * n, kBatch * n, [&](Sequence x, Sequence y) { pass(stage, block, x, y, 0.3); });
+}
+
+// Runs pass(block, columns, in, out) from each kind of data in `from` to each in `to`: `rows` rows of some of the `count` columns.
+template <class Pass>
+void kinds_of_columns(Collected &collected, Block block, Index count, Index rows, std::initializer_list<ColumnsOf> from,
+                      std::initializer_list<ColumnsOf> to, Pass pass)
+{
+    const auto is_block = [](ColumnsOf kind) { return kind == ColumnsOf::complex_block; };
+    for (const ColumnsOf in : from)
+        for (const ColumnsOf out : to) {
+            block.in_row = is_block(in) ? block.width : count;
+            block.out_row = is_block(out) ? block.width : count;
+            collected.run(static_cast<std::size_t>(rows * block.in_row), static_cast<std::size_t>(rows * block.out_row),
+                          [&](Sequence x, Sequence y) {
+                              pass(block, Columns{count, 1, in, out, rows}, x, y);
+                          });
+        }
+}
+
+constexpr Index kWidth = 11; // some full registers of every size, and a rest
+
+void columns(Collected &to, const Stage &stage)
+{
+    using enum ColumnsOf;
+    const Index count = stage.after, width = std::min(kWidth, (count - 1) / 2);
+    if (width < 1) return;
+    const Block block{stage.before, 1, width, 0, 0};
+    const Index rows = stage.before * stage.radix;
+    kinds_of_columns(
+        to, block, count, rows, {complex_block, long_sequence}, {complex_block, short_sequences},
+        [&](const Block &b, const Columns &c, Sequence x, Sequence y) { to.kernel().columns_pass(stage, b, c, x, y); });
+    kinds_of_columns(to, block, count, rows, {complex_block, short_sequences}, {complex_block, long_sequence},
+                     [&](const Block &b, const Columns &c, Sequence x, Sequence y) {
+                         to.kernel().columns_pass_back(stage, b, c, x, y);
+                     });
+}
+
+void factors(Collected &to, const Stage &stage, Index n)
+{
+    using enum ColumnsOf;
+    const Index count = 2 * kWidth + 1;
+    const Index longest = std::max(n * count, 8 * n * kWidth);
+    const std::size_t size = static_cast<std::size_t>(n * kWidth);
+    Doubles bases(2 * static_cast<std::size_t>(n)), roots(2 * size);
+    to.kernel().unit_roots(longest, 0, 1, n, bases.data(), bases.data() + n);
+    const Sequence roots_at{roots.data(), roots.data() + size};
+    to.kernel().roots_less_one(longest, n, kWidth, roots_at);
+    to.add(roots);
+    const Factored factored{{bases.data(), bases.data() + n}, roots_at, kWidth};
+    const Block block{stage.before, stage.after, kWidth, 0, 0};
+    kinds_of_columns(to, block, count, n, {complex_block, short_sequences}, {complex_block, long_sequence},
+                     [&](const Block &b, const Columns &c, Sequence x, Sequence y) {
+                         to.kernel().factors_pass(stage, b, c, factored, x, y);
+                     });
+    kinds_of_columns(to, block, count, n, {complex_block, long_sequence}, {short_sequences},
+                     [&](const Block &b, const Columns &c, Sequence x, Sequence y) {
+                         to.kernel().factors_pass_back(stage, b, c, factored, x, y);
+                     });
+    kinds_of_columns(to, block, count, n, {long_sequence}, {complex_block},
+                     [&](const Block &b, const Columns &c, Sequence x, Sequence y) {
+                         to.kernel().factors_pass_back(stage, b, c, factored, x, y);
+                     });
+}
+
 // All passes of all kinds for one length, and the table itself.
 Doubles everything(const Kernels &kernel, Index n)
 {
-    const std::size_t size = static_cast<std::size_t>(n);
-    Doubles trig(2 * size), collected;
-    fill_root_table(n, trig.data());
+    const auto size = static_cast<std::size_t>(n);
+    Collected collected{kernel};
+    Doubles trig(2 * size);
+    kernel.root_table(Stages{n, trig.data()}, n, trig.data());
+    collected.add(trig);
     Doubles c(101), s(101);
     kernel.unit_roots(n, 1, n / 3, 101, c.data(), s.data());
-    collected.insert(collected.end(), c.begin(), c.end());
-    collected.insert(collected.end(), s.begin(), s.end());
+    collected.add(c);
+    collected.add(s);
 
     const Stages stages{n, trig.data()};
-    const Index batch = 3;
-    const Doubles x = random_doubles(batch * size, 1), y = random_doubles(batch * size, 2);
     for (int i = 0; i < stages.count; ++i) {
-        const Stage &stage = stages.stage[i];
-        const auto run = [&](auto pass) {
-            Doubles u(batch * size), v(batch * size);
-            pass(u.data(), v.data());
-            collected.insert(collected.end(), u.begin(), u.end());
-            collected.insert(collected.end(), v.begin(), v.end());
-        };
-        // Each element of the sequence is a row of `batch` numbers.
-        const Block block{stage.before, stage.after, batch, batch, batch};
-        const auto at = [](const Doubles &data) { return const_cast<double *>(data.data()); };
-        run([&](double *u, double *v) { kernel.complex_pass(stage, block, {at(x), at(y)}, {u, v}, 0.3); });
-        run([&](double *u, double *) { kernel.real_pass(stage, block, {at(x), nullptr}, {u, nullptr}, 0.3); });
-        run([&](double *u, double *) { kernel.hermitian_pass(stage, block, {at(x), nullptr}, {u, nullptr}, 0.3); });
+        rows(collected, stages.stage[i], size);
+        columns(collected, stages.stage[i]);
+        factors(collected, stages.stage[i], n);
     }
-    return collected;
+    const Stages fewest = Stages::fewest(n, trig.data());
+    without_twiddles(collected, fewest.stage[fewest.count - 1], size);
+    return collected.values();
 }
 
 TEST(Generations, GiveTheSameBits)
 {
 #if defined(KOR_TRANSFORM_GENERATIONS)
-    for (const Index n : {240, 1296, 1001, 945, 2 * 61 * 61}) {
+    for (const Index n : {2, 3, 5, 6, 7, 8, 9, 10, 12, 14, 15, 16, 240, 1296, 1001, 945, 61 * 61}) {
         const Doubles base = everything(kernels_for_all(), n);
         const auto same = [&](const Doubles &other) {
             return std::memcmp(base.data(), other.data(), base.size() * sizeof(double)) == 0;
