@@ -9,6 +9,336 @@ KOR_BEGIN_DECLS
 
 // Initial values: Runge-Kutta pairs
 
+/// The state of an integration by the Runge-Kutta suite: set up by d02pvc(), carried by the other routines of the suite, its
+/// memory freed by d02ppc(). The caller owns the record and clears it once (`KorRKState state = {0};`); each problem has its
+/// own, and any number of them may be in use side by side. A record must not be copied, nor shared between threads. The members may be
+/// read; what the suite has to say is given out by its routines.
+///
+/// The suite guards its calling order. Each routine has a slot in `calls`: -1 not called since the setup, -2 called with
+/// success, else a status: 1 a severe fault, after which only a new setup helps; 2 and 3 a warning, and 4 the diagnosis
+/// of a stiff problem, after which the integration may go on; 5 and 6 the end of it, after which the results so far may still be
+/// had. Arguments that a routine refuses leave the slots, and the integration, as they were.
+typedef struct {
+    Integer stamp1;          ///< -11111 in a record that was set up
+    Integer stamp2;          ///< -23456 in a record that was set up
+    Integer calls[8];        ///< of d02pvc(), d02pcc(), d02pyc(), d02pzc(), d02pdc(), d02pxc(), d02pwc(), d02ppc()
+    double *work;            ///< the vectors of the integration
+    double *interp_work;     ///< the coefficients of the interpolant
+    Integer neq;             ///< number of equations
+    Integer method;          ///< 1, 2, 3: the pair of orders 3(2), 5(4), 8(7)
+    double tstart;           ///< start of the range
+    double tend;             ///< where the integration is to stop
+    double range_end;        ///< end of the range, as the caller gave it
+    double dir;              ///< +1 or -1: the direction of the integration
+    double hstart;           ///< first step asked for, 0 for an automatic choice
+    double tol;              ///< tolerance
+    double expon;            ///< power of the tolerance to which the step is proportional
+    double toosml;           ///< the least step in units of t
+    double tnow;             ///< point reached
+    double told;             ///< point before
+    double tgot;             ///< point of the last output in range mode
+    double h;                ///< next step to try
+    double hold;             ///< last step taken
+    double havg;             ///< smoothed step
+    double last_err;         ///< error of the last step, weighted
+    double max_err;          ///< largest error found by the assessment, weighted
+    double t_max_err;        ///< where it was found
+    int64_t fcn_count;       ///< evaluations since the last warning
+    int64_t fcn_total;       ///< evaluations before that
+    int64_t secondary_count; ///< evaluations of the error assessment
+    Integer steps_ok;        ///< steps taken
+    Integer steps_failed;    ///< tries that failed
+    Integer hard_steps;      ///< failures since the last sample
+    Integer tend_hits;       ///< stops at `tend` since the last warning
+    Integer stiff_check;     ///< count of steps from which a failure may call for the next test of stiffness
+    Integer interp_space;    ///< components that `interp_work` has room for
+    Integer interp_nwant;    ///< components whose interpolant stands there, 0 for none
+    Integer bank;            ///< which of two sets of stages belongs to the last step taken
+    Boolean extra_stages;    ///< the stages that only the interpolant needs are known
+    Boolean first;           ///< no step taken yet
+    Boolean started;         ///< the derivative at the start is known
+    Boolean last;            ///< `tend` has been reached
+    Boolean at_stop;         ///< the last step ended there
+    Boolean after_failure;   ///< the last step had failed tries
+    Boolean phase1;          ///< the first step is still to be found
+    Boolean may_grow;        ///< it has not been restrained yet
+    Boolean range_mode;      ///< the task is Kor_RK_range
+    Boolean errass;          ///< the error is assessed
+    Boolean errass_failed;   ///< the assessment has failed
+} KorRKState;
+
+/// \brief Sets up an initial value problem for the Runge-Kutta suite.
+///
+/// The problem is y' = f(t, y), y(tstart) = ystart, for t between `tstart` and `tend`, which may lie on either side. Three
+/// explicit pairs are offered: of orders 3(2) for low accuracy, 5(4) for most work, 8(7) for high accuracy. Afterwards d02pcc()
+/// integrates from one output point to the next, or d02pdc() step by step. A record that holds the memory of an earlier
+/// problem gives it back here.
+///
+/// \param[in]  neq    number of equations, at least 1
+/// \param[in]  tstart start of the range, in the unit of t
+/// \param[in]  ystart neq elements: the solution at `tstart`
+/// \param[in]  tend   end of the range, not equal to `tstart`; the integration never goes beyond it
+/// \param[in]  tol    relative tolerance: the local error of a step in component i is kept below `tol` max(`thres[i]`, |y_i|);
+///                    between 10 x02ajc() and 0.01
+/// \param[in]  thres  neq elements: sizes below which a component does not matter, at least sqrt(x02amc())
+/// \param[in]  method the pair: Kor_RK_2_3 (3(2)), Kor_RK_4_5 (5(4)), Kor_RK_7_8 (8(7), without interpolation)
+/// \param[in]  task   Kor_RK_range for d02pcc(), Kor_RK_onestep for d02pdc()
+/// \param[in]  errass Kor_ErrorAssess_on follows the integration with a more accurate one and compares, for d02pzc(), at about
+///                    three times the cost (four with Kor_RK_2_3); Kor_ErrorAssess_off does not
+/// \param[in]  hstart size of the first step, in the unit of t; 0, or what makes no sense, for an automatic choice
+/// \param[out] state  the record, to be freed by d02ppc()
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `task`, `errass` or `method` is none of its values.
+/// - NE_INT_ARG_LT: `neq` is less than 1.
+/// - NE_2_REAL_ARG_EQ: `tstart` and `tend` are equal.
+/// - NE_2_REAL_ARG_CONS: `tstart`, `tend` or their difference is not finite.
+/// - NE_REAL_RANGE_CONS: `tol` is out of its range.
+/// - NE_REAL_ARRAY_INPUT: an element of `thres` is too small.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_2_REAL_ARG_TOO_CLOSE: the range is too short for a step.
+///
+/// After each of them the other routines of the suite refuse the record until a setup succeeds.
+/// \par Accuracy
+/// The tolerance bounds the error of each step; the error at the end is proportional to it, by a factor that is the
+/// problem's own. Try two tolerances, or the assessment, if it matters.
+/// \par Method
+/// P. Bogacki and L. F. Shampine, Appl. Math. Lett. 2 (1989) 321-325 and Comput. Math. Appl. 32 (1996) 15-28; P. J. Prince and
+/// J. R. Dormand, J. Comput. Appl. Math. 7 (1981) 67-75.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// static void f(Integer neq, double t, const double y[], double yp[], void *comm) { yp[0] = y[1]; yp[1] = -y[0]; }
+/// ...
+/// double y0[] = {0.0, 1.0}, thres[] = {1e-8, 1e-8}, t, y[2], yp[2], ymax[2];
+/// KorRKState state = {0};
+/// d02pvc(2, 0.0, y0, 10.0, 1e-6, thres, Kor_RK_4_5, Kor_RK_range, Kor_ErrorAssess_off, 0.0, &state, &fail);
+/// for (int i = 1; i <= 10; ++i)
+///     d02pcc(2, f, i, &t, y, yp, ymax, &state, NULL, &fail);  // y[0] = sin(i)
+/// d02ppc(&state);
+/// \endcode
+void d02pvc(Integer neq, double tstart, const double ystart[], double tend, double tol, const double thres[],
+            Integer method, Integer task, Integer errass, double hstart, KorRKState *state, KorError *fail);
+
+/// \brief Integrates to the next output point, after d02pvc() with the task Kor_RK_range.
+///
+/// The method takes the steps that suit it; the values at `twant` come from an interpolant (Kor_RK_2_3, Kor_RK_4_5), or the step
+/// is made to end there (Kor_RK_7_8). After a warning call again with the same `twant`.
+///
+/// \param[in]  neq   number of equations, as at the setup
+/// \param[in]  f     computes the derivative y' in `yp`, from `t` and `y`, neq elements each; `comm` is passed through
+/// \param[in]  twant the next output point: ahead of the last one, and not beyond the end of the range
+/// \param[out] tgot  the point reached: `twant` after success, the last point before it otherwise
+/// \param[out] ygot  neq elements: the solution at `tgot`
+/// \param[out] ypgot neq elements: its derivative
+/// \param[out] ymax  neq elements: the largest |y_i| at any step so far
+/// \param[in,out] state the record of the problem
+/// \param[in]  comm  passed to `f` as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_MEMORY_FREED, NE_PREV_CALL, NE_NO_SETUP: no valid setup stands.
+/// - NE_RK_INVALID_CALL: the task was Kor_RK_onestep.
+/// - NE_PREV_CALL_INI: the integration has ended with an error before.
+/// - NE_NEQ: `neq` differs from the setup.
+/// - NE_RK_TGOT_EQ_TEND: the end of the range has been reached before.
+/// - NE_RK_TGOT_RANGE_TEND: `twant` is not ahead of the last output point, or beyond the end of the range.
+/// - NE_RK_TGOT_RANGE_TEND_CLOSE: `twant` is beyond the end of the range, by a rounding error.
+/// - NE_RK_TWANT_CLOSE_TGOT: Kor_RK_7_8, and `twant` is too close to the current point.
+/// - NW_RK_TOO_MANY: 5000 evaluations since the last warning. Call again to go on.
+/// - NE_STIFF_PROBLEM: the problem looks stiff; the message tells the cost of going on. One may.
+/// - NE_RK_PCC_METHOD: Kor_RK_7_8, and the output points hold up the integration. One may go on; Kor_RK_4_5 would serve better.
+/// - NE_RK_PDC_STEP: the tolerance cannot be met with steps that doubles can represent: a singularity, a right-hand side
+///   that is not finite or not smooth, or too small a tolerance. The integration has ended at `tgot`.
+/// - NE_RK_PDC_GLOBAL_ERROR_S, NE_RK_PDC_GLOBAL_ERROR_T: the error cannot be assessed reliably. The integration has ended.
+///
+/// The last five, and NW_RK_TOO_MANY, leave `tgot`, `ygot` and `ypgot` at the last point reached; after the others the outputs are
+/// untouched, and the integration may go on where it can.
+/// \par Accuracy
+/// As d02pvc(). The interpolants keep the order of the step: 3 and 5.
+/// \par Method
+/// As d02pvc(). Step control by the error and its trend; a nonlinear power iteration watches for stiffness.
+/// \par Thread safety
+/// Safe, and reentrant: `f` may itself integrate, with another record.
+/// \par See also
+/// d02pdc() takes one step at a time; d02pyc() has statistics, d02pzc() the assessment of the error.
+/// \par Example
+/// See d02pvc().
+void d02pcc(Integer neq, void (*f)(Integer neq, double t, const double y[], double yp[], void *comm), double twant,
+            double *tgot, double ygot[], double ypgot[], double ymax[], KorRKState *state, void *comm, KorError *fail);
+
+/// \brief Takes one step, after d02pvc() with the task Kor_RK_onestep.
+///
+/// \param[in]  neq   number of equations, as at the setup
+/// \param[in]  f     computes the derivative y' in `yp`, from `t` and `y`, neq elements each; `comm` is passed through
+/// \param[out] tnow  the point reached
+/// \param[out] ynow  neq elements: the solution there
+/// \param[out] ypnow neq elements: its derivative
+/// \param[in,out] state the record of the problem
+/// \param[in]  comm  passed to `f` as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_MEMORY_FREED, NE_PREV_CALL, NE_NO_SETUP: no valid setup stands.
+/// - NE_RK_INVALID_CALL: the task was Kor_RK_range. The record is then of no further use.
+/// - NE_PREV_CALL_INI: the integration has ended with an error before.
+/// - NE_NEQ: `neq` differs from the setup.
+/// - NE_RK_PDC_TEND: the end has been reached; d02pwc() can move it.
+/// - NE_RK_PDC_POINTS: the end, moved by d02pwc(), holds up the integration. One may go on.
+/// - NW_RK_TOO_MANY, NE_STIFF_PROBLEM, NE_RK_PDC_STEP, NE_RK_PDC_GLOBAL_ERROR_S, NE_RK_PDC_GLOBAL_ERROR_T: as d02pcc().
+///
+/// From NE_RK_PDC_POINTS on the outputs hold the last point reached, before that they are untouched.
+/// \par Accuracy
+/// As d02pvc().
+/// \par Method
+/// As d02pvc().
+/// \par Thread safety
+/// Safe and reentrant, as d02pcc().
+/// \par Example
+/// \code{.c}
+/// d02pvc(2, 0.0, y0, 10.0, 1e-6, thres, Kor_RK_4_5, Kor_RK_onestep, Kor_ErrorAssess_off, 0.0, &state, &fail);
+/// do
+///     d02pdc(2, f, &t, y, yp, &state, NULL, &fail);
+/// while (fail.code == 0 && t < 10.0);
+/// \endcode
+void d02pdc(Integer neq, void (*f)(Integer neq, double t, const double y[], double yp[], void *comm), double *tnow,
+            double ynow[], double ypnow[], KorRKState *state, void *comm, KorError *fail);
+
+/// \brief The solution and its derivative within the last step of d02pdc(), by interpolation.
+///
+/// \param[in]  neq    number of equations, as at the setup
+/// \param[in]  twant  where the values are wanted: within the last step, or else they are extrapolated
+/// \param[in]  reqest Kor_Sol for the solution, Kor_Der for the derivative, Kor_SolDer for both
+/// \param[in]  nwant  how many components are wanted, from the first, at least 1 and at most `neq`
+/// \param[out] ywant  nwant elements: the solution; untouched, and may be null, with Kor_Der
+/// \param[out] ypwant nwant elements: the derivative; untouched, and may be null, with Kor_Sol
+/// \param[in]  f      the right-hand side, as in d02pdc(); with Kor_RK_4_5 it is called three times for each step in which
+///                    values are wanted
+/// \param[in,out] state the record of the problem
+/// \param[in]  comm   passed to `f` as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_MEMORY_FREED, NE_PREV_CALL, NE_NO_SETUP, NE_NEQ: as d02pdc().
+/// - NE_RK_INVALID_CALL: the task was Kor_RK_range, where d02pcc() does the interpolation.
+/// - NE_PREV_CALL_INI: an earlier call of this routine was invalid.
+/// - NE_MISSING_CALL: no step has been taken yet.
+/// - NE_BAD_PARAM: `reqest` is none of its values.
+/// - NE_2_INT_ARG_GT, NE_INT_ARG_LT: `nwant` is out of its range (reported in the name of d02pwc).
+/// - NE_RK_PX_METHOD: Kor_RK_7_8 has no interpolant.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+///
+/// All of them leave the outputs untouched.
+/// \par Accuracy
+/// Of the order of the local error of the step: a cubic for Kor_RK_2_3, degree 6 for Kor_RK_4_5, and both join the steps
+/// with a continuous derivative.
+/// \par Method
+/// Cubic Hermite interpolation; R. W. Brankin, I. Gladwell and L. F. Shampine, SMU Mathematics report 92-S1 (1992).
+/// \par Thread safety
+/// Safe and reentrant, as d02pcc().
+/// \par Example
+/// \code{.c}
+/// d02pdc(2, f, &t, y, yp, &state, NULL, &fail);
+/// d02pxc(2, 0.5 * t, Kor_Sol, 1, ymid, NULL, f, &state, NULL, &fail);   // the first component at the half of the first step
+/// \endcode
+void d02pxc(Integer neq, double twant, Integer reqest, Integer nwant, double ywant[], double ypwant[],
+            void (*f)(Integer neq, double t, const double y[], double yp[], void *comm), KorRKState *state, void *comm,
+            KorError *fail);
+
+/// \brief Moves the end of the range for d02pdc().
+///
+/// \param[in]  tend_new the new end, ahead of the current point
+/// \param[in,out] state the record of the problem
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_MEMORY_FREED, NE_PREV_CALL, NE_NO_SETUP: no valid setup stands.
+/// - NE_RK_INVALID_CALL: the task was Kor_RK_range.
+/// - NE_PREV_CALL_INI: an earlier call of this routine was invalid.
+/// - NE_MISSING_CALL: no step has been taken yet.
+/// - NE_RK_DIRECTION_POS, NE_RK_DIRECTION_NEG: `tend_new` is not ahead of the current point.
+/// - NE_RK_STEP: `tend_new` is too close to it.
+/// \par Method
+/// The step in hand is kept; the next one is cut to meet the new end if it must be.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02pwc(20.0, &state, &fail);                        // go on to t = 20
+/// \endcode
+void d02pwc(double tend_new, KorRKState *state, KorError *fail);
+
+/// \brief Statistics of an integration by the Runge-Kutta suite.
+///
+/// A record that is not set up leaves all of them untouched: the routine has no error record.
+///
+/// \param[out] total_evals evaluations of the right-hand side so far, with those of the assessment
+/// \param[out] step_cost   evaluations that a step takes when it does not fail
+/// \param[out] waste       the share of tries that failed, 0 before the second step
+/// \param[out] steps_ok    steps taken
+/// \param[out] hnext       the step that will be tried next, with its sign
+/// \param[in]  state       the record of the problem
+///
+/// \par Method
+/// The figures are counted as the integration goes on; counts beyond the largest Integer stay there.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02pyc(&evals, &cost, &waste, &steps, &hnext, &state);
+/// \endcode
+void d02pyc(Integer *total_evals, Integer *step_cost, double *waste, Integer *steps_ok, double *hnext,
+            KorRKState *state);
+
+/// \brief The assessment of the global error, after d02pvc() with Kor_ErrorAssess_on.
+///
+/// Errors are in units of the weights of d02pvc(): 1e-5 is a relative error where the solution is larger than its threshold.
+///
+/// \param[in]  neq    number of equations, as at the setup
+/// \param[out] rmserr neq elements: for each component the root mean square of its error over the steps
+/// \param[out] errmax the largest error of any component at any step
+/// \param[out] terrmx where it was found
+/// \param[in,out] state the record of the problem
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_MEMORY_FREED, NE_PREV_CALL, NE_NO_SETUP, NE_NEQ: as d02pdc().
+/// - NE_ERRASS_REQ: no assessment was asked for at the setup.
+/// - NE_RK_NOSTEP: no step has been taken yet.
+///
+/// All of them leave the outputs untouched.
+/// \par Accuracy
+/// The right order of magnitude where the integration itself is not far off; where it would not be, the
+/// integration ends with NE_RK_PDC_GLOBAL_ERROR_T.
+/// \par Method
+/// A second integration with two (Kor_RK_2_3: three) shorter steps for each step, and its difference from the first.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02pzc(2, rmserr, &errmax, &terrmx, &state, &fail);
+/// \endcode
+void d02pzc(Integer neq, double rmserr[], double *errmax, double *terrmx, KorRKState *state, KorError *fail);
+
+/// \brief Frees the memory of an integration by the Runge-Kutta suite.
+///
+/// Afterwards the other routines refuse the record with NE_MEMORY_FREED until the next d02pvc(). A record that was never set up is
+/// left alone.
+///
+/// \param[in,out] state the record of the problem
+///
+/// \par Method
+/// The stamps of the record tell whether there is anything to free.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02ppc(&state);
+/// \endcode
+void d02ppc(KorRKState *state);
+
 // Initial values: Adams method with events
 
 // Initial values: stiff systems, and drivers for either kind
