@@ -392,7 +392,7 @@ double g01efc(Integer tail, double g, double a, double b, KorError *fail);
 /// - NE_REAL_ARG_GT: `a` is greater than 1.0e6.
 /// - NE_REAL_ARG_LE: `b` is not greater than 0.
 /// - NE_PROBAB_CLOSE_TO_TAIL: the deviate is too small or too large for a number; the result is 0.
-/// - NE_SOL_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
+/// - NE_ALG_NOT_CONV: the search has not converged; the result is its last point. No argument is known that leads here.
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
@@ -630,6 +630,257 @@ double g01gdc(double f, double df1, double df2, double lambda, double tol, Integ
 /// double p = g01gec(0.25, 1.0, 2.0, 1.0, 0.0, 100, &fail);   // p = 0.316797401942714
 /// \endcode
 double g01gec(double x, double a, double b, double lambda, double tol, Integer max_iter, KorError *fail);
+
+/// \brief Mean, standard deviation, skewness, kurtosis and range of a sample.
+///
+/// With W the sum of the weights (of ones, if there are none) and m_k the sum of w (x - mean)^k, divided by W: xsd =
+/// sqrt(m_2), xskew = m_3 / m_2^(3/2), xkurt = m_4 / m_2^2 - 3. Note the divisor W: the estimate with n - 1 instead of n is
+/// `xsd` times sqrt(n / (n - 1)).
+///
+/// \param[in] n observations, at least 1
+/// \param[in] x the sample, of `n` elements
+/// \param[in] wt `n` weights, at least 0; an observation of weight 0 is left out. May be null: all weights are 1
+/// \param[out] nvalid observations of positive weight
+/// \param[out] xmean their mean, in the unit of `x`
+/// \param[out] xsd standard deviation, in the unit of `x`
+/// \param[out] xskew skewness
+/// \param[out] xkurt kurtosis, 0 for the normal law
+/// \param[out] xmin the smallest, NaNs apart
+/// \param[out] xmax the largest
+/// \param[out] wsum sum of the weights
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_REAL_ARG_LT: a weight is less than 0.
+/// - NE_CASES_ZERO: all the weights are 0. `nvalid`, `wsum`, `xsd`, `xskew`, `xkurt` are 0, and the others untouched.
+/// - NE_CASES_ONE: only one observation is valid. `xsd`, `xskew`, `xkurt` are 0, and the others hold what they should.
+///
+/// After the first two the outputs are untouched. Skewness and kurtosis are 0 where the variance is below the fourth root
+/// of x02akc(), 1.2e-77, and so also where all observations are equal.
+/// \par Accuracy
+/// That of the sample as it stands in doubles: mean and standard deviation to a few units in the last place, however small the
+/// deviations are beside the mean. Numbers with decimals are rounded when they become doubles, and with a large mean the
+/// standard deviation feels that. A NaN gives NaN.
+/// \par Method
+/// Two passes: the mean to twice the digits, then compensated sums of the powers of the deviations, in units that neither
+/// overflow nor underflow.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01alc() for a summary that outliers do not move.
+/// \par Example
+/// \code{.c}
+/// const double x[] = {3.1, 2.7, 3.4, 2.9, 3.0};
+/// Integer nvalid;
+/// double mean, sd, skew, kurt, least, greatest, weights;
+/// g01aac(5, x, NULL, &nvalid, &mean, &sd, &skew, &kurt, &least, &greatest, &weights, &fail);   // 3.02, sd 0.231516738055804
+/// \endcode
+void g01aac(Integer n, const double x[], const double wt[], Integer *nvalid, double *xmean, double *xsd, double *xskew,
+            double *xkurt, double *xmin, double *xmax, double *wsum, KorError *fail);
+
+/// \brief Frequencies of a sample in classes.
+///
+/// Class 1 holds the values below `cint[0]`, class i those from `cint[i-2]` up to but not including `cint[i-1]`, and the last
+/// class the values from `cint[num_class-2]` up: both end classes are open.
+///
+/// \param[in] n observations, at least 1
+/// \param[in] x the sample, of `n` elements
+/// \param[in] num_class classes, at least 2
+/// \param[in] class_type Kor_ClassBoundaryUser: the boundaries are given; Kor_ClassBoundaryComp: they are computed
+/// \param[in,out] cint num_class - 1 boundaries, strictly increasing. Computed ones lie at equal distances, from
+///                xmin - 0.0005 d to xmax + 0.0005 d, d the range (or 0.001 |xmin|, or 0.001, where that is 0); with two classes the one
+///                boundary is the middle of the range
+/// \param[out] ifreq num_class frequencies
+/// \param[out] xmin the smallest observation
+/// \param[out] xmax the largest
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1, or `num_class` less than 2.
+/// - NE_BAD_PARAM: `class_type` is neither of the two.
+/// - NE_NOT_INCREASING: the given boundaries do not increase strictly.
+///
+/// After an error the outputs are untouched. NaNs are counted nowhere.
+/// \par Accuracy
+/// Counts are exact.
+/// \par Method
+/// Bisection among the boundaries.
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// const double x[] = {3.1, 2.7, 3.4, 2.9, 3.0};
+/// double bounds[] = {2.8, 3.05};
+/// Integer counts[3];
+/// double least, greatest;
+/// g01aec(5, x, 3, Kor_ClassBoundaryUser, bounds, counts, &least, &greatest, &fail);   // 1, 2, 2
+/// \endcode
+void g01aec(Integer n, const double x[], Integer num_class, Integer class_type, double cint[], Integer ifreq[],
+            double *xmin, double *xmax, KorError *fail);
+
+/// \brief The five-number summary of a sample: extremes, hinges and median.
+///
+/// A hinge is the median of the lower or upper half, to both of which the middle value belongs when `n` is odd.
+///
+/// \param[in] n observations, at least 5
+/// \param[in] x the sample, of `n` elements in any order
+/// \param[out] res 5 elements: minimum, lower hinge, median, upper hinge, maximum
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 5.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+///
+/// After an error `res` is untouched.
+/// \par Accuracy
+/// Observations, or means of two, rounded once. A NaN in the sample makes all five NaN.
+/// \par Method
+/// Sorting. J. W. Tukey, Exploratory Data Analysis (1977), chapter 2.
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// const double x[] = {3.1, 2.7, 3.4, 2.9, 3.0};
+/// double five[5];
+/// g01alc(5, x, five, &fail);   // 2.7, 2.9, 3.0, 3.1, 3.4
+/// \endcode
+void g01alc(Integer n, const double x[], double res[], KorError *fail);
+
+/// \brief Normal scores to a given accuracy.
+///
+/// pp[i-1] is the expected value of the i-th smallest of `n` standard normal variables.
+///
+/// \param[in] n number of scores, at least 1
+/// \param[out] pp `n` scores, ascending; antisymmetric about the middle
+/// \param[in] etol largest error allowed, greater than 0
+/// \param[out] errest largest estimated error, about 1e-15 for small `n`
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_REAL_ARG_LE: `etol` is not greater than 0.
+/// - NE_NORMAL_SCORE_EST: `errest` exceeds `etol`; the scores are as good as they can be. After the others the outputs are
+///   untouched.
+/// \par Accuracy
+/// Absolute errors below 1e-13 up to n = 1e6, whatever `etol`. The time is about 10 us a score.
+/// \par Method
+/// The trapezoidal rule, which converges exponentially here, about the middle of each order statistic.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01dbc(), g01dhc()
+/// \par Example
+/// \code{.c}
+/// double scores[5], error;
+/// g01dac(5, scores, 1e-10, &error, &fail);   // -1.16296447364052, -0.495018970457742, 0, ...
+/// \endcode
+void g01dac(Integer n, double pp[], double etol, double *errest, KorError *fail);
+
+/// \brief Normal scores.
+///
+/// pp[i-1] is the expected value of the i-th smallest of `n` standard normal variables.
+///
+/// \param[in] n number of scores, at least 1
+/// \param[out] pp `n` scores, ascending; antisymmetric about the middle
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1; `pp` is untouched.
+/// \par Accuracy
+/// Absolute errors below 1e-13 up to n = 1e6: as g01dac().
+/// \par Method
+/// As g01dac().
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// g01dac() tells an error estimate; g01dhc() gives scores to a sample.
+/// \par Example
+/// \code{.c}
+/// double scores[4];
+/// g01dbc(4, scores, &fail);   // -1.02937537300396, -0.297011382297226, 0.297..., 1.029...
+/// \endcode
+void g01dbc(Integer n, double pp[], KorError *fail);
+
+/// \brief Shapiro and Wilk's test for normality.
+///
+/// W = (a'x)^2 / S^2, S^2 the sum of the squared deviations from the mean; small values speak against a normal law.
+///
+/// \param[in] n observations, from 3 to 2000
+/// \param[in] x the sample, ascending, of `n` elements
+/// \param[in] calc_wts true: the weights are computed; false: `a` holds those of an earlier call with the same `n`
+/// \param[in,out] a `n` weights, antisymmetric, with squares that add to 1
+/// \param[out] w the statistic
+/// \param[out] pw its significance: the probability of a smaller `w` if the law is normal
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 3.
+/// - NE_INT_ARG_GT: `n` is greater than 2000.
+/// - NE_SAMPLES_NOT_IN_ORDER: `x` does not ascend, or holds a NaN.
+/// - NE_SAMPLES_ARE_ALL_EQUAL: all observations are equal.
+///
+/// After an error the outputs are untouched.
+/// \par Accuracy
+/// `w` is that of the published weights to all digits but one or two, also next to 1. The law of `w` is known only by a fit:
+/// `pw` is good to a few units in the third decimal, and exact for n = 3.
+/// \par Method
+/// P. Royston, Statist. Comput. 2 (1992) 117-119, and Appl. Statist. 44 (1995) 547-551.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// m01cac() sorts a sample.
+/// \par Example
+/// \code{.c}
+/// const double x[] = {148, 154, 158, 160, 161, 162, 166, 170, 182, 195, 236};   // weights of men, in pounds
+/// double a[11], w, pw;
+/// g01ddc(11, x, 1, a, &w, &pw, &fail);   // w = 0.788, pw = 0.0067
+/// \endcode
+void g01ddc(Integer n, const double x[], Boolean calc_wts, double a[], double *w, double *pw, KorError *fail);
+
+/// \brief Ranks and scores of a sample.
+///
+/// The i-th smallest of the `n` observations scores
+/// - Kor_RankScores: i
+/// - Kor_NormalScores: the expected value of the i-th smallest of n standard normal variables
+/// - Kor_BlomScores, Kor_TukeyScores, Kor_WaerdenScores: the normal deviate of (i - 3/8) / (n + 1/4), of (i - 1/3) / (n + 1/3),
+///   of i / (n + 1)
+/// - Kor_SavageScores: the expected value of the i-th smallest of n standard exponential variables, 1/n + ... + 1/(n-i+1).
+///
+/// Equal observations get
+/// - Kor_AverageTies: the mean of the scores of their group
+/// - Kor_LowestTies, Kor_HighestTies: the lowest or the highest of them
+/// - Kor_RandomTies: the scores of the group in random order, by g05ehc()
+/// - Kor_IgnoreTies: the scores of the group in the order in which they stand.
+///
+/// \param[in] scores which scores: one of the six above
+/// \param[in] ties what equal observations get: one of the five above
+/// \param[in] n observations, at least 1
+/// \param[in] x the sample, of `n` elements in any order
+/// \param[out] r `n` scores, r[j] that of x[j]
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `scores` or `ties` is none of these.
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+///
+/// After an error `r` is untouched. NaNs count as equal, and as greater than all else.
+/// \par Accuracy
+/// Ranks are exact; other scores have errors of a few units in the last place, normal scores absolute ones below 1e-13.
+/// \par Method
+/// A stable sort, and the scores as above.
+/// \par Thread safety
+/// Safe; Kor_RandomTies draws from the generator of the thread.
+/// \par See also
+/// g01dbc()
+/// \par Example
+/// \code{.c}
+/// const double x[] = {3.1, 2.7, 3.1, 2.9};
+/// double r[4];
+/// g01dhc(Kor_RankScores, Kor_AverageTies, 4, x, r, &fail);   // 3.5, 1, 3.5, 2
+/// \endcode
+void g01dhc(Integer scores, Integer ties, Integer n, const double x[], double r[], KorError *fail);
 
 KOR_END_DECLS
 

@@ -23,6 +23,6 @@ double g01ffc(double p, double a, double b, double /*tol: full accuracy meets an
     if (x.converged)
         report.success();
     else
-        report.error<NE_SOL_NOT_CONV>();
+        report.error<NE_ALG_NOT_CONV>(kor::stats::kMaxNewtonSteps);
     return x.value * b;
 }

@@ -32,16 +32,17 @@ struct Quantile {
     bool converged;
 };
 
+constexpr int kMaxNewtonSteps = 200; // none is known that takes 20
+
 // law(w) -> PointOfLaw, for w in (0, infinity).
 template <class Law>
 Quantile solve_tail(const Law &law, Target target, double start)
 {
-    constexpr int kMaxSteps = 200;
     constexpr double kLast = 1e-8; // Newton's error is about the square of the residual
     constexpr double kLongestStep = 40.0;
     double low = 0.0, high = std::numeric_limits<double>::infinity();
     double w = start;
-    for (int step = 0; step < kMaxSteps; ++step) {
+    for (int step = 0; step < kMaxNewtonSteps; ++step) {
         const PointOfLaw at = law(w);
         const double tail = target.upper ? at.tails.upper : at.tails.lower;
         if (tail == target.probability) return {w, true};

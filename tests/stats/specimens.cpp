@@ -46,3 +46,70 @@ KOR_VALUE_SPECIMEN(g01gec, 0.25, 1.0, 2.0, 1.0, 0.0, 100)
 KOR_DISCRETE_SPECIMEN(g01bjc, 10, 0.5, 5)
 KOR_DISCRETE_SPECIMEN(g01bkc, 2.0, 2)
 KOR_DISCRETE_SPECIMEN(g01blc, 10, 2, 5, 1)
+
+namespace {
+
+const double kSample[] = {3.1, 2.7, 3.4, 2.9, 3.1, 3.0, 5.2, 2.2};
+constexpr Integer kCount = 8;
+
+} // namespace
+
+KOR_SPECIMEN(g01aac)
+{
+    Integer nvalid = 99;
+    double mean = 99.0, sd = 99.0, skew = 99.0, kurt = 99.0, least = 99.0, greatest = 99.0, weights = 99.0;
+    call([&](KorError *fail) {
+        g01aac(kCount, kSample, nullptr, &nvalid, &mean, &sd, &skew, &kurt, &least, &greatest, &weights, fail);
+    });
+    outputs(nvalid, mean, sd, skew, kurt, least, greatest, weights);
+}
+
+KOR_SPECIMEN(g01aec)
+{
+    double bounds[3] = {99.0, 99.0, 99.0}, least = 99.0, greatest = 99.0;
+    Integer counts[4] = {99, 99, 99, 99};
+    call([&](KorError *fail) {
+        g01aec(kCount, kSample, 4, Kor_ClassBoundaryComp, bounds, counts, &least, &greatest, fail);
+    });
+    outputs(bounds, 3);
+    outputs(counts, 4);
+    outputs(least, greatest);
+}
+
+KOR_SPECIMEN(g01alc)
+{
+    double five[5] = {99.0, 99.0, 99.0, 99.0, 99.0};
+    call([&](KorError *fail) { g01alc(kCount, kSample, five, fail); });
+    outputs(five, 5);
+}
+
+KOR_SPECIMEN(g01dac)
+{
+    double scores[5] = {99.0, 99.0, 99.0, 99.0, 99.0}, error = 99.0;
+    call([&](KorError *fail) { g01dac(5, scores, 1e-9, &error, fail); });
+    outputs(scores, 5);
+    outputs(error);
+}
+
+KOR_SPECIMEN(g01dbc)
+{
+    double scores[5] = {99.0, 99.0, 99.0, 99.0, 99.0};
+    call([&](KorError *fail) { g01dbc(5, scores, fail); });
+    outputs(scores, 5);
+}
+
+KOR_SPECIMEN(g01ddc)
+{
+    const double sorted[] = {2.2, 2.7, 2.9, 3.0, 3.1, 3.1, 3.4, 5.2};
+    double a[kCount] = {99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0}, w = 99.0, pw = 99.0;
+    call([&](KorError *fail) { g01ddc(kCount, sorted, 1, a, &w, &pw, fail); });
+    outputs(a, kCount);
+    outputs(w, pw);
+}
+
+KOR_SPECIMEN(g01dhc)
+{
+    double r[kCount] = {99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0};
+    call([&](KorError *fail) { g01dhc(Kor_BlomScores, Kor_AverageTies, kCount, kSample, r, fail); });
+    outputs(r, kCount);
+}
