@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #include "quadrature/extrapolation.hpp"
 #include "quadrature/rules.hpp"
@@ -26,10 +27,16 @@ enum class AdaptiveStatus : Integer {
     invalid = 6,
 };
 
+inline constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+
 struct Tolerance {
     double absolute; // both taken by absolute value
     double relative;
-    double bound(double result) const { return std::max(absolute, relative * std::fabs(result)); }
+    // Of the error; NaN, which nothing meets, for a result that is not finite.
+    double bound(double result) const
+    {
+        return std::isfinite(result) ? std::max(absolute, relative * std::fabs(result)) : kNotANumber;
+    }
 };
 
 struct AdaptiveResult {
@@ -54,6 +61,46 @@ inline bool comparable(const RuleValue &first, const RuleValue &second)
 {
     return first.error != first.resasc && second.error != second.resasc;
 }
+// The sums over the sub-intervals, kept up to date. Where the integrand was infinite, at an end point perhaps, the halves may
+// be without that point: values that are not finite are counted, and the finite ones summed apart from them.
+class Sums {
+  public:
+    explicit Sums(const Subdivision &s)
+    {
+        for (Integer i = 0; i < s.count; ++i) take(s.result[i], s.error[i]);
+    }
+
+    double result() const { return unlimited_ == 0 ? result_ : HUGE_VAL; }
+    double error() const { return unlimited_ == 0 ? error_ : HUGE_VAL; }
+
+    void replace(double old_result, double old_error, const RuleValue &first, const RuleValue &second)
+    {
+        if (finite(old_result, old_error) && finite(first.result, first.error) && finite(second.result, second.error)) {
+            result_ += first.result + second.result - old_result;
+            error_ += first.error + second.error - old_error;
+            return;
+        }
+        finite(old_result, old_error) ? take(-old_result, -old_error) : static_cast<void>(--unlimited_);
+        take(first.result, first.error);
+        take(second.result, second.error);
+    }
+
+  private:
+    static bool finite(double result, double error) { return std::isfinite(result) && std::isfinite(error); }
+    void take(double result, double error)
+    {
+        if (!finite(result, error)) {
+            ++unlimited_;
+            return;
+        }
+        result_ += result;
+        error_ += error;
+    }
+
+    double result_ = 0.0, error_ = 0.0;
+    Integer unlimited_ = 0;
+};
+
 // A bisection that changed neither the result nor the error: rounding errors, or a hidden difficulty.
 inline bool stagnates(double old_result, double old_error, double area12, double error12)
 {
@@ -75,7 +122,7 @@ AdaptiveResult bisect_adaptively(Subdivision &s, Rule &&rule, Split &&split, Tol
                                  const PlainSettings &settings, AdaptiveResult start)
 {
     AdaptiveResult outcome = start;
-    double area = start.result, error_sum = start.error;
+    Sums sums{s};
     int stagnations = 0, growths = 0;
     while (s.count < s.limit) {
         const Integer worst = s.worst();
@@ -83,15 +130,14 @@ AdaptiveResult bisect_adaptively(Subdivision &s, Rule &&rule, Split &&split, Tol
         const double old_error = s.error[worst], old_result = s.result[worst];
         const RuleValue first = rule(a, middle), second = rule(middle, b);
         const double area12 = first.result + second.result, error12 = first.error + second.error;
-        error_sum += error12 - old_error;
-        area += area12 - old_result;
+        sums.replace(old_result, old_error, first, second);
         if (comparable(first, second)) {
             if (stagnates(old_result, old_error, area12, error12)) ++stagnations;
             if (s.count + 1 > 10 && error12 > old_error) ++growths;
         }
         s.replace_worst(a, middle, b, first, second);
-        const double bound = tolerance.bound(area);
-        if (!(error_sum <= bound)) {
+        const bool met = sums.error() <= tolerance.bound(sums.result());
+        if (!met) {
             const bool many_stagnations = stagnations >= 6;
             if (settings.both_counters ? many_stagnations && growths > 20 : many_stagnations || growths >= 20)
                 outcome.status = AdaptiveStatus::roundoff;
@@ -102,10 +148,10 @@ AdaptiveResult bisect_adaptively(Subdivision &s, Rule &&rule, Split &&split, Tol
             outcome.bad_left = a;
             outcome.bad_right = b;
         }
-        if (outcome.status != AdaptiveStatus::converged || error_sum <= bound) break;
+        if (outcome.status != AdaptiveStatus::converged || met) break;
     }
     outcome.result = s.sum_of_results();
-    outcome.error = error_sum;
+    outcome.error = sums.error();
     return outcome;
 }
 
@@ -138,12 +184,10 @@ struct AlwaysRegular {
     bool becomes_regular(double) { return true; }
 };
 
-// The state before the first bisection: sums over the first sub-intervals.
+// How the sequence of sums begins.
 struct ExtrapolationStart {
-    double result;
-    double error_sum;
-    double resabs;
-    bool first_sum;          // this result is the first term of the sequence to be extrapolated,
+    double resabs;  // over the whole range
+    bool first_sum; // the sum over the first sub-intervals is the first term of the sequence to be extrapolated,
     bool second_sum_at_once; // and the sum after the first bisection the next, without more ado
 };
 
@@ -153,13 +197,14 @@ AdaptiveResult bisect_and_extrapolate(Subdivision &s, Rule &&rule, Large large, 
                                       Tolerance tolerance, const ExtrapolationStart &start)
 {
     constexpr int kRoundoffErrors = 10, kGrowthErrors = 20, kExtrapolationErrors = 5;
-    AdaptiveResult best{start.result, kHuge};
-    double area = start.result, error_sum = start.error_sum;
+    Sums sums{s};
+    double area = sums.result(), error_sum = sums.error();
+    AdaptiveResult best{area, kHuge};
     double large_error = error_sum;        // over the large sub-intervals
     double wanted = tolerance.bound(area); // for that sum, before it pays to extrapolate
     double correction = 0.0;
     EpsilonTable table;
-    if (start.first_sum) table.append(area);
+    if (start.first_sum && std::isfinite(area)) table.append(area);
     const bool same_sign = std::fabs(area) >= (1.0 - 50.0 * kPrecision) * start.resabs;
     const Integer first_count = s.count;
     int stagnations = 0, late_stagnations = 0, growths = 0, fruitless = 0;
@@ -175,8 +220,9 @@ AdaptiveResult bisect_and_extrapolate(Subdivision &s, Rule &&rule, Large large, 
         const Integer level = s.level != nullptr ? s.level[worst] + 1 : 0;
         const RuleValue first = rule(a, middle, level), second = rule(middle, b, level);
         const double area12 = first.result + second.result, error12 = first.error + second.error;
-        error_sum += error12 - old_error;
-        area += area12 - old_result;
+        sums.replace(old_result, old_error, first, second);
+        area = sums.result();
+        error_sum = sums.error();
         if (comparable(first, second)) {
             if (stagnates(old_result, old_error, area12, error12)) ++(extrapolating ? late_stagnations : stagnations);
             if (s.count + 1 > 10 && error12 > old_error) ++growths;
@@ -198,7 +244,7 @@ AdaptiveResult bisect_and_extrapolate(Subdivision &s, Rule &&rule, Large large, 
         if (s.count == first_count + 1 && start.second_sum_at_once) {
             large_error = error_sum;
             wanted = bound;
-            table.append(area);
+            if (std::isfinite(area)) table.append(area);
             if (status != 0) break;
             continue;
         }
@@ -227,8 +273,8 @@ AdaptiveResult bisect_and_extrapolate(Subdivision &s, Rule &&rule, Large large, 
             if (found) continue;
         }
 
-        table.append(area);
-        if (table.length() >= 3) {
+        if (std::isfinite(area)) table.append(area);
+        if (std::isfinite(area) && table.length() >= 3) {
             const auto estimate = table.extrapolate();
             if (++fruitless > 5 && best.error < 1e-3 * error_sum) status = 5;
             if (estimate.error < best.error) {

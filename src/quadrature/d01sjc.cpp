@@ -6,6 +6,6 @@
 void d01sjc(double (*f)(double x, void *comm), double a, double b, double epsabs, double epsrel, Integer max_num_subint,
             double *result, double *abserr, KorQuadRecord *qp, void *comm, KorError *fail)
 {
-    kor::quadrature::integrate_general({"d01sjc", fail}, [=](double x) { return f(x, comm); }, a, b,
+    kor::quadrature::integrate_general({"d01sjc", fail}, {f, comm}, a, b,
                                        {epsabs, epsrel, max_num_subint, result, abserr, qp});
 }

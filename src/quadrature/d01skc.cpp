@@ -6,6 +6,6 @@
 void d01skc(double (*f)(double x, void *comm), double a, double b, double epsabs, double epsrel, Integer max_num_subint,
             double *result, double *abserr, KorQuadRecord *qp, void *comm, KorError *fail)
 {
-    kor::quadrature::integrate_oscillating({"d01skc", fail}, [=](double x) { return f(x, comm); }, a, b,
+    kor::quadrature::integrate_oscillating({"d01skc", fail}, {f, comm}, a, b,
                                            {epsabs, epsrel, max_num_subint, result, abserr, qp});
 }

@@ -7,6 +7,6 @@ void d01slc(double (*f)(double x, void *comm), double a, double b, Integer nbrkp
             double epsabs, double epsrel, Integer max_num_subint, double *result, double *abserr, KorQuadRecord *qp,
             void *comm, KorError *fail)
 {
-    kor::quadrature::integrate_with_breaks({"d01slc", fail}, [=](double x) { return f(x, comm); }, a, b, nbrkpts,
-                                           brkpts, {epsabs, epsrel, max_num_subint, result, abserr, qp});
+    kor::quadrature::integrate_with_breaks({"d01slc", fail}, {f, comm}, a, b, nbrkpts, brkpts,
+                                           {epsabs, epsrel, max_num_subint, result, abserr, qp});
 }

@@ -7,6 +7,6 @@ void d01snc(double (*f)(double x, void *comm), double a, double b, double omega,
             double epsrel, Integer max_num_subint, double *result, double *abserr, KorQuadRecord *qp, void *comm,
             KorError *fail)
 {
-    kor::quadrature::integrate_trigonometric_weight({"d01snc", fail}, [=](double x) { return f(x, comm); }, a, b, omega,
-                                                    wt_func, {epsabs, epsrel, max_num_subint, result, abserr, qp});
+    kor::quadrature::integrate_trigonometric_weight({"d01snc", fail}, {f, comm}, a, b, omega, wt_func,
+                                                    {epsabs, epsrel, max_num_subint, result, abserr, qp});
 }

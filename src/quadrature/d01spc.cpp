@@ -7,6 +7,6 @@ void d01spc(double (*f)(double x, void *comm), double a, double b, double alfa, 
             double epsabs, double epsrel, Integer max_num_subint, double *result, double *abserr, KorQuadRecord *qp,
             void *comm, KorError *fail)
 {
-    kor::quadrature::integrate_endpoint_weight({"d01spc", fail}, [=](double x) { return f(x, comm); }, a, b, alfa, beta,
-                                               wt_func, {epsabs, epsrel, max_num_subint, result, abserr, qp});
+    kor::quadrature::integrate_endpoint_weight({"d01spc", fail}, {f, comm}, a, b, alfa, beta, wt_func,
+                                               {epsabs, epsrel, max_num_subint, result, abserr, qp});
 }

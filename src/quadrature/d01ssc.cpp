@@ -7,7 +7,6 @@ void d01ssc(double (*f)(double x, void *comm), double a, double omega, Integer w
             Integer max_num_subint, double epsabs, double *result, double *abserr, KorQuadIntervalRecord *qp,
             void *comm, KorError *fail)
 {
-    kor::quadrature::integrate_fourier(
-        {"d01ssc", fail}, [=](double x) { return f(x, comm); }, a, omega, wt_func, maxintervals, max_num_subint, epsabs,
-        result, abserr, qp);
+    kor::quadrature::integrate_fourier({"d01ssc", fail}, {f, comm}, a, omega, wt_func, maxintervals, max_num_subint,
+                                       epsabs, result, abserr, qp);
 }

@@ -6,6 +6,5 @@
 double d01tac(Integer quadrule, double (*f)(double x, void *comm), double a, double b, Integer npts, void *comm,
               KorError *fail)
 {
-    return kor::quadrature::gauss_sum(
-        {"d01tac", fail}, quadrule, [=](double x) { return f(x, comm); }, a, b, npts);
+    return kor::quadrature::gauss_sum({"d01tac", fail}, quadrule, {f, comm}, a, b, npts);
 }

@@ -55,8 +55,7 @@ RuleValue EndpointRule::operator()(Integrand f, double left, double right)
     const bool singular_at_b = right == b_ && (beta_ != 0.0 || log_b_);
     if (!singular_at_a && !singular_at_b) {
         evaluations += kPair15.points;
-        return apply_pair(
-            kPair15, [&](double x) { return f(x) * factor_of_a(x) * factor_of_b(x); }, left, right);
+        return apply_pair<kPair15>([&](double x) { return f(x) * factor_of_a(x) * factor_of_b(x); }, left, right);
     }
 
     evaluations += kChebyshevPoints;
@@ -77,7 +76,7 @@ RuleValue EndpointRule::operator()(Integrand f, double left, double right)
         gap = std::fabs(gap * log_width) + std::fabs(fine_log - series.coarse_integral(moments.logarithmic));
         fine = fine * log_width + fine_log;
     }
-    return {fine * factor, gap * factor, 0.0, 0.0};
+    return {fine * factor, unlimited_if_unknown(gap * factor), 0.0, 0.0};
 }
 
 } // namespace kor::quadrature

@@ -15,7 +15,7 @@ void integrate_general(const Report &report, Integrand f, double a, double b, co
 
     const auto rule = [&](double left, double right, Integer) {
         work.evaluations += kPair21.points;
-        return apply_pair(kPair21, f, left, right);
+        return apply_pair<kPair21>(f, left, right);
     };
     finish(report, extrapolate_from_one(work.subdivision(), rule, a, b, tolerance_of(request)), work, request);
 }
@@ -29,7 +29,7 @@ void integrate_oscillating(const Report &report, Integrand f, double a, double b
 
     const auto rule = [&](double left, double right) {
         work.evaluations += kPair61.points;
-        return apply_pair(kPair61, f, left, right);
+        return apply_pair<kPair61>(f, left, right);
     };
     const RuleValue whole = rule(a, b);
     work.subdivision().start(a, b, whole);
@@ -75,13 +75,9 @@ bool start_from_pieces(Subdivision &s, Rule &&rule, double a, double b, Integer 
         }
         left = right;
     }
-    total.resasc = 0.0;
     for (Integer i = 0; no_estimate && i < s.count; ++i)
         if (s.level[i] != 0) s.error[i] = total.error;
-    for (Integer i = 0; i < s.count; ++i) {
-        s.level[i] = 0;
-        total.resasc += s.error[i]; // the sum of errors that the engine starts with
-    }
+    std::fill(s.level, s.level + s.count, 0);
     s.order_by_error();
     return true;
 }
@@ -103,7 +99,7 @@ void integrate_with_breaks(const Report &report, Integrand f, double a, double b
 
     const auto rule = [&](double left, double right, Integer) {
         work.evaluations += kPair21.points;
-        return apply_pair(kPair21, f, left, right);
+        return apply_pair<kPair21>(f, left, right);
     };
     RuleValue total;
     if (!start_from_pieces(work.subdivision(), rule, a, b, nbrkpts, points.data(), total))
@@ -117,7 +113,7 @@ void integrate_with_breaks(const Report &report, Integrand f, double a, double b
         outcome.status = status_at_start(total, bound, limit == nbrkpts + 1 ? 1 : limit, 100.0);
         if (outcome.status == AdaptiveStatus::converged)
             outcome = bisect_and_extrapolate(work.subdivision(), rule, LargeByLevel{}, AlwaysRegular{}, tolerance,
-                                             {total.result, total.resasc, total.resabs, true, false});
+                                             {total.resabs, true, false});
     }
     finish(report, outcome, work, request);
 }

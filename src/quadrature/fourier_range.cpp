@@ -43,7 +43,7 @@ AdaptiveResult integrate_fourier_range(Integrand f, double a, double b, double o
     const bool at_once = regularity.regular();
     const bool first_sum = 0.5 * range * std::fabs(omega) <= 2.0;
     return bisect_and_extrapolate(s, weighted, LargeByWidth{(at_once ? 0.375 : 0.75) * range}, regularity, tolerance,
-                                  {whole.result, whole.error, whole.resabs, first_sum, at_once});
+                                  {whole.resabs, first_sum, at_once});
 }
 
 namespace {

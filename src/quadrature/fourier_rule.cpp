@@ -86,8 +86,7 @@ RuleValue FourierRule::operator()(Integrand f, double a, double b, Integer level
     const double h = 0.5 * (b - a);
     if (!(std::fabs(h * omega_) > kSlowWeight)) {
         evaluations += kPair15.points;
-        return apply_pair(
-            kPair15, [&](double x) { return f(x) * weight(x); }, a, b);
+        return apply_pair<kPair15>([&](double x) { return f(x) * weight(x); }, a, b);
     }
 
     evaluations += kChebyshevPoints;
@@ -101,7 +100,8 @@ RuleValue FourierRule::operator()(Integrand f, double a, double b, Integer level
     const double with_sine = h * (sine_ ? middle.cosine : -middle.sine);
     const double resabs = series.sum_of_moduli() * std::fabs(h);
     return {with_cosine * cosine_part + with_sine * sine_part,
-            std::fabs(with_cosine * cosine_gap) + std::fabs(with_sine * sine_gap), resabs, resabs};
+            unlimited_if_unknown(std::fabs(with_cosine * cosine_gap) + std::fabs(with_sine * sine_gap)), resabs,
+            resabs};
 }
 
 } // namespace kor::quadrature

@@ -25,10 +25,10 @@ inline constexpr GaussKronrodPair<11, 5> kPair21{kNodes21, kKronrodWeights21, kG
 inline constexpr GaussKronrodPair<31, 15> kPair61{kNodes61, kKronrodWeights61, kGaussWeights61};
 
 // The integral of f over (a, b).
-template <std::size_t half, std::size_t gauss, class Function>
-RuleValue apply_pair(const GaussKronrodPair<half, gauss> &pair, const Function &f, double a, double b)
+template <const auto &pair, class Function>
+RuleValue apply_pair(const Function &f, double a, double b)
 {
-    constexpr std::size_t last = half - 1; // the centre
+    constexpr std::size_t last = pair.nodes.size() - 1; // the centre
     constexpr bool centre_is_gauss = last % 2 == 1;
     const double centre = 0.5 * (a + b);
     const double h = 0.5 * (b - a);
@@ -41,23 +41,37 @@ RuleValue apply_pair(const GaussKronrodPair<half, gauss> &pair, const Function &
         above[j] = f(centre + offset);
     }
 
-    double resk = pair.kronrod[last] * middle;
-    double resg = centre_is_gauss ? pair.weights[gauss - 1] * middle : 0.0;
-    double resabs = std::fabs(resk);
-    for (std::size_t j = 0; j < last; ++j) {
+    // Two sums side by side, one of them over the Gauss nodes: a single one would wait for each of its additions.
+    const auto add_modulus = [&](std::size_t i, double centre_value, double &to) {
+        to += pair.kronrod[i] * (std::fabs(below[i] - centre_value) + std::fabs(above[i] - centre_value));
+    };
+    double kronrod_only = pair.kronrod[last] * middle, at_gauss = 0.0;
+    double modulus = std::fabs(kronrod_only), modulus_at_gauss = 0.0;
+    double resg = centre_is_gauss ? pair.weights[last / 2] * middle : 0.0;
+    for (std::size_t j = 1; j < last; j += 2) {
         const double sum = below[j] + above[j];
-        resk += pair.kronrod[j] * sum;
-        resabs += pair.kronrod[j] * (std::fabs(below[j]) + std::fabs(above[j]));
-        if (j % 2 == 1) resg += pair.weights[j / 2] * sum;
+        kronrod_only += pair.kronrod[j - 1] * (below[j - 1] + above[j - 1]);
+        at_gauss += pair.kronrod[j] * sum;
+        resg += pair.weights[j / 2] * sum;
+        add_modulus(j - 1, 0.0, modulus);
+        add_modulus(j, 0.0, modulus_at_gauss);
     }
+    if constexpr (centre_is_gauss) {
+        kronrod_only += pair.kronrod[last - 1] * (below[last - 1] + above[last - 1]);
+        add_modulus(last - 1, 0.0, modulus);
+    }
+    const double resk = kronrod_only + at_gauss;
     const double mean = 0.5 * resk;
-    double resasc = pair.kronrod[last] * std::fabs(middle - mean);
-    for (std::size_t j = 0; j < last; ++j)
-        resasc += pair.kronrod[j] * (std::fabs(below[j] - mean) + std::fabs(above[j] - mean));
+    double deviation = pair.kronrod[last] * std::fabs(middle - mean), deviation_at_gauss = 0.0;
+    for (std::size_t j = 1; j < last; j += 2) {
+        add_modulus(j - 1, mean, deviation);
+        add_modulus(j, mean, deviation_at_gauss);
+    }
+    if constexpr (centre_is_gauss) add_modulus(last - 1, mean, deviation);
 
     const double width = std::fabs(h);
-    resabs *= width;
-    resasc *= width;
+    const double resabs = (modulus + modulus_at_gauss) * width;
+    const double resasc = (deviation + deviation_at_gauss) * width;
     return {resk * h, error_estimate((resk - resg) * h, resabs, resasc), resabs, resasc};
 }
 

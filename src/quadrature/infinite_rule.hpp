@@ -19,7 +19,7 @@ inline AdaptiveResult integrate_transformed(Integrand f, Integer boundinf, doubl
     };
     const auto rule = [&](double left, double right, Integer) {
         work.evaluations += both_ways ? 2 * kPair15.points : kPair15.points;
-        return apply_pair(kPair15, transformed, left, right);
+        return apply_pair<kPair15>(transformed, left, right);
     };
     return extrapolate_from_one(work.subdivision(), rule, 0.0, 1.0, tolerance);
 }

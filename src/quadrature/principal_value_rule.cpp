@@ -30,15 +30,14 @@ RuleValue principal_value_rule(Integrand f, double a, double b, double c, Intege
     const double relative = (2.0 * c - a - b) / (b - a);
     if (!(std::fabs(relative) < kFarAway)) {
         evaluations += kPair15.points;
-        return apply_pair(
-            kPair15, [&](double x) { return f(x) / (x - c); }, a, b);
+        return apply_pair<kPair15>([&](double x) { return f(x) / (x - c); }, a, b);
     }
     evaluations += kChebyshevPoints;
     const ChebyshevExpansion series = expand_on(f, 0.5 * (a + b), 0.5 * (b - a));
     double moments[kChebyshevPoints];
     compute_moments(relative, moments);
     const double fine = series.fine_integral(moments);
-    return {fine, std::fabs(fine - series.coarse_integral(moments)), 0.0, 0.0};
+    return {fine, unlimited_if_unknown(std::fabs(fine - series.coarse_integral(moments))), 0.0, 0.0};
 }
 
 } // namespace kor::quadrature

@@ -3,19 +3,7 @@
 
 #include <algorithm>
 
-#include <kor/m01.h>
-
 namespace kor::quadrature {
-
-namespace {
-
-Integer compare_numbers(const void *a, const void *b)
-{
-    const double x = *static_cast<const double *>(a), y = *static_cast<const double *>(b);
-    return x < y ? -1 : x > y ? 1 : 0;
-}
-
-} // namespace
 
 ProgressRecord::ProgressRecord(Integer limit, bool with_levels)
     : left_{Count{limit}}, right_{Count{limit}}, result_{Count{limit}}, error_{Count{limit}}, order_{Count{limit}},
@@ -30,16 +18,9 @@ ProgressRecord::operator bool() const { return complete_; }
 void ProgressRecord::publish(KorQuadRecord *record)
 {
     const Integer count = subdivision_.count;
-    constexpr Integer kSize = sizeof(double);
     for (Workspace<double> *array : {&left_, &right_, &result_, &error_})
         std::fill(array->begin() + count, array->end(), 0.0);
-    if (count > 1) {
-        KorError quiet{};
-        m01dsc(left_.data(), count, kSize, compare_numbers, Kor_Ascending, order_.data(), &quiet);
-        m01zac(order_.data(), count, &quiet);
-        for (Workspace<double> *array : {&left_, &right_, &result_, &error_})
-            m01esc(array->data(), count, kSize, kSize, order_.data(), &quiet);
-    }
+    subdivision_.order_along_axis();
     record->subint_count = count;
     record->eval_count = evaluations;
     record->left_ends = left_.release();

@@ -42,7 +42,7 @@ AdaptiveResult extrapolate_from_one(Subdivision &s, Rule &&rule, double a, doubl
     outcome.status = status_at_start(whole, bound, s.limit, 100.0);
     if (outcome.status != AdaptiveStatus::converged) return outcome;
     return bisect_and_extrapolate(s, rule, LargeByWidth{kFirstSmall * std::fabs(b - a)}, AlwaysRegular{}, tolerance,
-                                  {whole.result, whole.error, whole.resabs, true, true});
+                                  {whole.resabs, true, true});
 }
 
 } // namespace kor::quadrature

@@ -2,6 +2,8 @@
 #include "quadrature/subdivision.hpp"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace kor::quadrature {
 
@@ -74,6 +76,30 @@ double Subdivision::sum_of_results() const
     double sum = 0.0;
     for (Integer i = 0; i < count; ++i) sum += result[i];
     return sum;
+}
+
+void Subdivision::order_along_axis()
+{
+    std::iota(order, order + count, 0);
+    // With NaN for an end of the range there are ends that compare with nothing: they come last.
+    std::sort(order, order + count, [this](Integer i, Integer j) {
+        return left[i] < left[j] || (std::isnan(left[j]) && !std::isnan(left[i]));
+    });
+    // Slot i takes what stands in slot order[i], cycle by cycle.
+    for (Integer start = 0; start < count; ++start) {
+        const double saved[] = {left[start], right[start], result[start], error[start]};
+        Integer i = start;
+        for (Integer from; (from = std::exchange(order[i], i)) != start; i = from) {
+            left[i] = left[from];
+            right[i] = right[from];
+            result[i] = result[from];
+            error[i] = error[from];
+        }
+        left[i] = saved[0];
+        right[i] = saved[1];
+        result[i] = saved[2];
+        error[i] = saved[3];
+    }
 }
 
 } // namespace kor::quadrature

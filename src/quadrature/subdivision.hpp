@@ -52,6 +52,8 @@ class Subdivision {
 
     double sum_of_results() const;
 
+    void order_along_axis(); // at the end: the order of errors is lost
+
   private:
     void reorder(Integer old_slot);
 

@@ -1,5 +1,7 @@
 // The adaptive integrals: families of integrals with known values, failures that deserve their names, records and refusals.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <numbers>
 #include <vector>
@@ -58,7 +60,8 @@ class Honesty {
     void note(const char *name, double parameter, double result, double abserr, double exact, Integer code,
               double bound)
     {
-        ++all_;
+        // Next to the precision of the arithmetic a routine may say that it cannot.
+        if (code == NE_NOERROR || bound > 2e-13 * std::fabs(exact)) ++all_;
         if (code != NE_NOERROR) return;
         ++successes_;
         const double error = std::fabs(result - exact);
@@ -70,7 +73,7 @@ class Honesty {
     }
     ~Honesty()
     {
-        EXPECT_GE(honest_, 0.99 * successes_) << successes_ << " successes";
+        EXPECT_LE(successes_ - honest_, std::ceil(0.01 * successes_)) << successes_ << " successes";
         EXPECT_GE(successes_, 0.9 * all_) << "of " << all_;
     }
 
@@ -78,7 +81,7 @@ class Honesty {
     int all_ = 0, successes_ = 0, honest_ = 0;
 };
 
-constexpr double kTolerances[] = {1e-3, 1e-6, 1e-9, 1e-12};
+constexpr double kTolerances[] = {1e-3, 1e-6, 1e-9, 1e-12, 1e-14};
 
 TEST(AdaptiveIntegrals, FiniteRanges)
 {
@@ -120,6 +123,18 @@ TEST(AdaptiveIntegrals, FiniteRanges)
          1.0,
          [](double p) { return std::expm1(p) / p; },
          {-100, -10, -1, 1, 10, 100}},
+        {"damped oscillation",
+         [](double x, double p) { return std::exp(-x) * std::cos(p * x); },
+         0.0,
+         4.0,
+         [](double p) { return (1.0 + std::exp(-4.0) * (p * std::sin(4.0 * p) - std::cos(4.0 * p))) / (1.0 + p * p); },
+         {0.5, 2, 8, 25, 50}},
+        {"end of an arc",
+         [](double x, double p) { return std::pow(1.0 - x * x, p); },
+         -1.0,
+         1.0,
+         [](double p) { return std::sqrt(kPi) * std::exp(std::lgamma(p + 1.0) - std::lgamma(p + 1.5)); },
+         {-0.5, 0.5, 1.5, 2.0, 3.25}},
         {"backwards",
          [](double x, double p) { return std::cos(p * x); },
          2.0,
@@ -365,6 +380,201 @@ TEST(AdaptiveIntegrals, RecordStandsInTheOrderOfTheAxis)
     }
 }
 
+// ---- Statuses ----
+
+// The seven integrals over (0, 1) of a function, or of the same function mapped to another range.
+using Solver = void (*)(Member &, double epsrel, Integer limit, double *result, double *abserr, KorQuadRecord *,
+                        KorError *);
+const Solver kExtrapolating[] = {
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        d01sjc(Member::call, 0.0, 1.0, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        const double breaks[] = {0.45};
+        d01slc(Member::call, 0.0, 1.0, 1, breaks, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        const auto mapped = [](double x, void *member) {
+            return Member::call(1.0 / (1.0 + x), member) / ((1.0 + x) * (1.0 + x));
+        };
+        d01smc(mapped, Kor_UpperSemiInfinite, 0.0, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        d01snc(Member::call, 0.0, 1.0, 3.0, Kor_Cosine, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+};
+const Solver kPlain[] = {
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        d01skc(Member::call, 0.0, 1.0, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        d01spc(Member::call, 0.0, 1.0, -0.3, 0.2, Kor_Alg, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+    [](Member &f, double eps, Integer limit, double *result, double *abserr, KorQuadRecord *qp, KorError *fail) {
+        d01sqc(Member::call, 0.0, 1.0, 0.55, 0.0, eps, limit, result, abserr, qp, &f, fail);
+    },
+};
+
+double power_from_inside(double x, double p) { return std::pow(std::fabs(x - 0.3), p); }
+double one_over_distance_from_1(double x, double) { return 1.0 / (1.0 - x); }
+// The same at the same x, and nothing that bisection could resolve.
+double noise(double x)
+{
+    std::uint64_t bits = std::bit_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15;
+    bits = (bits ^ (bits >> 29)) * 0xBF58476D1CE4E5B9;
+    return std::ldexp(static_cast<double>(bits >> 11), -53) - 0.5;
+}
+double noisy(double x, double amplitude) { return std::cos(x) + amplitude * noise(x); }
+
+template <std::size_t count>
+void expect_status(Integer code, const Solver (&solvers)[count], double (*f)(double, double), double parameter,
+                   double eps, Integer limit)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        Member member{f, parameter};
+        Record fail;
+        Quad qp;
+        double result, abserr;
+        solvers[i](member, eps, limit, &result, &abserr, &qp, &fail);
+        EXPECT_EQ(fail.code, code) << "routine " << i << ": " << fail.message;
+        EXPECT_LE(qp.subint_count, limit);
+        EXPECT_EQ(qp.eval_count, member.calls);
+    }
+}
+
+TEST(AdaptiveIntegrals, EveryStatusIsReachedByACaseThatDeservesIt)
+{
+    const double hard = 1e-13;
+    expect_status(
+        NE_QUAD_MAX_SUBDIV, kExtrapolating, [](double x, double) { return 1.0 / x; }, 0.0, hard, 30);
+    expect_status(NE_QUAD_MAX_SUBDIV, kPlain, power_from_inside, -0.5, hard, 30);
+    expect_status(NE_QUAD_ROUNDOFF_TOL, kExtrapolating, noisy, 1e-8, hard, 1000);
+    expect_status(NE_QUAD_ROUNDOFF_TOL, kPlain, noisy, 1e-8, hard, 1000);
+    // Not integrable next to an end where numbers lie far apart: they run out.
+    expect_status(NE_QUAD_BAD_SUBDIV, kExtrapolating, one_over_distance_from_1, 0.0, 1e-6, 1000);
+    expect_status(NE_QUAD_BAD_SUBDIV, kPlain, power_from_inside, -0.99, hard, 1000);
+    // Integrable, but the distance from 0.3 is spoilt by rounding long before the tolerance is reached.
+    expect_status(NE_QUAD_ROUNDOFF_EXTRAPL, kExtrapolating, power_from_inside, -0.99, hard, 1000);
+    expect_status(
+        NE_QUAD_NO_CONV, kExtrapolating, [](double x, double) { return 1.0 / (x - 0.3); }, 0.0, 1e-6, 1000);
+
+    // The values are the best that could be had, within their errors.
+    Record fail;
+    Quad qp;
+    double result, abserr;
+    Member member{power_from_inside, -0.99};
+    d01sjc(Member::call, 0.0, 1.0, 0.0, hard, 1000, &result, &abserr, &qp, &member, &fail);
+    EXPECT_NEAR(result, (std::pow(0.3, 0.01) + std::pow(0.7, 0.01)) / 0.01, 1e-8);
+    qp.clear();
+    Member with_noise{noisy, 1e-8};
+    d01sjc(Member::call, 0.0, 1.0, 0.0, hard, 1000, &result, &abserr, &qp, &with_noise, &fail);
+    EXPECT_NEAR(result, std::sin(1.0), 1e-8);
+}
+
+TEST(AdaptiveIntegrals, WhereTheIntegrandIsNotANumber)
+{
+    // A hole at a point where every rule looks first: bisection gets past it.
+    const auto sinc = [](double x, double) { return std::sin(x - 0.5) / (x - 0.5); };
+    const auto spike = [](double x, double) { return x == 0.5 ? HUGE_VAL : std::exp(x); };
+    for (const auto solver : {kExtrapolating[0], kExtrapolating[2], kPlain[0]}) {
+        for (const bool infinite : {false, true}) {
+            Member member{infinite ? spike : sinc};
+            Record fail;
+            Quad qp;
+            double result, abserr;
+            solver(member, 1e-12, 50, &result, &abserr, &qp, &fail);
+            EXPECT_SUCCESS(fail);
+            const double exact = infinite ? std::expm1(1.0) : 2.0 * 0.4931074180430667; // 2 Si(1/2)
+            EXPECT_NEAR(result, exact, 1e-12);
+        }
+    }
+    // No value on a part of the range, or anywhere: a status after a bounded number of evaluations.
+    for (const double value : {kNan, HUGE_VAL, -HUGE_VAL})
+        for (const double from : {0.7, -1.0})
+            for (const Integer limit : {1, 2, 40, 1000}) {
+                static double nowhere, start;
+                nowhere = value;
+                start = from;
+                const auto check = [&](const Solver solver) {
+                    Member member{[](double x, double) { return x > start ? nowhere : 1.0; }};
+                    Record fail;
+                    Quad qp;
+                    double result = 0.0, abserr = 0.0;
+                    solver(member, 1e-6, limit, &result, &abserr, &qp, &fail);
+                    if (qp.left_ends == nullptr) return; // refused: some want room for two
+                    EXPECT_NE(fail.code, NE_NOERROR);
+                    EXPECT_FALSE(std::isfinite(result));
+                    EXPECT_LE(member.calls, 122L * limit);
+                };
+                for (const Solver solver : kExtrapolating) check(solver);
+                for (const Solver solver : kPlain) check(solver);
+                Member member{[](double x, double) { return x > start ? nowhere : 1.0; }};
+                Record fail;
+                Intervals qp;
+                double result, abserr;
+                d01ssc(Member::call, 0.0, 1.0, Kor_Sine, 20, limit, 1e-6, &result, &abserr, &qp, &member, &fail);
+                EXPECT_NE(fail.code, NE_NOERROR);
+                EXPECT_LE(member.calls, 20L * 50 * limit);
+            }
+}
+
+TEST(AdaptiveIntegrals, StatusesOfFourierIntegrals)
+{
+    Record fail;
+    Intervals qp;
+    double result, abserr;
+    const auto run = [&](double (*f)(double, double), double parameter, double omega, Integer maxintervals,
+                         Integer limit, double epsabs) {
+        qp.clear();
+        Member member{f, parameter};
+        d01ssc(Member::call, 0.0, omega, Kor_Cosine, maxintervals, limit, epsabs, &result, &abserr, &qp, &member,
+               &fail);
+    };
+    // omega = 0: the statuses of an infinite range, with an absolute tolerance alone.
+    const auto decaying = [](double x, double p) {
+        return power_from_inside(1.0 / (1.0 + x), p) / ((1.0 + x) * (1.0 + x));
+    };
+    run(decaying, -0.99, 0.0, 3, 5, 1e-11);
+    EXPECT_REPORT(fail, NE_QUAD_MAX_SUBDIV, "max_num_subint", 5);
+    run(decaying, -0.99, 0.0, 3, 1000, 1e-11);
+    EXPECT_REPORT(fail, NE_QUAD_ROUNDOFF_EXTRAPL);
+    run([](double x, double p) { return noisy(1.0 / (1.0 + x), p) / ((1.0 + x) * (1.0 + x)); }, 1e-8, 0.0, 3, 1000,
+        1e-13);
+    EXPECT_REPORT(fail, NE_QUAD_ROUNDOFF_ABS_TOL, 1e-13);
+    run([](double x, double) { return (1.0 + x) / ((1.0 + x) * (1.0 + x) * x); }, 0.0, 0.0, 3, 1000, 1e-6);
+    EXPECT_EQ(fail.code, NE_QUAD_BAD_SUBDIV) << fail.message;
+    run(
+        [](double x, double) {
+            const double t = 1.0 / (1.0 + x);
+            return t * t / (t - 0.3);
+        },
+        0.0, 0.0, 3, 1000, 1e-6);
+    EXPECT_REPORT(fail, NE_QUAD_NO_CONV);
+
+    // Each status of a single interval, here the first.
+    const auto first_flag = [&] { return qp.interval_flags[0]; };
+    const auto half_bounded = [](double x, double p) { return power_from_inside(x / (1.0 + x), p) / (1.0 + x); };
+    run(half_bounded, -0.5, 1.0, 10, 3, 1e-6);
+    EXPECT_REPORT(fail, NE_QUAD_BAD_SUBDIV_INT, qp.interval_count);
+    EXPECT_EQ(first_flag(), 1);
+    run([](double x, double p) { return noisy(x / (1.0 + x), p) / (1.0 + x); }, 1e-8, 1.0, 10, 300, 1e-10);
+    EXPECT_EQ(first_flag(), 2);
+    run([](double x, double) { return x < 7.0 ? 1.0 : kNan; }, 0.0, 1.0, 10, 300, 1e-3);
+    EXPECT_EQ(first_flag(), 3);
+    run([](double x, double) { return std::pow(x / (1.0 + x), -0.999) / (1.0 + x); }, 0.0, 1.0, 10, 300, 1e-10);
+    EXPECT_EQ(first_flag(), 4);
+    run(half_bounded, -0.99, 1.0, 10, 300, 1e-3);
+    EXPECT_EQ(first_flag(), 5);
+
+    run([](double x, double) { return 1.0 / std::sqrt(x); }, 0.0, 1.0, 4, 300, 1e-9);
+    EXPECT_REPORT(fail, NE_QUAD_MAX_INT, "maxintervals", 4);
+    // The amplitude changes at random from cycle to cycle: no law that extrapolation could find.
+    run([](double x, double p) { return (1.0 + p * noise(std::floor(x / (3.0 * kPi)))) / std::sqrt(1.0 + x); }, 0.01,
+        1.0, 200, 300, 1e-8);
+    EXPECT_REPORT(fail, NE_QUAD_EXTRAPL_INT);
+    EXPECT_LT(qp.interval_count, 200);
+}
+
 TEST(AdaptiveIntegrals, FailuresThatDeserveTheirNames)
 {
     Record fail;
@@ -385,36 +595,6 @@ TEST(AdaptiveIntegrals, FailuresThatDeserveTheirNames)
     d01ajc([](double x) { return std::sin(x); }, 0.0, 2.0, 0.0, 0.0, kLimit, &result, &abserr, &qp, &fail);
     EXPECT_REPORT(fail, NE_QUAD_ROUNDOFF_TOL, 0.0, 0.0);
     EXPECT_NEAR(result, 1.0 - std::cos(2.0), 1e-15);
-    qp.clear();
-
-    // Noise that no bisection removes.
-    d01akc([](double x) { return 1.0 + 1e-6 * std::sin(1e9 * x * x); }, 0.0, 1.0, 0.0, 1e-12, kLimit, &result, &abserr,
-           &qp, &fail);
-    EXPECT_TRUE(fail.code == NE_QUAD_ROUNDOFF_TOL || fail.code == NE_QUAD_MAX_SUBDIV) << fail.message;
-    qp.clear();
-
-    // A singularity that is not integrable, inside: bisection comes down to neighbouring doubles.
-    d01akc([](double x) { return 1.0 / ((x - 0.3) * (x - 0.3)); }, 0.0, 1.0, 0.0, 1e-6, 2000, &result, &abserr, &qp,
-           &fail);
-    EXPECT_TRUE(fail.code == NE_QUAD_BAD_SUBDIV || fail.code == NE_QUAD_MAX_SUBDIV) << fail.message;
-    qp.clear();
-
-    d01ajc([](double x) { return std::pow(x, -1.1); }, 0.0, 1.0, 0.0, 1e-6, kLimit, &result, &abserr, &qp, &fail);
-    EXPECT_TRUE(fail.code == NE_QUAD_NO_CONV || fail.code == NE_QUAD_MAX_SUBDIV || fail.code == NE_QUAD_BAD_SUBDIV)
-        << fail.message;
-    qp.clear();
-
-    // NaN and infinity: bounded work.
-    Member nan{[](double x, double) { return x > 0.4 ? kNan : 1.0; }};
-    d01sjc(Member::call, 0.0, 1.0, 0.0, 1e-6, 50, &result, &abserr, &qp, &nan, &fail);
-    EXPECT_NE(fail.code, NE_NOERROR);
-    EXPECT_TRUE(std::isnan(result));
-    EXPECT_LE(nan.calls, 50 * 42);
-    qp.clear();
-    d01amc([](double) { return 1.0; }, Kor_Infinite, 0.0, 0.0, 1e-6, 100, &result, &abserr, &qp, &fail);
-    EXPECT_NE(fail.code, NE_NOERROR);
-    qp.clear();
-
     // A Fourier integral that does not tend to zero, and the reports on its way.
     static int reports = 0;
     static std::string last;

@@ -3,6 +3,7 @@
 #include <limits>
 #include <numbers>
 #include <random>
+#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -179,74 +180,102 @@ struct Genz {
     double (*f)(Integer n, const double x[]);
     double (*exact)(Integer n);
 };
-constexpr double kShift = 0.3, kSlope = 1.2;
+constexpr double kShift = 0.3;
+double slope(Integer n) { return n <= 5 ? 1.2 : 6.0 / n; } // as hard in all, however many share it
 const Genz kGenz[] = {
     {"oscillatory",
      [](Integer n, const double x[]) {
+         const double c = slope(n);
          double sum = 0.7;
-         for (Integer i = 0; i < n; ++i) sum += kSlope * x[i];
+         for (Integer i = 0; i < n; ++i) sum += c * x[i];
          return std::cos(sum);
      },
      [](Integer n) {
-         const double factor = 2.0 * std::sin(0.5 * kSlope) / kSlope;
-         return std::pow(factor, n) * std::cos(0.7 + 0.5 * kSlope * n);
+         const double c = slope(n);
+         const double factor = 2.0 * std::sin(0.5 * c) / c;
+         return std::pow(factor, n) * std::cos(0.7 + 0.5 * c * n);
      }},
     {"product peak",
      [](Integer n, const double x[]) {
+         const double c = slope(n);
          double product = 1.0;
-         for (Integer i = 0; i < n; ++i) product /= 1.0 / (kSlope * kSlope) + (x[i] - kShift) * (x[i] - kShift);
+         for (Integer i = 0; i < n; ++i) product /= 1.0 / (c * c) + (x[i] - kShift) * (x[i] - kShift);
          return product;
      },
-     [](Integer n) { return std::pow(kSlope * (std::atan(kSlope * (1.0 - kShift)) + std::atan(kSlope * kShift)), n); }},
+     [](Integer n) {
+         const double c = slope(n);
+         return std::pow(c * (std::atan(c * (1.0 - kShift)) + std::atan(c * kShift)), n);
+     }},
+    {"corner peak",
+     [](Integer n, const double x[]) {
+         double sum = 1.0;
+         for (Integer i = 0; i < n; ++i) sum += slope(n) * x[i];
+         return std::pow(sum, -(n + 1));
+     },
+     [](Integer n) {
+         double product = 1.0;
+         for (Integer k = 0; k <= n; ++k) product *= 1.0 + k * slope(n);
+         return 1.0 / product;
+     }},
     {"Gaussian",
      [](Integer n, const double x[]) {
+         const double c = slope(n);
          double sum = 0.0;
-         for (Integer i = 0; i < n; ++i) sum += kSlope * kSlope * (x[i] - kShift) * (x[i] - kShift);
+         for (Integer i = 0; i < n; ++i) sum += c * c * (x[i] - kShift) * (x[i] - kShift);
          return std::exp(-sum);
      },
      [](Integer n) {
-         return std::pow(std::sqrt(std::numbers::pi) / (2.0 * kSlope) *
-                             (std::erf(kSlope * (1.0 - kShift)) + std::erf(kSlope * kShift)),
-                         n);
+         const double c = slope(n);
+         return std::pow(
+             std::sqrt(std::numbers::pi) / (2.0 * c) * (std::erf(c * (1.0 - kShift)) + std::erf(c * kShift)), n);
      }},
     {"continuous",
      [](Integer n, const double x[]) {
+         const double c = slope(n);
          double sum = 0.0;
-         for (Integer i = 0; i < n; ++i) sum += kSlope * std::fabs(x[i] - kShift);
+         for (Integer i = 0; i < n; ++i) sum += c * std::fabs(x[i] - kShift);
          return std::exp(-sum);
      },
      [](Integer n) {
-         return std::pow((2.0 - std::exp(-kSlope * kShift) - std::exp(-kSlope * (1.0 - kShift))) / kSlope, n);
+         const double c = slope(n);
+         return std::pow((2.0 - std::exp(-c * kShift) - std::exp(-c * (1.0 - kShift))) / c, n);
      }},
     {"discontinuous",
      [](Integer n, const double x[]) {
+         const double c = slope(n);
          if (x[0] > kShift || x[1] > kShift) return 0.0;
          double sum = 0.0;
-         for (Integer i = 0; i < n; ++i) sum += kSlope * x[i];
+         for (Integer i = 0; i < n; ++i) sum += c * x[i];
          return std::exp(sum);
      },
      [](Integer n) {
-         return std::pow(std::expm1(kSlope * kShift) / kSlope, 2) * std::pow(std::expm1(kSlope) / kSlope, n - 2);
+         const double c = slope(n);
+         return std::pow(std::expm1(c * kShift) / c, 2) * std::pow(std::expm1(c) / c, n - 2);
      }},
 };
 
 TEST(Cubature, GenzFamilies)
 {
+    int all = 0, honest = 0;
     for (const Genz &family : kGenz)
-        for (const Integer n : {2, 3, 5, 8}) {
+        for (const Integer n : {2, 3, 5, 8, 10, 12, 15}) {
             const std::vector<double> a(n, 0.0), b(n, 1.0);
-            const bool smooth = family.name[0] != 'c' && family.name[0] != 'd';
-            const double eps = !smooth || n == 8 ? 1e-2 : n == 5 ? 1e-4 : 1e-6;
+            const bool smooth = family.name != std::string{"continuous"} && family.name != std::string{"discontinuous"};
+            const double eps = !smooth || n >= 8 ? 1e-2 : n == 5 ? 1e-4 : 1e-6;
             Record fail;
             double acc, value;
-            d01fcc(n, family.f, a.data(), b.data(), 0, 2000000, eps, &acc, &value, &fail);
-            const double exact = family.exact(n);
-            EXPECT_LE(std::fabs(value - exact), std::max(acc, 1e-14) * std::fabs(value)) << family.name << " " << n;
-            if (smooth) {
-                EXPECT_SUCCESS(fail);
-                EXPECT_LE(std::fabs(value - exact), eps * std::fabs(exact)) << family.name << " " << n;
+            d01fcc(n, family.f, a.data(), b.data(), 0, 300000, eps, &acc, &value, &fail);
+            const double error = std::fabs(value - family.exact(n));
+            ++all;
+            honest += error <= std::max(acc, 1e-14) * std::fabs(value);
+            if (fail.code == NE_NOERROR) {
+                EXPECT_LE(error, eps * std::fabs(value)) << family.name << " " << n;
+            }
+            if (smooth && n <= 8) {
+                EXPECT_SUCCESS(fail) << family.name << " " << n;
             }
         }
+    EXPECT_GE(honest, 0.95 * all) << all;
 }
 
 TEST(Cubature, IsExactToDegreeSeven)
