@@ -117,7 +117,7 @@ void factors(Collected &to, const Stage &stage, Index n)
 }
 
 // All passes of all kinds for one length, and the table itself.
-Doubles everything(const Kernels &kernel, Index n)
+[[maybe_unused]] Doubles everything(const Kernels &kernel, Index n)
 {
     const auto size = static_cast<std::size_t>(n);
     Collected collected{kernel};
