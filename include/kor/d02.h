@@ -343,6 +343,250 @@ void d02ppc(KorRKState *state);
 
 // Initial values: stiff systems, and drivers for either kind
 
+/// Where the Jacobian of the backward differentiation method comes from: chosen by d02nsc().
+enum {
+    KOR_BDF_ANALYTIC = 1,  ///< the caller forms it when d02nmc() asks for it
+    KOR_BDF_NUMERICAL = 2, ///< d02nmc() forms it by differences
+};
+
+/// One problem in the hands of the backward differentiation method. Plain data: everything lies here and in the three arrays that
+/// the caller provides, so that any number of problems may go on side by side. d02nvc() fills the record; then the caller sets
+/// the pointers and, as wanted, `one_step`, `crit` and `tcrit`. A copy of the record needs copies of its arrays.
+typedef struct {
+    Integer stamp1, stamp2; ///< -11111 and -23456 while the record is valid
+    Integer neq;            ///< number of equations
+    Integer nhist;          ///< columns of `ysav`
+    Integer maxord;         ///< highest order that is used
+    Integer jacobian;       ///< KOR_BDF_ANALYTIC or KOR_BDF_NUMERICAL; 0: not chosen yet
+    Boolean one_step;       ///< the caller's: d02nmc() returns after each step
+    Boolean crit;           ///< the caller's: no evaluation lies beyond `tcrit`
+    double tcrit;           ///< the caller's: limit of the integration
+    Integer order;          ///< order of the last step
+    Integer steps;          ///< steps taken so far
+    Integer rejected;       ///< steps that were tried and given up
+    Integer derivatives;    ///< slopes asked for, those for Jacobians by differences included
+    Integer jacobians;      ///< Jacobians formed
+    Integer factorisations; ///< matrices factorised
+    double t;               ///< end of the last step
+    double hlast;           ///< its signed length
+    double hnext;           ///< signed length planned for the next
+    double *ysav;           ///< the caller's array of neq * nhist: the solution behind `t`
+    double *work;           ///< the caller's array of neq * (neq + 5)
+    Integer *iwork;         ///< the caller's array of neq
+    double kept[64];        ///< kept for the library
+} KorBdfState;
+
+/// \brief Integrates a stiff system of ordinary differential equations over a range, with output on the way and a stop at a root.
+///
+/// Solves y' = f(x, y) from `x` to `xend`, in either direction. The output function, if there is one, sees the solution at points
+/// of its own choice; with a function g the integration stops where g(x, y(x)) changes its sign. Nothing is evaluated beyond
+/// `xend`.
+///
+/// \param[in]  neq  number of equations, at least 1
+/// \param[in]  fcn  puts the slopes f(x, y), `neq` values, into `f`; called on this thread
+/// \param[in]  pederv puts the Jacobian, df_i/dy_j in `pw[i * neq + j]`, into `pw`, which comes filled with zeros; null for a
+///                  Jacobian by differences. A narrow band is found out by itself, and then differences cost few calls of `fcn`
+/// \param[in,out] x start of the range; on exit the point reached: `xend`, the root, or where an error stopped it
+/// \param[in,out] y `neq` elements: the solution at the start; on exit at the point reached
+/// \param[in]  xend end of the range, different from `x`
+/// \param[in]  tol  accuracy wanted, greater than 0, in the measure `err_c`
+/// \param[in]  err_c the measure of an error e_i of y_i: Kor_Relative |e_i| <= tol |y_i|, Kor_Absolute |e_i| <= tol, Kor_Mixed
+///                  |e_i| <= tol (1 + |y_i|), in the root mean square over the components. The relative measure asks nothing of
+///                  parts of y below the rounding errors of its greatest starting value
+/// \param[in]  output called first at the starting point, then at each point that it has asked for; must put the next such point,
+///                  further on in the direction of integration, into `*xsol`, which comes with the point of the call. A point
+///                  beyond `xend` ends the output. May be null
+/// \param[in]  g    stops the integration where it changes its sign; a zero at the starting point itself does not count. Signs are
+///                  compared from step to step: a pair of roots within one step may be passed by. May be null
+/// \param[in]  comm passed to the functions as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `neq` is less than 1.
+/// - NE_REAL_ARG_LE: `tol` is not greater than 0.
+/// - NE_2_REAL_ARG_EQ: `x` and `xend`, which the message calls tend, are equal.
+/// - NE_BAD_PARAM: `err_c` is none of the three.
+/// - NE_ALLOC_FAIL: there is not enough memory: neq (2 neq + 15) doubles.
+/// - NE_XSOL_SET_WRONG: the first point that `output` asked for lies behind the start.
+/// - NE_XSOL_NOT_RESET: `output` left `*xsol` as it was; the message tells in which call.
+/// - NE_XSOL_INCONSIST: `output` asked for a point behind the last one.
+/// - NE_TOL_TOO_SMALL: no first step could be taken: `tol` is too small for doubles, or f, the ends of the range or the starting
+///   values are not finite.
+/// - NE_TOL_PROGRESS: the integration came to a halt: f is singular or not finite beyond `x`, or `tol` too small there.
+/// - NE_NO_SIGN_CHANGE: g has not changed its sign; `x` is `xend`, and the solution there is valid.
+///
+/// From NE_XSOL_NOT_RESET on, but NE_TOL_TOO_SMALL, `x` and `y` hold the last point reached; the others leave them untouched.
+/// \par Accuracy
+/// Each step makes an error of at most `tol`; on stiff problems the error at the end is of this order too. The root lies
+/// where the computed solution has it, to the last bits of x.
+/// \par Method
+/// Backward differentiation of orders 1 to 5 with variable coefficients, on modified divided differences; a modified Newton
+/// iteration with LU factors, full or banded. C. W. Gear, Numerical Initial Value Problems (1971);
+/// K. R. Jackson and R. Sacks-Davis, ACM Trans. Math. Softw. 6 (1980) 295-318.
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// d02cjc() for problems that are not stiff; d02nmc() for one that returns for each slope.
+/// \par Example
+/// \code{.c}
+/// static void robertson(Integer neq, double x, const double y[], double f[], void *comm)
+/// {
+///     f[0] = -0.04 * y[0] + 1e4 * y[1] * y[2];
+///     f[2] = 3e7 * y[1] * y[1];
+///     f[1] = -f[0] - f[2];
+/// }
+/// ...
+/// KorError fail = {0};
+/// double x = 0.0, y[3] = {1.0, 0.0, 0.0};
+/// d02ejc(3, robertson, NULL, &x, y, 40.0, 1e-8, Kor_Relative, NULL, NULL, NULL, &fail);   // y[0] = 0.715827
+/// \endcode
+void d02ejc(Integer neq, void (*fcn)(Integer neq, double x, const double y[], double f[], void *comm),
+            void (*pederv)(Integer neq, double x, const double y[], double pw[], void *comm), double *x, double y[],
+            double xend, double tol, Integer err_c,
+            void (*output)(Integer neq, double *xsol, const double y[], void *comm),
+            double (*g)(Integer neq, double x, const double y[], void *comm), void *comm, KorError *fail);
+
+/// \brief Sets up the backward differentiation method for one stiff problem.
+///
+/// Fills the record `st`, except for the pointers, which the caller sets after this call. d02nsc() must follow, then d02nmc().
+///
+/// \param[in]  neq  number of equations, at least 1
+/// \param[in]  nhist columns of the history `ysav`, at least `maxord` + 1; 6 serves all orders
+/// \param[in]  maxord highest order that may be used, 1 to 5
+/// \param[out] st   the record of the problem
+/// \param[out] status 0: done; 1: an argument is out of range, and `st` is untouched
+///
+/// \par Errors
+/// None but by `status`: there is no error record.
+/// \par Method
+/// As d02ejc().
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// As in d02nmc().
+void d02nvc(Integer neq, Integer nhist, Integer maxord, KorBdfState *st, Integer *status);
+
+/// \brief Chooses where the Jacobian of the backward differentiation method comes from.
+///
+/// \param[in]  neq  number of equations, as given to d02nvc()
+/// \param[in]  jceval the choice, of which six letters in upper or lower case count: "ANALYT", the caller forms the Jacobian;
+///                  "NUMERI", differences of slopes
+/// \param[in,out] st the record of the problem, filled by d02nvc()
+/// \param[out] status 0: done; 1: `neq` or `jceval` is wrong; 2: `st` has not been set up. It is then untouched
+///
+/// \par Errors
+/// None but by `status`: there is no error record.
+/// \par Method
+/// As d02ejc().
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// As in d02nmc().
+void d02nsc(Integer neq, const char *jceval, KorBdfState *st, Integer *status);
+
+/// \brief Integrates a stiff system, returning to its caller for each slope and Jacobian.
+///
+/// Set `irevcm` to 0, `t` and `y` to the starting point, and call until `irevcm` comes back as 0, doing in between what it asks
+/// for. Then `y` is the solution at `tout`, or with `st->one_step` at the end of a step that may be short of `tout`; call on with
+/// `irevcm` 0 and the same or a new `tout`. The integrator steps beyond `tout` and interpolates, unless `st->crit` forbids it.
+///
+/// \param[in]  neq  number of equations, as given to d02nvc()
+/// \param[in,out] t first call: the starting point. With a request: the point at which it is to be met. At the end the point of
+///                  `y`
+/// \param[in]  tout the point at which the solution is wanted, not equal to `t` at the start. Later ones must lie in the same
+///                  direction, or within the last step
+/// \param[in,out] y `neq` elements: the solution at the start; then the argument of what is asked for, then the solution
+/// \param[in]  ydot `neq` elements: the slopes that were asked for
+/// \param[in]  rtol relative tolerance, one or `neq` values, at least 0
+/// \param[in]  atol absolute tolerance, one or `neq` values, at least 0; the error of y_i is weighed by rtol |y_i| + atol
+/// \param[in]  itol which of them are arrays: 1 none, 2 `atol`, 3 `rtol`, 4 both
+/// \param[out] res  `neq` elements of work space
+/// \param[in,out] pw neq * neq elements, kept between the calls: the Jacobian, df_i/dy_j in `pw[i * neq + j]`; comes filled with
+///                  zeros when it is asked for
+/// \param[in,out] st the record of the problem
+/// \param[in,out] irevcm 0 at the start and at the end; 1: put the slopes f(t, y) into `ydot` and call again; 2: put the Jacobian
+///                  at (t, y) into `pw` and call again
+/// \param[out] status 0: no fault; 1: an argument is out of range; 2: `st` is not set up, has ended with a fault, or lacks an array;
+///                  3: no first step could be taken; 4: no further step could be taken, `t` and `y` hold the last one
+///
+/// \par Errors
+/// None but by `status`: there is no error record.
+/// \par Accuracy
+/// Each step makes an error of at most 1 in the norm of d02zac() with the weights above.
+/// \par Method
+/// As d02ejc().
+/// \par Thread safety
+/// Safe: all state is in the arguments. Problems may be interleaved.
+/// \par Example
+/// \code{.c}
+/// KorBdfState st;
+/// double ysav[2 * 6], work[2 * 7], t = 0.0, y[2] = {2.0, 0.0}, ydot[2], res[2], pw[4], rtol = 1e-6, atol = 1e-6;
+/// Integer iwork[2], irevcm = 0, status;
+/// d02nvc(2, 6, 5, &st, &status);
+/// d02nsc(2, "NUMERI", &st, &status);
+/// st.ysav = ysav;  st.work = work;  st.iwork = iwork;
+/// do {
+///     d02nmc(2, &t, 2.0, y, ydot, &rtol, &atol, 1, res, pw, &st, &irevcm, &status);
+///     if (irevcm == 1) {
+///         ydot[0] = y[1];
+///         ydot[1] = 100.0 * (1.0 - y[0] * y[0]) * y[1] - y[0];
+///     }
+/// } while (irevcm != 0);
+/// \endcode
+void d02nmc(Integer neq, double *t, double tout, double y[], double ydot[], const double rtol[], const double atol[],
+            Integer itol, double res[], double pw[], KorBdfState *st, Integer *irevcm, Integer *status);
+
+/// \brief The solution within the last step of d02nmc().
+///
+/// \param[in]  xsol the point, in the last step
+/// \param[out] sol  `m` elements: the first `m` components of the solution there
+/// \param[in]  m    number of components wanted, 1 to `neq`
+/// \param[in]  ysav the history, `st->ysav`
+/// \param[in]  neq  number of equations, as given to d02nvc()
+/// \param[in]  nhist columns of the history, as given to d02nvc()
+/// \param[in]  st   the record of the problem, after at least one step
+/// \param[out] status 0: no fault; 1: sizes out of range; 2: `st` is not set up, has made no step, or does not fit; 3: `xsol` lies
+///                  outside the last step, and the values are extrapolated. After 1 and 2 `sol` is untouched
+///
+/// \par Errors
+/// None but by `status`: there is no error record.
+/// \par Accuracy
+/// That of the step: the error between its ends is smaller than that at its end.
+/// \par Method
+/// The polynomial of the order of the last step through the solution at its end and before.
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// d02xkc(t - 0.25 * st.hlast, sol, neq, st.ysav, neq, 6, &st, &status);
+/// \endcode
+void d02xkc(double xsol, double sol[], Integer m, const double ysav[], Integer neq, Integer nhist,
+            const KorBdfState *st, Integer *status);
+
+/// \brief The weighted norm by which the integrators measure errors.
+///
+/// sqrt(sum (v_i / w_i)^2 / n), without overflow or underflow on the way; 0 / 0 counts as 0.
+///
+/// \param[in]  neq  number of elements n, at least 1
+/// \param[in]  v    `neq` elements: the vector
+/// \param[in]  w    `neq` elements: the weights
+/// \param[out] status 0: done; 1: `neq` is less than 1, and the result is 0
+/// \return the norm; infinite when a weight is 0 where the vector is not
+///
+/// \par Errors
+/// None but by `status`: there is no error record.
+/// \par Accuracy
+/// A few units in the last place.
+/// \par Method
+/// The plain sum, and a scaled one where squares would leave the range of doubles.
+/// \par Thread safety
+/// Safe.
+/// \par Example
+/// \code{.c}
+/// double size = d02zac(neq, error, weight, &status);   // 1 or less: within the tolerance
+/// \endcode
+double d02zac(Integer neq, const double v[], const double w[], Integer *status);
+
 // Boundary values
 
 KOR_END_DECLS

@@ -11,6 +11,14 @@
 extern "C" {
 // A Fortran character argument is a pointer, and its length comes at the end of the list.
 void dpotrf_(const char *uplo, const Integer *n, double *a, const Integer *lda, Integer *info, std::size_t uplo_length);
+void dgetrf_(const Integer *m, const Integer *n, double *a, const Integer *lda, Integer *ipiv, Integer *info);
+void dgetrs_(const char *trans, const Integer *n, const Integer *nrhs, const double *a, const Integer *lda,
+             const Integer *ipiv, double *b, const Integer *ldb, Integer *info, size_t);
+void dgbtrf_(const Integer *m, const Integer *n, const Integer *kl, const Integer *ku, double *ab, const Integer *ldab,
+             Integer *ipiv, Integer *info);
+void dgbtrs_(const char *trans, const Integer *n, const Integer *kl, const Integer *ku, const Integer *nrhs,
+             const double *ab, const Integer *ldab, const Integer *ipiv, double *b, const Integer *ldb, Integer *info,
+             size_t);
 void dgelqf_(const Integer *m, const Integer *n, double *a, const Integer *lda, double *tau, double *work,
              const Integer *lwork, Integer *info);
 void dorglq_(const Integer *m, const Integer *n, const Integer *k, double *a, const Integer *lda, const double *tau,
@@ -42,6 +50,37 @@ inline Integer potrf(Integer uplo, Integer n, double *a, Integer lda)
     const char triangle = uplo_of(uplo);
     Integer info = 0;
     dpotrf_(&triangle, &n, a, &lda, &info, 1);
+    return info;
+}
+
+// LU factors with row interchanges, and the solution of linear systems by them: full and banded matrices.
+inline Integer getrf(Integer m, Integer n, double *a, Integer lda, Integer *ipiv)
+{
+    Integer info = 0;
+    dgetrf_(&m, &n, a, &lda, ipiv, &info);
+    return info;
+}
+
+inline Integer getrs(char trans, Integer n, Integer nrhs, const double *a, Integer lda, const Integer *ipiv, double *b,
+                     Integer ldb)
+{
+    Integer info = 0;
+    dgetrs_(&trans, &n, &nrhs, a, &lda, ipiv, b, &ldb, &info, 1);
+    return info;
+}
+
+inline Integer gbtrf(Integer m, Integer n, Integer kl, Integer ku, double *ab, Integer ldab, Integer *ipiv)
+{
+    Integer info = 0;
+    dgbtrf_(&m, &n, &kl, &ku, ab, &ldab, ipiv, &info);
+    return info;
+}
+
+inline Integer gbtrs(char trans, Integer n, Integer kl, Integer ku, Integer nrhs, const double *ab, Integer ldab,
+                     const Integer *ipiv, double *b, Integer ldb)
+{
+    Integer info = 0;
+    dgbtrs_(&trans, &n, &kl, &ku, &nrhs, ab, &ldab, ipiv, b, &ldb, &info, 1);
     return info;
 }
 
