@@ -353,7 +353,8 @@ enum {
 /// the caller provides, so that any number of problems may go on side by side. d02nvc() fills the record; then the caller sets
 /// the pointers and, as wanted, `one_step`, `crit` and `tcrit`. A copy of the record needs copies of its arrays.
 typedef struct {
-    Integer stamp1, stamp2; ///< -11111 and -23456 while the record is valid
+    Integer stamp1;         ///< -11111 while the record is valid
+    Integer stamp2;         ///< -23456 likewise
     Integer neq;            ///< number of equations
     Integer nhist;          ///< columns of `ysav`
     Integer maxord;         ///< highest order that is used
