@@ -1,0 +1,50 @@
+// The tests of arguments that the routines share, in the order in which they are made.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+#include "frame/report.hpp"
+#include "sparse/coordinate.hpp"
+
+namespace kor::sparse {
+
+// True, and reported, if the order or the number of elements is impossible.
+inline bool reports_size(const Report &report, Integer n, Integer nnz, Triangle triangle)
+{
+    if (n < 1) {
+        report.error<NE_INT_ARG_LT>("n", "1", "n", n);
+        return true;
+    }
+    if (!count_is_possible(n, nnz, triangle)) {
+        report.error<NE_INT_2>("n", n, "nnz", nnz,
+                               triangle == Triangle::both ? "1 <= nnz <= n * n" : "1 <= nnz <= n*(n+1)/2");
+        return true;
+    }
+    return false;
+}
+
+// True, and reported, if the arrays are too short for a matrix and a factor.
+inline bool reports_length(const Report &report, Integer la, Integer nnz, const char *least)
+{
+    const std::int64_t twice = 2 * static_cast<std::int64_t>(nnz);
+    if (la >= twice) return false;
+    report.error<NE_2_INT_ARG_LT>("la", la, least, twice, "la", least);
+    return true;
+}
+
+// True, and reported, if the limits of an iteration make no sense.
+inline bool reports_limits(const Report &report, Integer maxitn, double tol)
+{
+    if (maxitn < 1) {
+        report.error<NE_INT_ARG_LT>("maxitn", "1", "maxitn", maxitn);
+        return true;
+    }
+    if (!(tol < 1.0)) {
+        report.error<NE_REAL_ARG_GE>("tol", "1.0", "tol", tol);
+        return true;
+    }
+    return false;
+}
+
+} // namespace kor::sparse

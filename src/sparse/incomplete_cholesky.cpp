@@ -1,0 +1,295 @@
+// Incomplete Cholesky factorisation PAP' of about LDL', L with a unit diagonal.
+//
+// The matrix is taken as a graph: each live node knows its live neighbours, and an element off the diagonal is kept at both
+// its ends. A stage takes a node out, divides its list by the pivot, which makes the list a column of L, and joins its
+// neighbours to each other. Fill is judged when it first appears.
+//
+// J. A. Meijerink and H. A. van der Vorst, J. Comput. Phys. 44 (1981) 134-155; I. Gustafsson, BIT 18 (1978) 142-156;
+// H. M. Markowitz, Management Sci. 3 (1957) 255-269; pivots are raised after D. S. Kershaw, J. Comput. Phys. 26 (1978) 43-65.
+#include "sparse/incomplete_cholesky.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "frame/workspace.hpp"
+#include "sparse/growing_array.hpp"
+
+namespace kor::sparse {
+
+namespace {
+
+constexpr Integer kNone = -1;
+
+struct Neighbour {
+    double value;
+    Integer node;
+    Integer level;
+};
+
+// The nodes of each number of neighbours, in linked lists.
+class NodesByCount {
+  public:
+    bool allocate(Count n) { return first_.allocate(n) && next_.allocate(n) && previous_.allocate(n); }
+    void clear()
+    {
+        std::fill(first_.begin(), first_.end(), kNone);
+        fewest_ = 0;
+    }
+    void insert(Integer node, Integer count)
+    {
+        next_[node] = first_[count];
+        previous_[node] = kNone;
+        if (first_[count] != kNone) previous_[first_[count]] = node;
+        first_[count] = node;
+        fewest_ = std::min(fewest_, count);
+    }
+    void remove(Integer node, Integer count)
+    {
+        if (previous_[node] != kNone)
+            next_[previous_[node]] = next_[node];
+        else
+            first_[count] = next_[node];
+        if (next_[node] != kNone) previous_[next_[node]] = previous_[node];
+    }
+    Integer take_from_fewest()
+    {
+        while (first_[fewest_] == kNone) ++fewest_;
+        const Integer node = first_[fewest_];
+        remove(node, fewest_);
+        return node;
+    }
+
+  private:
+    Workspace<Integer> first_, next_, previous_;
+    Integer fewest_ = 0;
+};
+
+class NodeElimination {
+  public:
+    NodeElimination(const Matrix &a, const CholeskyRules &rules) : a_{a}, rules_{rules} {}
+
+    Factorised run(const Integer given_order[]);
+    Factorised hand_over(const Storage &, CholeskyResult &);
+
+  private:
+    // A stretch of the store.
+    struct List {
+        std::size_t start;
+        Integer count, room;
+    };
+
+    bool allocate();
+    bool build_graph();
+    bool take_out(Integer node, Integer stage);
+    double repaired_pivot(Integer node);
+    bool append(Integer i, const Neighbour &);
+    bool is_to_be_dropped(Integer level, double value) const
+    {
+        return rules_.fill_level >= 0 ? level > rules_.fill_level : std::abs(value) < drop_threshold_;
+    }
+    bool picks_order() const { return rules_.pivoting == CholeskyPivoting::fewest_neighbours; }
+
+    const Matrix a_;
+    const CholeskyRules rules_;
+    double drop_threshold_ = 0.0;
+    Workspace<double> diagonal_; // of live nodes; the reciprocal of the pivot of others
+    Workspace<List> lists_;      // neighbours of live nodes; a column of L for others
+    GrowingArray<Neighbour> store_;
+    Workspace<Integer> place_of_;  // of a neighbour in the list at work, or kNone
+    Workspace<double> multiplier_; // of the neighbours of the node that is taken out
+    NodesByCount by_count_;
+    Workspace<Integer> order_, stage_of_;
+    Integer modified_pivots_ = 0;
+};
+
+bool NodeElimination::allocate()
+{
+    const Count n{a_.n};
+    return diagonal_.allocate(n) && lists_.allocate(n) && place_of_.allocate(n) && multiplier_.allocate(n) &&
+           order_.allocate(n) && stage_of_.allocate(n) && (!picks_order() || by_count_.allocate(n));
+}
+
+bool NodeElimination::build_graph()
+{
+    std::fill(diagonal_.begin(), diagonal_.end(), 0.0);
+    std::fill(lists_.begin(), lists_.end(), List{0, 0, 0});
+    std::fill(place_of_.begin(), place_of_.end(), kNone);
+    double greatest = 0.0;
+    for (Integer p = 0; p < a_.nnz; ++p) {
+        greatest = std::max(greatest, std::abs(a_.value[p]));
+        if (a_.row[p] == a_.column[p]) continue;
+        ++lists_[a_.row[p] - 1].room;
+        ++lists_[a_.column[p] - 1].room;
+    }
+    drop_threshold_ = rules_.drop_tolerance * greatest;
+    std::size_t total = 0;
+    for (List &list : lists_) {
+        list.start = total;
+        total += static_cast<std::size_t>(list.room);
+    }
+    if (!store_.reserve(total)) return false;
+    store_.resize(total);
+    for (Integer p = 0; p < a_.nnz; ++p) {
+        const Integer i = a_.row[p] - 1, j = a_.column[p] - 1;
+        if (i == j) {
+            diagonal_[i] = a_.value[p] * (1.0 + rules_.diagonal_scale);
+            continue;
+        }
+        store_[lists_[i].start + static_cast<std::size_t>(lists_[i].count++)] = {a_.value[p], j, 0};
+        store_[lists_[j].start + static_cast<std::size_t>(lists_[j].count++)] = {a_.value[p], i, 0};
+    }
+    return true;
+}
+
+// A list that is full moves to the end of the store, into twice the room.
+bool NodeElimination::append(Integer i, const Neighbour &neighbour)
+{
+    List &list = lists_[i];
+    if (list.count == list.room) {
+        const Integer room = 2 * list.room + 2;
+        const std::size_t start = store_.size();
+        if (!store_.reserve(start + static_cast<std::size_t>(room))) return false;
+        store_.resize(start + static_cast<std::size_t>(room));
+        std::copy_n(store_.data() + list.start, list.count, store_.data() + start);
+        list.start = start;
+        list.room = room;
+    }
+    store_[list.start + static_cast<std::size_t>(list.count++)] = neighbour;
+    return true;
+}
+
+// A pivot that is not safely positive makes way for the sum of moduli beside it.
+double NodeElimination::repaired_pivot(Integer node)
+{
+    constexpr double kLeastShare = 0.01;
+    const List &list = lists_[node];
+    double sum = 0.0;
+    for (Integer s = 0; s < list.count; ++s) sum += std::abs(store_[list.start + static_cast<std::size_t>(s)].value);
+    const double pivot = diagonal_[node];
+    if (pivot > kLeastShare * sum) return pivot;
+    ++modified_pivots_;
+    return sum > 0.0 ? sum : 1.0;
+}
+
+// Takes out a node and corrects what its neighbours have with themselves and with each other.
+bool NodeElimination::take_out(Integer node, Integer stage)
+{
+    order_[stage] = node;
+    stage_of_[node] = stage;
+    const double pivot = repaired_pivot(node);
+    diagonal_[node] = 1.0 / pivot;
+    const std::size_t start = lists_[node].start;
+    const Integer count = lists_[node].count;
+    for (Integer s = 0; s < count; ++s) multiplier_[s] = store_[start + static_cast<std::size_t>(s)].value / pivot;
+
+    for (Integer s = 0; s < count; ++s) {
+        // By value: the store may move.
+        const Neighbour parent = store_[start + static_cast<std::size_t>(s)];
+        const Integer i = parent.node;
+        diagonal_[i] -= multiplier_[s] * parent.value;
+
+        // Look up the neighbours of i, and take the node out of their list.
+        List &list = lists_[i];
+        const Integer old_count = list.count;
+        for (Integer t = 0; t < list.count; ++t) {
+            Neighbour *const of_i = store_.data() + list.start;
+            if (of_i[t].node == node) of_i[t] = of_i[--list.count];
+            if (t < list.count) place_of_[of_i[t].node] = t;
+        }
+        for (Integer t = 0; t < count; ++t) {
+            if (t == s) continue;
+            const Neighbour other = store_[start + static_cast<std::size_t>(t)];
+            // The same product at both ends of the element, to the last bit.
+            const double change = i < other.node ? multiplier_[s] * other.value : multiplier_[t] * parent.value;
+            const Integer level = std::max(parent.level, other.level) + 1;
+            if (place_of_[other.node] != kNone) {
+                Neighbour &element = store_[list.start + static_cast<std::size_t>(place_of_[other.node])];
+                element.value -= change;
+                element.level = std::min(element.level, level);
+            } else if (is_to_be_dropped(level, change)) {
+                if (rules_.modified) diagonal_[i] -= change;
+            } else if (!append(i, {-change, other.node, level})) {
+                return false;
+            }
+        }
+        for (Integer t = 0; t < list.count; ++t)
+            place_of_[store_[list.start + static_cast<std::size_t>(t)].node] = kNone;
+        if (picks_order()) {
+            by_count_.remove(i, old_count);
+            by_count_.insert(i, list.count);
+        }
+    }
+    for (Integer s = 0; s < count; ++s) store_[start + static_cast<std::size_t>(s)].value = multiplier_[s];
+    return true;
+}
+
+Factorised NodeElimination::run(const Integer given_order[])
+{
+    if (!allocate() || !build_graph()) return Factorised::no_memory;
+    if (picks_order()) {
+        by_count_.clear();
+        // Backwards, so that among equals the first comes first.
+        for (Integer i = a_.n - 1; i >= 0; --i) by_count_.insert(i, lists_[i].count);
+    }
+    for (Integer stage = 0; stage < a_.n; ++stage) {
+        const Integer node = picks_order()                                ? by_count_.take_from_fewest()
+                             : rules_.pivoting == CholeskyPivoting::given ? given_order[stage] - 1
+                                                                          : stage;
+        if (!take_out(node, stage)) return Factorised::no_memory;
+    }
+    return Factorised::done;
+}
+
+// Turns the columns of L into rows, with the reciprocal pivot at the end of each.
+Factorised NodeElimination::hand_over(const Storage &storage, CholeskyResult &result)
+{
+    std::size_t elements = static_cast<std::size_t>(a_.n);
+    for (const List &list : lists_) elements += static_cast<std::size_t>(list.count);
+    const Factorised room = storage.make_room(a_.nnz, elements);
+    if (room != Factorised::done) return room;
+
+    // Where the next element of each row goes: first the lengths, then the starts.
+    Workspace<Integer> &place = place_of_;
+    std::fill(place.begin(), place.end(), 1);
+    for (const List &list : lists_)
+        for (Integer s = 0; s < list.count; ++s)
+            ++place[stage_of_[store_[list.start + static_cast<std::size_t>(s)].node]];
+    Integer next = a_.nnz;
+    for (Integer k = 0; k < a_.n; ++k) {
+        result.row_start[k] = next + 1;
+        next += place[k];
+        place[k] = result.row_start[k] - 1;
+    }
+    result.row_start[a_.n] = next + 1;
+
+    const auto put = [&](Integer row, Integer column, double value) {
+        const Integer p = place[row]++;
+        (*storage.value)[p] = value;
+        (*storage.row)[p] = row + 1;
+        (*storage.column)[p] = column + 1;
+    };
+    for (Integer k = 0; k < a_.n; ++k) {
+        const List &list = lists_[order_[k]];
+        put(k, k, diagonal_[order_[k]]); // all that is left of it has been put
+        for (Integer s = 0; s < list.count; ++s) {
+            const Neighbour &element = store_[list.start + static_cast<std::size_t>(s)];
+            put(stage_of_[element.node], k, element.value);
+        }
+        result.order[k] = order_[k] + 1;
+    }
+    result.elements = static_cast<Integer>(elements);
+    result.modified_pivots = modified_pivots_;
+    return Factorised::done;
+}
+
+} // namespace
+
+Factorised factorise_cholesky(const Matrix &a, const CholeskyRules &rules, const Storage &storage,
+                              CholeskyResult &result)
+{
+    NodeElimination elimination{a, rules};
+    const Factorised outcome = elimination.run(result.order);
+    return outcome == Factorised::done ? elimination.hand_over(storage, result) : outcome;
+}
+
+} // namespace kor::sparse
