@@ -39,7 +39,8 @@ typedef struct {
 /// Integrates f over (a, b) to the accuracy asked for. Algebraic and logarithmic singularities at the ends, or anywhere, are dealt
 /// with by extrapolation.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`, and the integral has then the opposite sign
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -88,7 +89,8 @@ void d01ajc(double (*f)(double x), double a, double b, double epsabs, double eps
 /// Integrates f over (a, b) to the accuracy asked for, without extrapolation: the choice for functions that oscillate or have narrow
 /// peaks, but no singularity.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -130,7 +132,8 @@ void d01akc(double (*f)(double x), double a, double b, double epsabs, double eps
 ///
 /// Integrates f over (a, b) to the accuracy asked for, where f has singularities, jumps or kinks at known points.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  nbrkpts number of break points, at least 0
@@ -181,7 +184,8 @@ void d01alc(double (*f)(double x), double a, double b, Integer nbrkpts, const do
 ///
 /// Integrates f over (bound, infinity), (-infinity, bound) or (-infinity, infinity) to the accuracy asked for.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  boundinf Kor_UpperSemiInfinite, Kor_LowerSemiInfinite or Kor_Infinite
 /// \param[in]  bound  the finite end; not looked at with Kor_Infinite
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -228,7 +232,8 @@ void d01amc(double (*f)(double x), Integer boundinf, double bound, double epsabs
 ///
 /// Integrates f times the weight over (a, b) to the accuracy asked for; `omega` may be as large as you like.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  omega  the frequency, in radians per unit of x; any sign, 0 allowed
@@ -277,7 +282,8 @@ void d01anc(double (*f)(double x), double a, double b, double omega, Integer wt_
 ///
 /// Integrates f(x) (x - a)^alfa (b - x)^beta v(x) over (a, b), where v is 1, ln(x - a), ln(b - x) or their product.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      lower end of the range
 /// \param[in]  b      upper end, greater than `a`
 /// \param[in]  alfa   power at a, greater than -1
@@ -326,7 +332,8 @@ void d01apc(double (*f)(double x), double a, double b, double alfa, double beta,
 ///
 /// Integrates f times the weight 1/(x - c) over (a, b), in the sense of the principal value if c lies inside.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  c      the pole, equal to neither end
@@ -371,7 +378,8 @@ void d01aqc(double (*f)(double x), double a, double b, double c, double epsabs, 
 ///
 /// Integrates interval by interval, each an odd number of half periods long, and extrapolates the sums. f must tend to zero.
 ///
-/// \param[in]  f      the function; called on this thread only
+/// \param[in]  f      the function; called on this thread only. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      the finite end
 /// \param[in]  omega  the frequency, in radians per unit of x; 0 is allowed: with Kor_Sine the integral is 0
 /// \param[in]  wt_func Kor_Cosine or Kor_Sine
@@ -420,7 +428,8 @@ void d01asc(double (*f)(double x), double a, double omega, Integer wt_func, Inte
 ///
 /// As d01ajc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`, and the integral has then the opposite sign
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -459,7 +468,8 @@ void d01sjc(double (*f)(double x, void *comm), double a, double b, double epsabs
 ///
 /// As d01akc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -495,7 +505,8 @@ void d01skc(double (*f)(double x, void *comm), double a, double b, double epsabs
 ///
 /// As d01alc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  nbrkpts number of break points, at least 0
@@ -535,7 +546,8 @@ void d01slc(double (*f)(double x, void *comm), double a, double b, Integer nbrkp
 ///
 /// As d01amc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  boundinf Kor_UpperSemiInfinite, Kor_LowerSemiInfinite or Kor_Infinite
 /// \param[in]  bound  the finite end; not looked at with Kor_Infinite
 /// \param[in]  epsabs absolute error wanted, taken by its modulus
@@ -571,7 +583,8 @@ void d01smc(double (*f)(double x, void *comm), Integer boundinf, double bound, d
 ///
 /// As d01anc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  omega  the frequency, in radians per unit of x; any sign, 0 allowed
@@ -610,7 +623,8 @@ void d01snc(double (*f)(double x, void *comm), double a, double b, double omega,
 ///
 /// As d01apc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      lower end of the range
 /// \param[in]  b      upper end, greater than `a`
 /// \param[in]  alfa   power at a, greater than -1
@@ -650,7 +664,8 @@ void d01spc(double (*f)(double x, void *comm), double a, double b, double alfa, 
 ///
 /// As d01aqc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      one end of the range
 /// \param[in]  b      the other end; may be less than `a`
 /// \param[in]  c      the pole, equal to neither end
@@ -687,7 +702,8 @@ void d01sqc(double (*f)(double x, void *comm), double a, double b, double c, dou
 ///
 /// As d01asc(), with the pointer `comm` as second argument of f.
 ///
-/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument
+/// \param[in]  f      the function; called on this thread only; receives `comm` as its second argument. A point where it is infinite or not a number does no
+///                    harm if it stands alone
 /// \param[in]  a      the finite end
 /// \param[in]  omega  the frequency, in radians per unit of x; 0 is allowed: with Kor_Sine the integral is 0
 /// \param[in]  wt_func Kor_Cosine or Kor_Sine
@@ -846,9 +862,9 @@ void d01bbc(Integer quadrule, double a, double b, Integer npts, double weight[],
 /// \param[in]  x    n points, strictly increasing or strictly decreasing; in the latter case the integral has the sign of that
 ///                  orientation
 /// \param[in]  y    n values
-/// \param[out] ans  the integral, `er` included
-/// \param[out] er   the correction that fourth differences suggest: an estimate of the error of the integral without it, and a
-///                  cautious one of `ans`; 0 for n = 4
+/// \param[out] ans  the integral, with the correction that fourth differences suggest
+/// \param[out] er   estimate of |ans - integral|: the size of the correction, and twice the standard error that errors in the
+///                  data may cause if fourth differences are due to them; 0 for n = 4, where there are none
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
 /// \par Errors
@@ -858,7 +874,8 @@ void d01bbc(Integer quadrule, double a, double b, Integer npts, double weight[],
 ///
 /// The outputs are then untouched.
 /// \par Accuracy
-/// Exact for cubics, but for rounding; O(h^4) before the correction.
+/// Exact for cubics, but for rounding; O(h^4) before the correction. On smooth data the error is far less than `er` as soon as
+/// ten points follow the function; on noisy data it is within `er` in 19 cases of 20.
 /// \par Method
 /// P. E. Gill and G. F. Miller, Comput. J. 15 (1972) 80-83: cubics through four neighbouring points.
 /// \par Thread safety

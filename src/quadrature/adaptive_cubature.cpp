@@ -103,22 +103,39 @@ class Boxes {
     std::size_t size_ = 0, capacity_ = 0;
 };
 
+// The point that the integrand is called with. Coordinates are stored in pairs: a loop over them that the compiler has made
+// to load two at a time would wait if one of the two were still on its way to the cache.
+class Point {
+  public:
+    explicit Point(Integer ndim, const double *from) { std::copy(from, from + ndim, x_); }
+    operator const double *() const { return x_; }
+    double operator[](Integer i) const { return x_[i]; }
+    void set(Integer i, double value)
+    {
+        Pair &pair = reinterpret_cast<Pair *>(x_)[i / 2];
+        pair = i % 2 == 0 ? Pair{value, pair[1]} : Pair{pair[0], value};
+    }
+
+  private:
+    typedef double Pair __attribute__((vector_size(2 * sizeof(double)), may_alias));
+    alignas(Pair) double x_[kMostDimension + 1] = {};
+};
+
 // Applies both rules to a box.
 void apply_rules(Integer ndim, BoxIntegrand f, const Weights &w, Boxes &boxes, std::size_t box)
 {
     const double *const centre = boxes.centre(box), *const half = boxes.half(box);
-    double x[kMostDimension];
-    std::copy(centre, centre + ndim, x);
+    Point x{ndim, centre};
     const double f0 = f(x);
     double sum2 = 0.0, sum3 = 0.0, sum4 = 0.0, sum5 = 0.0, volume = 1.0;
     double largest_difference = -1.0;
     Integer axis = 0;
     const auto pair_sum = [&](Integer i, double lambda) {
-        x[i] = centre[i] - lambda * half[i];
+        x.set(i, centre[i] - lambda * half[i]);
         const double below = f(x);
-        x[i] = centre[i] + lambda * half[i];
+        x.set(i, centre[i] + lambda * half[i]);
         const double above = f(x);
-        x[i] = centre[i];
+        x.set(i, centre[i]);
         return below + above;
     };
     for (Integer i = 0; i < ndim; ++i) {
@@ -135,18 +152,18 @@ void apply_rules(Integer ndim, BoxIntegrand f, const Weights &w, Boxes &boxes, s
     for (Integer i = 0; i + 1 < ndim; ++i)
         for (Integer j = i + 1; j < ndim; ++j) {
             for (const double sign : {-1.0, 1.0}) {
-                x[i] = centre[i] + sign * kLambda4 * half[i];
+                x.set(i, centre[i] + sign * kLambda4 * half[i]);
                 sum4 += pair_sum(j, kLambda4);
             }
-            x[i] = centre[i];
+            x.set(i, centre[i]);
         }
     // All corners in the order of a Gray code: one coordinate changes at a time.
-    for (Integer i = 0; i < ndim; ++i) x[i] = centre[i] - kLambda5 * half[i];
+    for (Integer i = 0; i < ndim; ++i) x.set(i, centre[i] - kLambda5 * half[i]);
     for (std::uint32_t corner = 0;; ++corner) {
         sum5 += f(x);
         const Integer i = __builtin_ctz(corner + 1);
         if (i >= ndim) break;
-        x[i] = x[i] < centre[i] || half[i] == 0.0 ? centre[i] + kLambda5 * half[i] : centre[i] - kLambda5 * half[i];
+        x.set(i, x[i] < centre[i] || half[i] == 0.0 ? centre[i] + kLambda5 * half[i] : centre[i] - kLambda5 * half[i]);
     }
     const double value = volume * (w.w1 * f0 + w.w2 * sum2 + w.w3 * sum3 + w.w4 * sum4 + w.w5 * sum5);
     boxes.value(box) = value;

@@ -153,8 +153,34 @@ TEST(TabulatedData, CubicsAreExactAndTheEstimateIsHonest)
         Record fail;
         double ans, er;
         d01gac(n, x.data(), y.data(), &ans, &er, &fail);
-        EXPECT_LE(std::fabs(ans - (primitive(3.0) - primitive(0.0))), std::fabs(er)) << n;
+        EXPECT_LE(std::fabs(ans - (primitive(3.0) - primitive(0.0))), er) << n;
     }
+}
+
+TEST(TabulatedData, TheEstimateCoversNoiseAndUnevenGrids)
+{
+    std::mt19937_64 random{11};
+    std::uniform_real_distribution<double> step{0.02, 1.0};
+    std::normal_distribution<double> normal;
+    const auto primitive = [](double t) { return std::exp(-t) * (2.0 * std::sin(2.0 * t) - std::cos(2.0 * t)) / 5.0; };
+    for (const bool even : {true, false})
+        for (const double noise : {0.0, 1e-8, 1e-4, 1e-2})
+            for (const int n : {10, 30, 200}) {
+                constexpr int kTrials = 200;
+                int within = 0;
+                for (int trial = 0; trial < kTrials; ++trial) {
+                    std::vector<double> x(n), y(n);
+                    for (int i = 1; i < n; ++i) x[i] = x[i - 1] + (even ? 1.0 : step(random));
+                    for (double &t : x) t *= 3.0 / x.back();
+                    x.back() = 3.0;
+                    for (int i = 0; i < n; ++i) y[i] = std::exp(-x[i]) * std::cos(2.0 * x[i]) + noise * normal(random);
+                    Record fail;
+                    double ans, er;
+                    d01gac(n, x.data(), y.data(), &ans, &er, &fail);
+                    within += std::fabs(ans - (primitive(3.0) - primitive(0.0))) <= er;
+                }
+                EXPECT_GE(within, 0.92 * kTrials) << n << " points, noise " << noise; // 0.954 expected of pure noise
+            }
 }
 
 TEST(TabulatedData, Refusals)
@@ -362,6 +388,20 @@ TEST(MonteCarlo, ErrorsAreWithinThreeStandardErrorsAtTheProperRate)
                 }
     EXPECT_GE(within_three, 0.985 * all) << all; // 0.997 expected
     EXPECT_NEAR(within_one, 0.683 * all, 0.07 * all);
+}
+
+TEST(MonteCarlo, TheErrorFallsWithTheRootOfTheWork)
+{
+    const auto smooth = [](Integer, const double x[]) { return std::exp(x[0] * x[1] - x[2]); };
+    const double a[] = {0.0, 0.0, 0.0}, b[] = {1.0, 1.0, 1.0};
+    g05cbc(5);
+    Record fail;
+    double value, error[2];
+    for (const Integer method : {Kor_OneIteration, Kor_ManyIterations}) {
+        for (int i = 0; i < 2; ++i)
+            d01gbc(3, smooth, method, Kor_Cold, a, b, 1, i == 0 ? 5000 : 500000, 0.0, 1, &value, &error[i], &fail);
+        EXPECT_NEAR(error[0] / error[1], 10.0, 1.0);
+    }
 }
 
 TEST(MonteCarlo, StrataReduceTheError)
