@@ -3,6 +3,7 @@
 discrete_laws_data.inc and noncentral_laws_data.inc in tests/stats. With a library as
 argument it also prints the largest errors of that library over a denser set of points."""
 import ctypes
+import itertools
 import os
 import random
 import sys
@@ -53,6 +54,36 @@ def gamma(a, x):
 def normal(x):
     x = mp.mpf(x)
     return mp.erfc(-x / mp.sqrt(2)) / 2, mp.erfc(x / mp.sqrt(2)) / 2
+
+
+def beta_by_quadrature(a, b, w):
+    """Both tails at odds w, for shapes of all sizes: the integral of x^a y^b / B(a, b) over the logarithm of the odds, from w
+    away from the mean."""
+    with mp.workdps(50):
+        a, b, s = mp.mpf(a), mp.mpf(b), mp.log(w)
+        log_beta = mp.loggamma(a) + mp.loggamma(b) - mp.loggamma(a + b)
+        # Both powers without cancellation.
+        log_f = lambda s: (-a * mp.log1p(mp.exp(-s)) if s > 0 else a * (s - mp.log1p(mp.exp(s)))) + (
+            -b * mp.log1p(mp.exp(s)) if s < 0 else b * (-s - mp.log1p(mp.exp(-s)))) - log_beta
+        x = 1 / (1 + mp.exp(-s))
+        surplus = b * x - a * (1 - x)
+        outward = 1 if surplus > 0 else -1
+        unit = 1 / max(abs(surplus), 1 / mp.sqrt(1 / a + 1 / b))
+        top = log_f(s)
+        points, step = [s], unit * outward
+        while log_f(points[-1]) > top - 75:
+            points.append(points[-1] + step)
+            step *= 1.5
+        tail = mp.quad(lambda t: mp.exp(log_f(t) - top) / unit, points) * outward * unit * mp.exp(top)
+        return (1 - tail, tail) if outward > 0 else (tail, 1 - tail)
+
+
+def f_of_all_sizes(f, df1, df2):
+    return beta_by_quadrature(mp.mpf(df1) / 2, mp.mpf(df2) / 2, mp.mpf(df1) * mp.mpf(f) / mp.mpf(df2))
+
+
+def t_of_all_sizes(t, df):
+    return beta_by_quadrature(mp.mpf(1) / 2, mp.mpf(df) / 2, mp.mpf(t) ** 2 / mp.mpf(df))
 
 
 def beta_of_double(x, a, b):
@@ -109,11 +140,29 @@ def references(seed, count, large):
             yield law, p1, p2, x, lower, upper
 
 
+def large_references(seed, count):
+    """F and t with degrees of freedom from 1e-3 to 1e10, in pairs of all proportions."""
+    draw = random.Random(seed).uniform
+    for k in range(count):
+        df1, df2 = 10 ** draw(-3, 10), 10 ** draw(-3, 10)
+        if k % 3 == 0:
+            df1 = 10 ** draw(2, 10)
+            df2 = df1 * 10 ** draw(-1, 1)
+        for law, parameters, f in (
+                ("kF", (df1, df2), odds(draw, df1 / 2, df2 / 2) * df2 / df1),
+                ("kStudent", (1 + df2, 0.0), (odds(draw, 0.5, (1 + df2) / 2) * (1 + df2)) ** 0.5)):
+            if not 1e-290 < f < 1e290:
+                continue
+            lower, upper = f_of_all_sizes(f, df1, df2) if law == "kF" else t_of_all_sizes(f, parameters[0])
+            if min(lower, upper) > SMALLEST:
+                yield law, parameters[0], parameters[1], f, lower, upper
+
+
 def write():
     path = os.path.join(ROOT, "tests", "stats", "laws_data.inc")
     with open(path, "w", encoding="utf-8") as out:
         out.write("// Written by tools/stats_reference.py: law, parameters, x, lower and upper tail (two-sided for Student).\n")
-        for law, p1, p2, x, lower, upper in references(1, 40, 3.5):
+        for law, p1, p2, x, lower, upper in itertools.chain(references(1, 40, 3.5), large_references(5, 60)):
             out.write("{%s, %r, %r, %r, %s, %s},\n" % (law, p1, p2, x, mp.nstr(lower, 20), mp.nstr(upper, 20)))
 
 
@@ -242,7 +291,7 @@ def survey(path):
     def note(key, error, row):
         if key not in worst or error > worst[key][0]:
             worst[key] = (error, row)
-    for law, p1, p2, x, low, up in references(2, 60, 4):
+    for law, p1, p2, x, low, up in itertools.chain(references(2, 60, 4), large_references(6, 300)):
         row = (p1, p2, x, float(low), float(up))
         got = computed[law](x, p1, p2)
         for side, value, exact in (("lower", got[0], low), ("upper", got[1], up)):

@@ -229,7 +229,7 @@ double g01fcc(double p, double df, KorError *fail);
 /// NaN.
 /// \par Method
 /// df1 f / df2 are the odds of a beta variable with shapes df1/2 and df2/2, for all degrees up to 1e22; beyond that
-/// chi-squared. The time grows as the root of the smaller of the two degrees.
+/// chi-squared.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -297,8 +297,9 @@ double g01fdc(double p, double df1, double df2, KorError *fail);
 /// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
 /// NaN.
 /// \par Method
-/// A power series of positive terms below the mean, a continued fraction near it, and their factor x^a (1-x)^b / B(a,
-/// b) as a saddle point with a low part. A. R. DiDonato and A. H. Morris, ACM Trans. Math. Softw. 18 (1992) 360-373.
+/// A power series of positive terms below the mean, a continued fraction near it, an expansion about the normal law where
+/// both shapes are large, and their factor x^a (1-x)^b / B(a, b) as a saddle point with a low part. A. R. DiDonato and
+/// A. H. Morris, ACM Trans. Math. Softw. 18 (1992) 360-373.
 /// \par Thread safety
 /// Safe.
 /// \par See also

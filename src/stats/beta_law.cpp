@@ -1,13 +1,15 @@
-// The beta law. Three methods, as for the incomplete gamma functions: a power series of positive terms, a continued
-// fraction that converges fast beyond the mean, and, where a small a makes both tails from one power of x, their difference
-// from 1 without cancellation. The factor x^a y^b / B(a, b) is formed as a saddle point with a low part: A. R. DiDonato and
-// A. H. Morris, ACM Trans. Math. Softw. 18 (1992) 360-373; C. Loader, Fast and accurate computation of binomial
-// probabilities (2000).
+// The beta law. Four methods, as for the incomplete gamma functions: where both shapes are large and x is near the mean an
+// expansion about the normal law, uniform in x; else a power series of positive terms, a continued fraction that converges
+// fast beyond the mean, and, where a small a makes both tails from one power of x, their difference from 1 without
+// cancellation. The factor x^a y^b / B(a, b) is formed as a saddle point with a low part: A. R. DiDonato and A. H. Morris, ACM
+// Trans. Math. Softw. 18 (1992) 360-373; C. Loader, Fast and accurate computation of binomial probabilities (2000); N. M.
+// Temme, Special Functions (1996), section 11.3.3.
 #include "stats/beta_law.hpp"
 
 #include <cmath>
 
 #include "frame/constants.hpp"
+#include "special/erf.hpp"
 #include "special/gamma.hpp"
 #include "special/incomplete_gamma_tables.hpp"
 #include "stats/normal_law.hpp"
@@ -20,7 +22,9 @@ using namespace special;
 
 constexpr double kStirlingFrom = 12.0;
 constexpr double kExponentLimit = 2000.0; // beyond it exp(-t) is far out of range
-constexpr int kMaxSteps = 1000000;        // about 40 times what shapes of 1e9 need
+constexpr int kMaxSteps = 1000;           // none is known that takes 200
+constexpr double kUniformFrom = 64.0;     // the smaller shape, while |y| <= kUniformWithin
+constexpr double kUniformWithin = 0.4;
 
 // Gamma(a + 1) = sqrt(2 pi a) (a/e)^a S(a), S(a) = factor exp(exponent).
 struct StirlingRatio {
@@ -118,6 +122,37 @@ bool series_is_short(double a, double n, double x)
     return x * n <= 0.5 * (a + 1.0) || x * (n + 10.0) <= 0.7 * (a + 11.0);
 }
 
+// The sum over k of beta_k w_k, the correction to the normal law. With r = a/b <= 1, N = a (a+b) / b, and y so measured that
+// x^a (1-x)^b falls from its maximum as exp(-N y^2/2), the tail is ~ the integral of exp(-N y^2/2) h(y). This h = beta_0 +
+// beta_1 y + ... satisfies h - y h' = h^3 + (1-r) y h^2 - r y^2 h, and w_k comes of integrating by parts. The beta_k fall like
+// 2.5^-k.
+double uniform_correction(double r, double n, double y)
+{
+    constexpr int kTerms = 32;
+    constexpr double kNegligible = 0x1p-57;
+    double h[kTerms] = {1.0}, square[kTerms] = {1.0}; // of h, and of its square
+    double w[kTerms] = {};
+    double sum = 0.0, last = 1.0, power = 1.0;
+    for (int k = 1; k < kTerms; ++k) {
+        // The coefficients of y^k of the square and the cube, without what h[k] adds to them.
+        double of_square = 0.0, of_cube = 0.0;
+        for (int i = 1; i < k; ++i) {
+            of_square += h[i] * h[k - i];
+            of_cube += square[i] * h[k - i];
+        }
+        of_cube += of_square;
+        h[k] = -(of_cube + (1.0 - r) * square[k - 1] - (k >= 2 ? r * h[k - 2] : 0.0)) / (k + 2.0);
+        square[k] = of_square + 2.0 * h[k];
+        w[k] = power + (k >= 3 ? (k - 1.0) / n * w[k - 2] : 0.0);
+        power *= y;
+        const double term = h[k] * w[k];
+        sum += term;
+        if (std::fabs(term) + std::fabs(last) < kNegligible) break;
+        last = term;
+    }
+    return sum;
+}
+
 // Odds to start from for a lower tail of p; 0 where they are below the doubles.
 double start_odds(double a, double b, double p)
 {
@@ -153,40 +188,90 @@ BinomialTerm::BinomialTerm(double a, double b) : a_{a}, b_{b}, n_{two_sum(a, b)}
     factor_ = sqrt(n_ / (tables::kTwoPi * a) / b) * (of_n.factor / (of_a.factor * of_b.factor));
 }
 
-Exponential BinomialTerm::at(DoubleDouble x, DoubleDouble y) const
+DoubleDouble BinomialTerm::fall(DoubleDouble x, DoubleDouble y) const
 {
     const DoubleDouble surplus = b_ * x - a_ * y;
-    const DoubleDouble exponent =
-        exponent_ - (deviance(a_, surplus / a_, n_ * x / a_) + deviance(b_, -surplus / b_, n_ * y / b_));
+    return deviance(a_, surplus / a_, n_ * x / a_) + deviance(b_, -surplus / b_, n_ * y / b_);
+}
+
+Exponential BinomialTerm::after(DoubleDouble fall) const
+{
+    const DoubleDouble exponent = exponent_ - fall;
     if (!(exponent.hi > -kExponentLimit)) return {{0.0}, 0};
     const Exponential e = extended_exp(exponent);
     return {e.value * factor_, e.exponent};
 }
 
-Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const
+BetaLaw::BetaLaw(double a, double b) : a_{a}, b_{b}, term_{a, b}, harmonic_{two_product(a, b) / two_sum(a, b)} {}
+
+Exponential BetaLaw::slope_after(DoubleDouble fall) const
 {
-    const Exponential term = term_.at(x, y);
-    return {term.value * (two_product(a_, b_) / two_sum(a_, b_)), term.exponent};
+    const Exponential term = term_.after(fall);
+    return {term.value * harmonic_, term.exponent};
 }
+
+// The tail on the side of x from the mean is exp(-z^2) (exp(z^2) erfc(z) / 2 +- S exp(-stirling) / sqrt(2 pi N)), z^2 = fall.
+std::optional<Tails> BetaLaw::by_uniform_expansion(DoubleDouble fall, bool below) const
+{
+    constexpr double kUnderflow = 750.0;
+    constexpr double kScaledErfcFrom = 0.5;
+    const double small = std::fmin(a_, b_), large = std::fmax(a_, b_);
+    const double n = small * (1.0 + small / large);
+    if (small < kUniformFrom || 2.0 * fall.hi > kUniformWithin * kUniformWithin * n) return {};
+    if (fall.hi > kUnderflow) return below ? Tails{0.0, 1.0} : Tails{1.0, 0.0};
+
+    // y rises with the variable of the smaller shape.
+    const double side = below == (b_ < a_) ? 1.0 : -1.0;
+    const DoubleDouble z = fall.hi > 0.0 ? sqrt(fall) : DoubleDouble{0.0};
+    const double y = side * z.hi * std::sqrt(2.0 / n);
+    const double correction = side * uniform_correction(small / large, n, y) * std::exp(term_.log_stirling()) /
+                              std::sqrt(tables::kTwoPi.hi * n);
+    const Exponential e = extended_exp(-fall);
+    const DoubleDouble scaled = z.hi >= kScaledErfcFrom ? extended_scaled_erfc(z)
+                                                        : extended_exp(fall).value * (1.0 - extended_erf_near_zero(z));
+    const double tail = times_power_of_two((e.value * (0.5 * scaled + correction)).rounded(), e.exponent);
+    return below ? Tails{tail, 1.0 - tail} : Tails{1.0 - tail, tail};
+}
+
+// The side below the mean is summed, and the other is its difference from 1.
+Tails BetaLaw::by_series(DoubleDouble x, DoubleDouble y, DoubleDouble surplus, Exponential slope) const
+{
+    const bool below = surplus.hi >= 0.0;
+    if (slope.value.hi == 0.0) return below ? Tails{0.0, 1.0} : Tails{1.0, 0.0};
+    const double a = below ? a_ : b_, b = below ? b_ : a_;
+    const double near = below ? x.hi : y.hi, far = below ? y.hi : x.hi;
+    const DoubleDouble product = series_is_short(a, a + b, near)
+                                     ? slope.value * power_series(a, a + b, near) / a
+                                     : slope.value * continued_fraction(a, b, near, far, std::fabs(surplus.hi));
+    const double tail = std::fmin(1.0, times_power_of_two(product.rounded(), slope.exponent));
+    return below ? Tails{tail, 1.0 - tail} : Tails{1.0 - tail, tail};
+}
+
+std::optional<Tails> BetaLaw::by_one_power(DoubleDouble x, DoubleDouble y) const
+{
+    if (one_power_suffices(a_, b_, x.hi)) return from_one_power(a_, b_, x);
+    if (!one_power_suffices(b_, a_, y.hi)) return {};
+    const Tails mirrored = from_one_power(b_, a_, y);
+    return Tails{mirrored.upper, mirrored.lower};
+}
+
+Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const { return slope_after(term_.fall(x, y)); }
 
 Tails BetaLaw::tails(DoubleDouble x, DoubleDouble y) const
 {
-    if (one_power_suffices(a_, b_, x.hi)) return from_one_power(a_, b_, x);
-    if (one_power_suffices(b_, a_, y.hi)) {
-        const Tails mirrored = from_one_power(b_, a_, y);
-        return {mirrored.upper, mirrored.lower};
-    }
-    // The side below the mean is summed, and the other is its difference from 1.
-    const DoubleDouble surplus = a_ * y - b_ * x;
-    const bool below = surplus.hi >= 0.0;
-    const double a = below ? a_ : b_, b = below ? b_ : a_;
-    const double near = below ? x.hi : y.hi, far = below ? y.hi : x.hi;
-    const Exponential factor = slope(x, y);
-    const DoubleDouble product = series_is_short(a, a + b, near)
-                                     ? factor.value * power_series(a, a + b, near) / a
-                                     : factor.value * continued_fraction(a, b, near, far, std::fabs(surplus.hi));
-    const double tail = std::fmin(1.0, times_power_of_two(product.rounded(), factor.exponent));
-    return below ? Tails{tail, 1.0 - tail} : Tails{1.0 - tail, tail};
+    if (const auto result = by_one_power(x, y)) return *result;
+    const DoubleDouble fall = term_.fall(x, y), surplus = a_ * y - b_ * x;
+    if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return *result;
+    return by_series(x, y, surplus, slope_after(fall));
+}
+
+PointOfLaw BetaLaw::at(DoubleDouble x, DoubleDouble y) const
+{
+    const DoubleDouble fall = term_.fall(x, y), surplus = a_ * y - b_ * x;
+    const Exponential slope = slope_after(fall);
+    if (const auto result = by_one_power(x, y)) return {*result, slope.rounded()};
+    if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return {*result, slope.rounded()};
+    return {by_series(x, y, surplus, slope), slope.rounded()};
 }
 
 Tails BetaLaw::tails_at_odds(DoubleDouble w) const
@@ -203,8 +288,8 @@ Quantile BetaLaw::odds(Target target) const
     if (start < kSmallest || start > 1.0 / kSmallest) return {upper ? HUGE_VAL : 0.0, true};
     return solve_tail(
         [this](double w) {
-            const DoubleDouble y = 1.0 / (1.0 + DoubleDouble{w}), x = w * y;
-            return PointOfLaw{tails(x, y), slope(x, y).rounded()};
+            const DoubleDouble y = 1.0 / (1.0 + DoubleDouble{w});
+            return at(w * y, y);
         },
         target, start);
 }

@@ -1,6 +1,8 @@
 // The beta law, and with it Student's t, F and the binomial laws.
 #pragma once
 
+#include <optional>
+
 #include "special/elementary.hpp"
 #include "stats/tail_solver.hpp"
 
@@ -14,7 +16,14 @@ class BinomialTerm {
     BinomialTerm(double a, double b);
 
     // x and y positive. Relative error about 2^-52 down to 1e-300, for a and b up to 1e10.
-    special::Exponential at(special::DoubleDouble x, special::DoubleDouble y) const;
+    special::Exponential at(special::DoubleDouble x, special::DoubleDouble y) const { return after(fall(x, y)); }
+
+    // How far below its maximum, at x = a / (a + b), the logarithm of x^a y^b lies; and the term from there.
+    special::DoubleDouble fall(special::DoubleDouble x, special::DoubleDouble y) const;
+    special::Exponential after(special::DoubleDouble fall) const;
+
+    // For large shapes: minus the sum of Stirling's corrections, those of a and b less that of a + b.
+    double log_stirling() const { return exponent_.hi; }
 
   private:
     double a_, b_;
@@ -24,7 +33,7 @@ class BinomialTerm {
 class BetaLaw {
   public:
     // a, b > 0.
-    BetaLaw(double a, double b) : a_{a}, b_{b}, term_{a, b} {}
+    BetaLaw(double a, double b);
 
     // The tails at x, where y = 1 - x; both positive.
     Tails tails(special::DoubleDouble x, special::DoubleDouble y) const;
@@ -32,15 +41,25 @@ class BetaLaw {
     // x^a y^b / B(a, b).
     special::Exponential slope(special::DoubleDouble x, special::DoubleDouble y) const;
 
-    // The same at odds w = x / y.
+    // Tails and slope together.
+    PointOfLaw at(special::DoubleDouble x, special::DoubleDouble y) const;
+
+    // The tails at odds w = x / y.
     Tails tails_at_odds(special::DoubleDouble w) const;
 
     // The odds x / y of the quantile.
     Quantile odds(Target target) const;
 
   private:
+    special::Exponential slope_after(special::DoubleDouble fall) const;
+    std::optional<Tails> by_one_power(special::DoubleDouble x, special::DoubleDouble y) const;
+    std::optional<Tails> by_uniform_expansion(special::DoubleDouble fall, bool below) const;
+    Tails by_series(special::DoubleDouble x, special::DoubleDouble y, special::DoubleDouble surplus,
+                    special::Exponential slope) const;
+
     double a_, b_;
     BinomialTerm term_;
+    special::DoubleDouble harmonic_; // a b / (a + b)
 };
 
 } // namespace kor::stats

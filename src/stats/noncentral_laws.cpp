@@ -91,8 +91,8 @@ MixtureSum noncentral_beta(DoubleDouble x, DoubleDouble y, double a, double b, d
     return sum_mixture(
         0.5 * lambda, a, limits,
         [&](double j) {
-            const BetaLaw law{a + j, b};
-            return CentralTerm{law.tails(x, y).lower, law.slope(x, y).rounded() / (a + j)};
+            const PointOfLaw point = BetaLaw{a + j, b}.at(x, y);
+            return CentralTerm{point.tails.lower, point.slope / (a + j)};
         },
         [&](double j) { return std::fmin(1.0, x.hi * std::fmax(1.0, (a + b + j) / (a + j + 1.0))); },
         [&](double j) { return (a + j) / (x.hi * (a + b + (j - 1.0))); });

@@ -1,4 +1,4 @@
-// Tails and quantiles of the continuous laws against references, over shapes from 1e-3 and tails to 1e-300.
+// Tails and quantiles of the continuous laws against references, over shapes from 1e-3 to 1e10 and tails to 1e-300.
 #include <kor/g01.h>
 
 #include <cmath>
