@@ -1088,6 +1088,12 @@ inline constexpr BinadePieces<1.0, 3, 32, 12> kTrigamma = {{{
       -8.711496476371221e-08, 5.792768374364704e-09, -3.850548242251883e-10, 2.558602102848364e-11,
       -1.6995165630440654e-12, 1.1284847689038151e-13, -7.517410583989727e-15, 4.98805666962923e-16}}}}};
 
+// x^3 (trigamma(x) - 1/x - 1/(2 x^2)) in 1/x^2, x >= 16; error 1.1e-17
+inline constexpr NearConstantPolynomial<5> kTrigammaTail = {
+    {0.1666666679084301, -1.2417634346972955e-09},
+    {
+        -0.03333333333329867, 0.023809523705694304, -0.03333321942352692, 0.07570092143643947, -0.24002988925551136}};
+
 // |psi^(k)(y)| y^k / (k - 1)! = 1 + k / (2 y) + (1/y^2) times this series in 1/y^2;
 // k = 0: ln y - 1 / (2 y) - psi(y) = (1/y^2) times the series
 inline constexpr std::array<double, 12> kPolygammaSeries[] = {

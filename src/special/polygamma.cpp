@@ -76,13 +76,23 @@ DoubleDouble magnitude_by_series(DoubleDouble x, Integer k)
     return first + first * series_beyond_first(x.hi, k);
 }
 
+// psi'(x), x > 0.
+DoubleDouble trigamma(DoubleDouble x)
+{
+    using namespace tables;
+    if (x.hi < 1.0) return kTrigamma(x + 1.0) + 1.0 / square(x);
+    if (x.hi < kSeriesFrom) return kTrigamma(x);
+    const DoubleDouble reciprocal = 1.0 / x;
+    const double square = reciprocal.hi * reciprocal.hi;
+    return reciprocal + square * (0.5 + reciprocal.hi * kTrigammaTail.open(square).rounded());
+}
+
 // |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 1; about 2^-54. Trigamma has a table; else the first terms,
 // which may carry the sum, are formed with low parts.
 DoubleDouble magnitude(DoubleDouble x, Integer k)
 {
+    if (k == 1) return trigamma(x);
     if (x.hi >= kSeriesFrom) return magnitude_by_series(x, k);
-    if (k == 1 && x.hi >= 1.0) return tables::kTrigamma(x);
-    if (k == 1) return tables::kTrigamma(x + 1.0) + 1.0 / square(x);
     constexpr int kCarefulTerms = 4;
     DoubleDouble leading{0.0};
     for (int n = 0; n < kCarefulTerms && x.hi < kSeriesFrom; ++n) {

@@ -40,6 +40,15 @@ def digamma_tail(u):
         return x * x * (mp.log(x) - 1 / (2 * x) - mp.digamma(x))
 
 
+def trigamma_tail(u):
+    """x^3 (trigamma(x) - 1/x - 1/(2 x^2)) as a function of u = 1/x^2."""
+    if u == 0:
+        return mpf(1) / 6
+    with mp.workdps(100):
+        x = 1 / mp.sqrt(u)
+        return x ** 3 * (mp.polygamma(1, x) - 1 / x - 1 / (2 * x * x))
+
+
 def polygamma_series():
     """Asymptotic series of the derivatives: B_2j / (2j)! (2j + k - 1)! / (k - 1)!, for k = 0 without the last factor."""
     rows = []
@@ -71,6 +80,8 @@ parts = [
                   "x^2 (ln x - 1/(2 x) - digamma(x)) in 1/x^2, x >= 16"),
     pieces("kTrigamma", "BinadePieces<1.0, 3, {count}, {terms}>", lambda x: mp.polygamma(1, x), binade_centres(0, 4, 3), TIGHT,
            "trigamma on [1, 16), eight pieces a binade"),
+    near_constant("kTrigammaTail", trigamma_tail, 0, mpf(1) / 256, mpf(2) ** -50,
+                  "x^3 (trigamma(x) - 1/x - 1/(2 x^2)) in 1/x^2, x >= 16"),
     polygamma_series(),
 ]
 header(OUT, "Tables of the gamma function and its logarithm.", "make_gamma_tables.py", parts)
