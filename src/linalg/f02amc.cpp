@@ -1,0 +1,12 @@
+// f02amc: all eigenvalues and eigenvectors of a real symmetric tridiagonal matrix, or of one that was reduced to it.
+#include <kor/f02.h>
+
+#include "linalg/tridiagonal_step.hpp"
+
+void f02amc(Integer n, double eps, double d[], double e[], double z[], Integer tdz, KorError *fail)
+{
+    using namespace kor::linalg;
+    const kor::Report report{"f02amc", fail};
+    if (less_than(report, "n", n, 1) || row_too_short(report, "tdz", tdz, "n", n)) return;
+    iterate_and_report(report, n, eps, d, e, z, tdz);
+}
