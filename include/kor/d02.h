@@ -341,6 +341,204 @@ void d02ppc(KorRKState *state);
 
 // Initial values: Adams method with events
 
+/// The state of an integration by the Adams routines: set up by d02qwc(), carried by d02qfc() and d02qzc(), its memory freed by
+/// d02qyc(). The caller owns the record and clears it once (`KorAdamsOptions opt = {0};`); each problem has its own, and any
+/// number of them may be in use side by side. A record must not be copied, nor shared between threads.
+typedef struct {
+    Integer stamp1;       ///< -11111 in a record that was set up
+    Integer stamp2;       ///< -23456 in a record that was set up
+    Integer neqf;         ///< number of equations
+    Integer neqg;         ///< number of event functions
+    Integer state;        ///< how the integration may go on: what the next d02qwc() should be given
+    Boolean alter_g;      ///< the event functions may change between calls
+    Boolean sophist;      ///< events are searched for thoroughly
+    Boolean vectol;       ///< each component has tolerances of its own
+    Boolean crit;         ///< the integration must not pass `tcrit`
+    Boolean one_step;     ///< d02qfc() returns after each step
+    Boolean root_found;   ///< the last d02qfc() ended at an event
+    Boolean events_stale; ///< the event functions are to be looked at afresh
+    double *rtol;         ///< relative tolerances, in the memory of the integration
+    double *atol;         ///< absolute tolerances, in the memory of the integration
+    double tcrit;         ///< the point not to be passed
+    double hmax;          ///< the longest step, 0 for no limit
+    Integer max_step;     ///< steps that one call may take
+    Integer setup_done;   ///< -11111 after a setup, -23456 once the integration has run, else a setup has failed
+    Integer root_index;   ///< the event function that had the event, from 1; 0 without an event
+    double last_t;        ///< the point that the last d02qfc() reached
+    double tolfac;        ///< after NE_ODE_TOL: the tolerances must be at least so many times larger; else 1
+    Integer steps_taken;  ///< steps since the start
+    double hlast;         ///< the last step, with its sign
+    double hnext;         ///< the step that will be tried next
+    Integer order;        ///< the order of the last step
+    double *work;         ///< the vectors of the integration
+    void *kernel;         ///< the integration itself
+    void *events;         ///< what is known of the event functions
+} KorAdamsOptions;
+
+/// \brief Sets up an initial value problem for the Adams integrator d02qfc(), or changes how one goes on.
+///
+/// The problem is y' = f(t, y) with `neqf` equations. The integration may stop at events: points where one of `neqg` functions
+/// g_k(t, y, y') changes its sign.
+///
+/// \param[in]  state   Kor_NewStart for a new problem. To change the other arguments under way: Kor_Continue, or Kor_ReStart to
+///                     begin afresh from the point that d02qfc() is given next (after a jump of the solution, say). A record
+///                     knows in `opt->state` how it may go on
+/// \param[in]  neqf    number of equations, at least 1
+/// \param[in]  vectol  true: `atol` and `rtol` have neqf elements each; false: one
+/// \param[in]  atol    absolute tolerances, at least 0, in the unit of y
+/// \param[in]  rtol    relative tolerances, at least 0, and at least 4 x02ajc() where the absolute one is 0. The local error e
+///                     of a step satisfies sum (e_i/(rtol_i |y_i| + atol_i))^2 <= 1
+/// \param[in]  one_step true: d02qfc() returns after each step; false: at `tout`
+/// \param[in]  crit    true: the right-hand side must not be evaluated beyond `tcrit`; false: it may be evaluated beyond `tout`
+/// \param[in]  tcrit   the point not to be passed; not read when `crit` is false
+/// \param[in]  hmax    the longest step, its sign is ignored; 0 for no limit
+/// \param[in]  max_step the steps that one call of d02qfc() may take; below 1: 1000
+/// \param[in]  neqg    number of event functions; below 1: none
+/// \param[in]  alter_g true: the event functions may have changed since the last call; then `neqg` may change, too
+/// \param[in]  sophist true: the search also finds events in pairs within one step, and points where a function touches zero, at
+///                     the cost of at least five more evaluations of each function in a step; false: changes of sign from step to step
+/// \param[in,out] opt  the record, to be freed by d02qyc()
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_NO_SETUP: `state` is not Kor_NewStart, and there is nothing to go on with.
+/// - NE_STATE: `state` is none of its values.
+/// - NE_NEQF_CHANGED, NE_VECTOL_CHANGED: `neqf` or `vectol` differs from the setup at the start.
+/// - NE_NEQG_CHANGED: `neqg` differs from the previous setup, and `alter_g` is false.
+/// - NE_INT_ARG_LT: `neqf` is less than 1.
+/// - NE_ALLOC_FAIL: there is not enough memory; the record is empty then.
+/// - NE_BOOL_NOT_SET: `crit` is neither 0 nor 1.
+/// - NE_REAL_ARG_LT: an element of `atol` or `rtol` is negative.
+/// - NE_REAL_LT_COND: an absolute tolerance is 0, and the relative one is less than 4 x02ajc().
+///
+/// After each of them d02qfc() refuses the record until a setup succeeds.
+/// \par Accuracy
+/// The tolerances bound the error of each step; the error at the end is proportional to them, by a factor that is the problem's own.
+/// \par Method
+/// As d02qfc().
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// See d02qfc().
+void d02qwc(Integer state, Integer neqf, Boolean vectol, const double atol[], const double rtol[], Boolean one_step,
+            Boolean crit, double tcrit, double hmax, Integer max_step, Integer neqg, Boolean alter_g, Boolean sophist,
+            KorAdamsOptions *opt, KorError *fail);
+
+/// \brief Integrates an initial value problem by an Adams method of variable order and step, and finds events on the way.
+///
+/// After d02qwc() each call goes on to `tout`, to the next event, or by one step, whichever was asked for and comes first. Events come
+/// in the order in which they lie, one in a call; those that coincide follow one another at the same t. The direction is that
+/// from `t` to the first `tout`.
+///
+/// The method suits problems whose right-hand side is expensive, whose accuracy is high, or whose output is dense: it takes
+/// two evaluations a step, and output points and events cost none. Problems that are stiff end with NE_STIFF_PROBLEM.
+///
+/// \param[in]  neqf number of equations, as at the setup
+/// \param[in]  fcn  computes the derivative y' in `f`, from `t` and `y`, neqf elements each; `comm` is passed through
+/// \param[in,out] t the starting point, in a first call or after Kor_ReStart; then as the last call left it; on exit the point
+///                  reached
+/// \param[in,out] y neqf elements: the solution at the starting point; on exit the solution at `t`. Changes in between are not seen
+///                  unless the integration starts again by Kor_ReStart
+/// \param[in]  tout the next output point, in one direction from the start; with one step at a time it tells how far to go at most
+/// \param[in]  g    returns event function number `k`, counted from 1, at (`t`, `y`, `yp` = y'); may be null without event functions
+/// \param[in]  comm passed to `fcn` and `g` as it stands, never read; may be null
+/// \param[in,out] opt the record: on exit `root_found` and `root_index` tell of an event, `steps_taken`, `hlast`, `hnext` and `order`
+///                  of the steps
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_NO_SETUP, NE_SETUP_ERROR: there was no setup, or the last one failed.
+/// - NE_NEQF: `neqf` differs from the setup.
+/// - NE_NO_G_FUN: there are event functions, but `g` is null.
+/// - NE_2_REAL_ARG_CONS: `t` or `tout` is not finite.
+/// - NE_T_SAME_TOUT: a start, new or afresh, with `tout` = `t`.
+/// - NE_T_CHANGED: `t` is not what the last call left.
+/// - NE_DIRECTION_CHANGE: `tout` lies on the other side of `t` than before.
+/// - NE_TOUT_TCRIT: `tout` lies beyond the point not to be passed.
+/// - NE_MAX_STEP: `max_step` steps were not enough. Call again to go on.
+/// - NE_STIFF_PROBLEM: the same, and the problem looks stiff: a method for stiff problems will be much faster.
+/// - NE_ODE_TOL: the tolerances are too small for doubles, or the solution comes to a singularity. `opt->tolfac` is the factor by
+///   which they must grow.
+/// - NE_WEIGHT_ZERO: a component has become 0 whose absolute tolerance is 0; its index, from 1, is in `fail->errnum`.
+/// - NE_SINGULAR_POINT: an event function, `opt->root_index`, changes its sign through infinity at `t`.
+///
+/// From NE_MAX_STEP on `t` and `y` hold the last point reached, before that they are untouched.
+/// \par Accuracy
+/// As d02qwc(). An event is where the computed solution has it, exact to the rounding of t.
+/// \par Method
+/// Predictor, corrector of one order more and two evaluations (PECE), in modified divided differences, orders 1 to 12: L. F. Shampine and
+/// M. K. Gordon, Computer Solution of Ordinary Differential Equations (1975). Output points and events lie on an interpolant with a
+/// continuous derivative: H. A. Watts and L. F. Shampine, SIAM J. Sci. Stat. Comput. 7 (1986) 334-345.
+/// \par Thread safety
+/// Safe, and reentrant: the functions may themselves integrate, with another record.
+/// \par See also
+/// d02qzc() gives the solution between steps; d02pcc() suits cheap right-hand sides.
+/// \par Example
+/// \code{.c}
+/// static void fcn(Integer neqf, double t, const double y[], double f[], void *comm) { f[0] = y[1]; f[1] = -y[0]; }
+/// static double g(Integer neqf, double t, const double y[], const double yp[], Integer k, void *comm) { return y[0]; }
+/// ...
+/// KorAdamsOptions opt = {0};
+/// double tol = 1e-10, t = 0.0, y[] = {0.0, 1.0};
+/// d02qwc(Kor_NewStart, 2, 0, &tol, &tol, 0, 0, 0.0, 0.0, 0, 1, 0, 0, &opt, &fail);
+/// do
+///     d02qfc(2, fcn, &t, y, 10.0, g, NULL, &opt, &fail);      // stops at pi, 2 pi, 3 pi, and at 10
+/// while (fail.code == 0 && opt.root_found);
+/// d02qyc(&opt);
+/// \endcode
+void d02qfc(Integer neqf, void (*fcn)(Integer neqf, double t, const double y[], double f[], void *comm), double *t,
+            double y[], double tout,
+            double (*g)(Integer neqf, double t, const double y[], const double yp[], Integer k, void *comm), void *comm,
+            KorAdamsOptions *opt, KorError *fail);
+
+/// \brief The solution and its derivative within the last step of d02qfc(), by interpolation.
+///
+/// \param[in]  neqf   number of equations, as at the setup
+/// \param[in]  twant  where the values are wanted
+/// \param[in]  nwant  how many components are wanted, from the first, at least 1 and at most `neqf`
+/// \param[out] ywant  nwant elements: the solution
+/// \param[out] ypwant nwant elements: the derivative
+/// \param[in,out] opt the record of the problem
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_NO_SETUP, NE_SETUP_ERROR: there was no setup, or the last one failed.
+/// - NE_NO_INTEGRATE: d02qfc() has not been called since the setup.
+/// - NE_NEQF: `neqf` differs from the setup.
+/// - NE_NWANT_GT, NE_INT_ARG_LT: `nwant` is out of its range.
+/// - NE_NO_STEPS: no step has been taken yet.
+/// - NW_EXTRAPOLATION: `twant` lies outside the last step. The values are given all the same.
+///
+/// All but the last leave the outputs untouched.
+/// \par Accuracy
+/// Of the order of the local error of the step.
+/// \par Method
+/// As d02qfc().
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02qzc(2, t - 0.5 * opt.hlast, 1, ymid, ypmid, &opt, &fail);   // the first component half a step back
+/// \endcode
+void d02qzc(Integer neqf, double twant, Integer nwant, double ywant[], double ypwant[], KorAdamsOptions *opt,
+            KorError *fail);
+
+/// \brief Frees the memory of an integration by the Adams routines.
+///
+/// Afterwards the record is as if it had never been set up; one that never was is left alone.
+///
+/// \param[in,out] opt the record of the problem
+///
+/// \par Method
+/// The stamps of the record tell whether there is anything to free.
+/// \par Thread safety
+/// Safe; one record belongs to one thread at a time.
+/// \par Example
+/// \code{.c}
+/// d02qyc(&opt);
+/// \endcode
+void d02qyc(KorAdamsOptions *opt);
+
 // Initial values: stiff systems, and drivers for either kind
 
 /// Where the Jacobian of the backward differentiation method comes from: chosen by d02nsc().

@@ -40,6 +40,7 @@ constexpr double kFailureFactor = 0.5;
 constexpr double kHopelessFactor = 0.1; // when the error is not even finite
 constexpr int kRestartAfter = 3;        // failures in a row: the past is of no use any more
 constexpr int kLowOrder = 4;
+constexpr double kStretch = 1.1;
 
 double square(double x) { return x * x; }
 
@@ -299,7 +300,9 @@ AdamsOutcome Adams::step(Derivative f, const Tolerances &tolerances, double t_st
     for (int failures = 0;;) {
         if (hmax > 0.0 && std::fabs(h_) > hmax) h_ = direction_ * hmax;
         t_end_ = t_ + h_;
-        if ((t_end_ - t_stop) * direction_ >= 0.0) {
+        // A little longer rather than a last step of next to nothing.
+        const double reach = hmax > 0.0 ? std::fabs(h_) : kStretch * std::fabs(h_);
+        if (std::isfinite(t_stop) && direction_ * (t_stop - t_) <= reach) {
             t_end_ = t_stop;
             h_ = t_stop - t_;
         }

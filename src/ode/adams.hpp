@@ -57,6 +57,7 @@ class Adams {
     // first step: at its start. Values and derivatives join continuously from step to step.
     void interpolate(double t, Integer nwant, double *y, double *yp);
 
+    std::size_t size() const { return n_; }
     double t() const { return t_; }         // the point reached
     double t_old() const { return t_old_; } // the one before
     const double *y() const { return y_; }
