@@ -44,28 +44,32 @@ static void draw(const char *file_name, const double dark[RINGS])
         printf("%s cannot be written\n", file_name);
         return;
     }
-    fprintf(file, "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 %.0f %.0f' font-family='sans-serif' font-size='11'>\n",
-            width + 280.0, height + 50.0);
+    fprintf(
+        file,
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 %.0f %.0f' font-family='sans-serif' font-size='11'>\n",
+        width + 280.0, height + 50.0);
     fprintf(file, "<rect width='100%%' height='100%%' fill='white'/>\n");
     /* the pattern: discs from the largest to the smallest, brightened so that the rings are seen */
     for (i = 120; i >= 0; --i) {
         const double x = last * i / 120.0;
         const int grey = (int)(255.0 * pow(intensity(x), 0.25));
-        fprintf(file, "<circle cx='%.0f' cy='%.0f' r='%.2f' fill='rgb(%d,%d,%d)'/>\n", width + 160.0, height / 2.0 + 20.0,
-                110.0 * x / last + 1.0, grey, grey, grey);
+        fprintf(file, "<circle cx='%.0f' cy='%.0f' r='%.2f' fill='rgb(%d,%d,%d)'/>\n", width + 160.0,
+                height / 2.0 + 20.0, 110.0 * x / last + 1.0, grey, grey, grey);
     }
     /* intensity in powers of ten, and the light within x */
     for (i = 0; i < RINGS; ++i)
-        fprintf(file, "<line x1='%.2f' y1='20' x2='%.2f' y2='%.0f' stroke='#ccc'/>\n", 40.0 + (width - 40.0) * dark[i] / last,
-                40.0 + (width - 40.0) * dark[i] / last, height + 20.0);
+        fprintf(file, "<line x1='%.2f' y1='20' x2='%.2f' y2='%.0f' stroke='#ccc'/>\n",
+                40.0 + (width - 40.0) * dark[i] / last, 40.0 + (width - 40.0) * dark[i] / last, height + 20.0);
     fprintf(file, "<polyline fill='none' stroke='#1f4e9c' points='");
     for (i = 0; i <= 600; ++i) {
         const double x = last * i / 600.0;
-        fprintf(file, "%.2f,%.2f ", 40.0 + (width - 40.0) * i / 600.0, 20.0 - height / 5.0 * fmax(log10(intensity(x)), -5.0));
+        fprintf(file, "%.2f,%.2f ", 40.0 + (width - 40.0) * i / 600.0,
+                20.0 - height / 5.0 * fmax(log10(intensity(x)), -5.0));
     }
     fprintf(file, "'/>\n<polyline fill='none' stroke='#b03a2e' points='");
     for (i = 0; i <= 600; ++i)
-        fprintf(file, "%.2f,%.2f ", 40.0 + (width - 40.0) * i / 600.0, 20.0 + height * (1.0 - share_within(last * i / 600.0)));
+        fprintf(file, "%.2f,%.2f ", 40.0 + (width - 40.0) * i / 600.0,
+                20.0 + height * (1.0 - share_within(last * i / 600.0)));
     fprintf(file, "'/>\n");
     for (i = 0; i <= 5; ++i) fprintf(file, "<text x='2' y='%.0f'>1e-%d</text>\n", 24.0 + height / 5.0 * i, i);
     fprintf(file,
@@ -80,7 +84,11 @@ int main(int argc, char **argv)
     static const struct {
         const char *name;
         double diameter; /* metres */
-    } instruments[] = {{"eye by night", 0.006}, {"binoculars", 0.05}, {"amateur's telescope", 0.2}, {"Hubble Space Telescope", 2.4}, {"Keck", 10.0}};
+    } instruments[] = {{"eye by night", 0.006},
+                       {"binoculars", 0.05},
+                       {"amateur's telescope", 0.2},
+                       {"Hubble Space Telescope", 2.4},
+                       {"Keck", 10.0}};
     static const struct {
         const char *name;
         double separation; /* seconds of arc */
@@ -98,7 +106,8 @@ int main(int argc, char **argv)
     printf("          dark ring               bright ring\n");
     printf("  x                light within   x          intensity\n");
     for (i = 0; i < RINGS; ++i)
-        printf("%17.14f  %8.5f %%   %17.14f  %.7f\n", dark[i], 100.0 * share_within(dark[i]), bright[i], intensity(bright[i]));
+        printf("%17.14f  %8.5f %%   %17.14f  %.7f\n", dark[i], 100.0 * share_within(dark[i]), bright[i],
+               intensity(bright[i]));
 
     printf("\nAt %.0f nm, seconds of arc that are told apart:\n", lambda * 1e9);
     for (i = 0; i < (int)(sizeof instruments / sizeof *instruments); ++i) {

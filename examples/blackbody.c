@@ -26,17 +26,21 @@ int main(void)
     const struct {
         const char *name;
         double from, to; /* nanometres */
-    } bands[] = {{"ultraviolet B, C", 100.0, 315.0}, {"ultraviolet A", 315.0, 400.0}, {"visible", 400.0, 750.0}, {"near infrared", 750.0, 2500.0}};
+    } bands[] = {{"ultraviolet B, C", 100.0, 315.0},
+                 {"ultraviolet A", 315.0, 400.0},
+                 {"visible", 400.0, 750.0},
+                 {"near infrared", 750.0, 2500.0}};
     double sum = 0.0, result, abserr;
     KorQuadRecord record;
     KorError fail = {0};
     int i, digits;
 
     for (i = 0; i < 4; ++i) {
-        d01ajc(planck, scale / (bands[i].to * 1e-9), scale / (bands[i].from * 1e-9), 0.0, 1e-12, 200, &result, &abserr, &record, &fail);
+        d01ajc(planck, scale / (bands[i].to * 1e-9), scale / (bands[i].from * 1e-9), 0.0, 1e-12, 200, &result, &abserr,
+               &record, &fail);
         if (fail.code != NE_NOERROR) puts(fail.message);
-        printf("%-18s %5.0f to %5.0f nm  %9.6f %%  (%d evaluations)\n", bands[i].name, bands[i].from, bands[i].to, 100.0 * result / total,
-               record.eval_count);
+        printf("%-18s %5.0f to %5.0f nm  %9.6f %%  (%d evaluations)\n", bands[i].name, bands[i].from, bands[i].to,
+               100.0 * result / total, record.eval_count);
         sum += result;
         release(&record);
     }

@@ -57,8 +57,8 @@ int main(void)
         for (i = 0; i < 5; ++i) y[i] = log(guess[i]);
         c05tbc(5, balance, y, f, 1e-12, &m, &fail);
         for (i = 0; i < 5; ++i) norm = fmax(norm, fabs(f[i]));
-        printf("%11.1f  %17.10f %13.8f %16.10f %15.10f %12.8f   %s\n", ratio, exp(y[0]),
-               exp(y[1]), exp(y[2]), exp(y[3]), exp(y[4]),               norm < 1e-11 ? "< 1e-11" : "large");
+        printf("%11.1f  %17.10f %13.8f %16.10f %15.10f %12.8f   %s\n", ratio, exp(y[0]), exp(y[1]), exp(y[2]),
+               exp(y[3]), exp(y[4]), norm < 1e-11 ? "< 1e-11" : "large");
         if (fail.code != NE_NOERROR) {
             printf("%s\n", fail.message);
             return 1;
