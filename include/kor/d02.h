@@ -396,7 +396,7 @@ typedef struct {
 /// \param[in]  neqg    number of event functions; below 1: none
 /// \param[in]  alter_g true: the event functions may have changed since the last call; then `neqg` may change, too
 /// \param[in]  sophist true: the search also finds events in pairs within one step, and points where a function touches zero, at
-///                     the cost of at least five more evaluations of each function in a step; false: changes of sign from step to step
+///                     the cost of at least six more evaluations of each function in a step; false: changes of sign from step to step
 /// \param[in,out] opt  the record, to be freed by d02qyc()
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///

@@ -31,6 +31,7 @@ Advance AdamsIntegration::advance(Derivative f, const Tolerances &tolerances, co
     const auto solution = [&](double at, double *y, double *yp) {
         adams.interpolate(at, static_cast<Integer>(adams.size()), y, yp);
     };
+    bool looks_stiff = false;
     for (Integer steps = 0;;) {
         // What the steps have covered already comes first.
         if (const Event first = events.next(g, solution); first.index >= 0 && reaches(limits.tout, first.t)) {
@@ -48,8 +49,7 @@ Advance AdamsIntegration::advance(Derivative f, const Tolerances &tolerances, co
         t = adams.t();
         events.pass();
         if (limits.one_step && moved) return Advance::at_step;
-        if (steps == limits.max_steps)
-            return adams.low_order_steps() >= kStiffRun ? Advance::stiff : Advance::too_many_steps;
+        if (steps == limits.max_steps) return looks_stiff ? Advance::stiff : Advance::too_many_steps;
 
         switch (adams.step(f, tolerances, limits.t_stop, limits.hmax)) {
         case AdamsOutcome::taken:
@@ -60,6 +60,7 @@ Advance AdamsIntegration::advance(Derivative f, const Tolerances &tolerances, co
             return Advance::zero_weight;
         }
         ++steps;
+        looks_stiff |= adams.low_order_steps() >= kStiffRun;
         events.examine(adams.t(), adams.y(), adams.yp(), g);
     }
 }

@@ -13,7 +13,7 @@ enum class Advance {
     too_many_steps,
     too_accurate, // Adams::tolerance_factor() tells by how much
     zero_weight,  // Adams::bad_component() tells where
-    stiff,        // too many steps, the last fifty of low order
+    stiff,        // too many steps, fifty of them in a row of low order
     singular,     // an event function changes its sign through infinity at t
 };
 

@@ -11,8 +11,8 @@ namespace kor::ode {
 
 namespace {
 
-// Where a thorough search looks into a step. The outer points catch what turns back close to the ends.
-constexpr double kSamples[] = {0.0625, 0.25, 0.5, 0.75, 0.9375};
+// Where a thorough search looks into a step. The outermost points tell whether a function turns back close to an end.
+constexpr double kSamples[] = {0x1p-10, 0.125, 0.375, 0.625, 0.875, 1.0 - 0x1p-10};
 constexpr int kMaxZeroSteps = 300; // bisections of a bracket of doubles need no more
 constexpr int kMaxMinimumSteps = 100;
 constexpr double kSingularGrowth = 10.0; // a function that has grown so much at its change of sign has a pole there
@@ -136,6 +136,7 @@ void EventSearch::locate(Integer k, Sample before, Sample after, EventFunction g
     EventState &state = states_[k];
     const double largest_outside = std::max(std::fabs(before.value), std::fabs(after.value));
     const double start = before.t, length = after.t - before.t;
+    const Integer sign_behind = sign_of(after.value);
 
     double x = 1.0, fx = after.value, y = 0.0, c[roots::kZeroStateSize];
     c[0] = before.value;
@@ -151,9 +152,8 @@ void EventSearch::locate(Integer k, Sample before, Sample after, EventFunction g
     state.found = true;
     state.root = after.t;
     state.root_value = after.value;
-    state.root_sign = sign_of(after.value);
-    // A zero that was met exactly: the function goes on to the sign that it has not had, if it does change it.
-    if (state.root_sign == 0 && sign_of(state.end_value) != 0) state.root_sign = sign_of(state.end_value);
+    // A zero that was met exactly has no sign: the function has the one behind it, if that is known.
+    state.root_sign = after.value != 0.0 ? sign_of(after.value) : sign_behind;
     state.singular = std::min(std::fabs(before.value), std::fabs(after.value)) > kSingularGrowth * largest_outside;
 }
 
