@@ -788,6 +788,241 @@ double d02zac(Integer neq, const double v[], const double w[], Integer *status);
 
 // Boundary values
 
+/// \brief Solves a nonlinear two-point boundary value problem with known values at both ends.
+///
+/// Finds y on [a, b] with y' = f(x, y), where some components of y are known at a and some at b, `neq` values in all.
+///
+/// \param[in]  neq  number of equations, at least 2: some value must be known at either end
+/// \param[in]  fcn  puts the slopes f(x, y), `neq` values, into `f`; called on this thread, with x in [a, b]
+/// \param[in]  a    left end of the range
+/// \param[in]  b    right end, greater than `a`
+/// \param[in]  u    `neq` by 2, row-major: the values of component i at a in `u[2 * i]` and at b in `u[2 * i + 1]`, known or
+///                  estimated; a straight line between them is the first approximation
+/// \param[in]  v    `neq` by 2, row-major: 0 where the element of `u` is known, 1 where it is estimated
+/// \param[in]  tol  accuracy wanted of y, absolute, greater than 0
+/// \param[in]  mnp  most points that a mesh may have, at least 32
+/// \param[in,out] np points of the mesh: 0 for an equally spaced mesh to begin with, else 4 to `mnp` points that are given in `x`;
+///                  on exit those of the final mesh
+/// \param[in,out] x `mnp` elements: with `np` > 0 the mesh to begin with, strictly increasing from `a` to `b`; on exit the final
+///                  mesh
+/// \param[out] y    `neq` by `mnp`, row-major: component i at point j in `y[i * tdy + j]`
+/// \param[in]  tdy  trailing dimension of `y`, at least `mnp`
+/// \param[in]  comm passed to fcn as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `neq` is less than 1, or `mnp` less than 32.
+/// - NE_REAL_ARG_LE: `tol` is not greater than 0.
+/// - NE_2_REAL_ARG_LE: `b` is not greater than `a`.
+/// - NE_INT_RANGE_CONS_2: `np` is neither 0 nor in 4 to `mnp`.
+/// - NE_2_INT_ARG_LT: `tdy` is less than `mnp`.
+/// - NE_LF_B_VAL, NE_RT_B_VAL: all components or more are known at one end.
+/// - NE_LFRT_B_VAL: the known values are not `neq` in all.
+/// - NE_LF_B_MESH, NE_RT_B_MESH: the given mesh does not begin at `a`, or not end at `b`.
+/// - NE_NOT_STRICTLY_INCREASING: the given mesh is not strictly increasing.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (5 neq + 10) doubles.
+/// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
+/// - NE_CONV_MESH_INIT: the Newton iteration has failed on every mesh: give better estimates, or use d02rac() with continuation.
+/// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
+/// - NE_CONV_JACOBG: the boundary conditions depend on each other; cannot happen here.
+///
+/// All but NE_CONV_MESH and NE_CONV_ROUNDOFF leave `np`, `x` and `y` untouched.
+/// \par Accuracy
+/// Estimates of the error are at most `tol` in every component at every point of the mesh, absolutely. They are those of the
+/// solution of order six; what is returned is of order eight and as a rule far better.
+/// \par Method
+/// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
+/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
+/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
+/// 13 (1992) 742-764).
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// d02gbc() for linear equations; d02rac() for other conditions, Jacobians and continuation.
+/// \par Example
+/// \code{.c}
+/// static void bratu(Integer neq, double x, const double y[], double f[], void *comm)
+/// {
+///     f[0] = y[1];
+///     f[1] = -exp(y[0]);
+/// }
+/// ...
+/// double u[4] = {0.0, 0.0, 0.5, -0.5}, x[64], y[2 * 64];
+/// Integer v[4] = {0, 0, 1, 1}, np = 0;
+/// d02gac(2, bratu, 0.0, 1.0, u, v, 1e-8, 64, &np, x, y, 64, NULL, &fail);   // y[64] = y'(0) = 0.549353
+/// \endcode
+void d02gac(Integer neq, void (*fcn)(Integer neq, double x, const double y[], double f[], void *comm), double a,
+            double b, const double u[], const Integer v[], double tol, Integer mnp, Integer *np, double x[], double y[],
+            Integer tdy, void *comm, KorError *fail);
+
+/// \brief Solves a linear two-point boundary value problem with general conditions.
+///
+/// Finds y on [a, b] with y' = F(x) y + g(x) and C y(a) + D y(b) = gamma.
+///
+/// \param[in]  neq  number of equations, at least 1
+/// \param[in]  fcnf puts F(x) into `f`, element (i, j) in `f[i * neq + j]`; it comes filled with zeros
+/// \param[in]  fcng puts g(x), `neq` values, into `g`, which comes filled with zeros; null when g is zero
+/// \param[in]  a    left end of the range
+/// \param[in]  b    right end, greater than `a`
+/// \param[in,out] c `neq` by `neq`, row-major: C; on exit its rows are reordered, those of conditions at the left end alone first,
+///                  those of conditions at the right end alone last
+/// \param[in,out] d `neq` by `neq`, row-major: D; on exit in the same order
+/// \param[in,out] gamma `neq` elements: the right-hand side; on exit in the same order
+/// \param[in]  tol  accuracy wanted of y, absolute, greater than 0
+/// \param[in]  mnp  most points that a mesh may have, at least 32
+/// \param[in,out] np points of the mesh: 0 for an equally spaced mesh to begin with, else 4 to `mnp` points that are given in `x`;
+///                  on exit those of the final mesh
+/// \param[in,out] x `mnp` elements: with `np` > 0 the mesh to begin with, strictly increasing from `a` to `b`; on exit the final
+///                  mesh
+/// \param[out] y    `neq` by `mnp`, row-major: component i at point j in `y[i * tdy + j]`
+/// \param[in]  tdy  trailing dimension of `y`, at least `mnp`
+/// \param[in]  comm passed to the functions as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `neq` is less than 1, or `mnp` less than 32.
+/// - NE_REAL_ARG_LE: `tol` is not greater than 0.
+/// - NE_2_REAL_ARG_LE: `b` is not greater than `a`.
+/// - NE_INT_RANGE_CONS_2: `np` is neither 0 nor in 4 to `mnp`.
+/// - NE_2_INT_ARG_LT: `tdy` is less than `mnp`.
+/// - NE_LF_B_MESH, NE_RT_B_MESH: the given mesh does not begin at `a`, or not end at `b`.
+/// - NE_NOT_STRICTLY_INCREASING: the given mesh is not strictly increasing.
+/// - NE_BOUND_COND_ROW: a row of [C, D] is zero; the message tells which, counted from 0.
+/// - NE_BOUND_COND_COL: more than `neq` columns of [C, D] are zero.
+/// - NE_BOUND_COND_MAT: C or D is zero: this is an initial value problem.
+/// - NE_BOUND_COND_LC, NE_BOUND_COND_NLC: a row of [C, D] depends linearly on those before it, exactly or to working accuracy.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (7 neq + 10) doubles.
+/// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
+/// - NE_CONV_MESH_INIT: the linear equations are singular on every mesh: the problem has no solution, or many.
+/// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
+/// - NE_CONV_JACOBG: the boundary conditions depend on each other in a way that the tests above have let pass.
+///
+/// All but NE_CONV_MESH and NE_CONV_ROUNDOFF leave `np`, `x` and `y` untouched; all before NE_CONV_MESH leave everything untouched.
+/// \par Accuracy
+/// Estimates of the error are at most `tol` in every component at every point of the mesh, absolutely. They are those of the
+/// solution of order six; what is returned is of order eight and as a rule far better.
+/// \par Method
+/// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
+/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
+/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
+/// 13 (1992) 742-764).
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// d02gac(), d02rac() for nonlinear problems.
+/// \par Example
+/// \code{.c}
+/// static void layer(Integer neq, double x, double f[], void *comm)   // eps y'' + y' = 0
+/// {
+///     f[1] = 1.0;
+///     f[3] = -1.0 / *(double *)comm;
+/// }
+/// ...
+/// double c[4] = {1, 0, 0, 0}, d[4] = {0, 0, 1, 0}, gamma[2] = {0, 1}, x[100], y[2 * 100], eps = 0.01;
+/// Integer np = 0;
+/// d02gbc(2, layer, NULL, 0.0, 1.0, c, d, gamma, 1e-6, 100, &np, x, y, 100, &eps, &fail);
+/// \endcode
+void d02gbc(Integer neq, void (*fcnf)(Integer neq, double x, double f[], void *comm),
+            void (*fcng)(Integer neq, double x, double g[], void *comm), double a, double b, double c[], double d[],
+            double gamma[], double tol, Integer mnp, Integer *np, double x[], double y[], Integer tdy, void *comm,
+            KorError *fail);
+
+/// \brief Solves a nonlinear two-point boundary value problem with general conditions, by continuation where it is hard.
+///
+/// Finds y on [a, b] with y' = f(x, y, eps) and `neq` conditions g(y(a), y(b), eps) = 0, for eps = 1. With continuation the
+/// problem is solved for eps = 0 first, which ought to be easy, and followed from there.
+///
+/// \param[in]  neq  number of equations, at least 1
+/// \param[in,out] deleps greater than 0: continuation from eps = 0 with steps that begin with `deleps`; on exit the last step.
+///                  0 or less: eps is 1 throughout
+/// \param[in]  fcn  puts the slopes f(x, y, eps), `neq` values, into `f`; called on this thread, with x in [a, b]
+/// \param[in]  numbeg number of conditions on y(a) alone, 0 to neq - 1
+/// \param[in]  nummix number of conditions on both ends, 0 to neq - numbeg; not 0 when `numbeg` is
+/// \param[in]  g    puts the `neq` values that should vanish into `bc`: first the `numbeg` that depend on y(a) alone, then the
+///                  `nummix`, then those that depend on y(b) alone
+/// \param[in]  init Kor_UserInitMesh: `x` and `y` hold the mesh and the approximation to begin with; Kor_DefInitMesh: equally spaced
+///                  points between `x[0]` and `x[np - 1]`, and y = 0
+/// \param[in]  mnp  most points that a mesh may have, at least 32
+/// \param[in,out] np points of the mesh to begin with, 4 to `mnp`; on exit those of the final mesh
+/// \param[in,out] x `mnp` elements: `x[0]` is a and `x[np - 1]` is b, and between them with Kor_UserInitMesh a strictly increasing
+///                  mesh; on exit the final mesh
+/// \param[in,out] y `neq` by `mnp`, row-major, component i at point j in `y[i * tdy + j]`: with Kor_UserInitMesh the approximation
+///                  to begin with; on exit the solution
+/// \param[in]  tdy  trailing dimension of `y`, at least `mnp`
+/// \param[out] errest `neq` elements: the greatest estimated error of each component over the mesh, absolute
+/// \param[in]  tol  accuracy wanted of y, absolute, greater than 0
+/// \param[in]  jacobf puts the Jacobian df_i/dy_j into `f[i * neq + j]`, which comes filled with zeros; null for differences
+/// \param[in]  jacobg puts the Jacobians of the conditions, dbc_i/dy_j(a) into `jya[i * neq + j]` and dbc_i/dy_j(b) into
+///                  `jyb[i * neq + j]`, which come filled with zeros; null exactly if `jacobf` is
+/// \param[in]  jaceps puts df_i/deps into `f`, `neq` values that come as zeros; given exactly if Jacobians and continuation are
+/// \param[in]  jacgep puts dbc_i/deps into `bceps`, `neq` values that come as zeros; given exactly if `jaceps` is
+/// \param[in]  comm passed to the functions as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `neq` is less than 1, or `mnp` less than 32.
+/// - NE_REAL_ARG_LE: `tol` is not greater than 0.
+/// - NE_INT_RANGE_CONS: `np`, `numbeg` or `nummix` is out of its range.
+/// - NE_2_INT_ARG_LT: `tdy` is less than `mnp`.
+/// - NE_2_INT_ARG_ZERO: `numbeg` and `nummix` are both 0.
+/// - NE_BAD_PARAM: `init` is neither of its two values.
+/// - NE_2_REAL_ARG_LE: `x[np - 1]` is not greater than `x[0]`.
+/// - NE_NOT_STRICTLY_INCREASING: the given mesh is not strictly increasing.
+/// - NE_INVALID_FUN_JAC: one of `jacobf` and `jacobg` is null and the other is not.
+/// - NE_INVALID_FUN_NO_JAC_CONT, NE_INVALID_FUN_JAC_NO_CONT, NE_INVALID_FUN_JAC_CONT: `jaceps` and `jacgep` do not fit.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (7 neq + 10) doubles.
+/// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
+/// - NE_CONV_MESH_INIT: the Newton iteration has failed on every mesh, with continuation for eps = 0.
+/// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
+/// - NE_CONV_CONT: the Newton iteration fails on the mesh of a value of eps that was reached.
+/// - NE_CONV_JACOBG: the Jacobian of the conditions is singular.
+/// - NE_CONV_CONT_DEP: nothing depends on eps.
+/// - NE_CONV_CONT_DELEPS: no step of eps is small enough: the solutions do not go on; `deleps` holds the last one.
+///
+/// After NE_CONV_MESH and NE_CONV_ROUNDOFF the best solution is returned, after NE_CONV_CONT and NE_CONV_CONT_DELEPS that for the last
+/// eps that was reached; all others leave `np`, `x` and `y` untouched.
+/// \par Accuracy
+/// Estimates of the error are at most `tol` in every component at every point of the mesh, absolutely. They are those of the
+/// solution of order six; what is returned is of order eight and as a rule far better.
+/// \par Method
+/// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
+/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
+/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
+/// 13 (1992) 742-764).
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// d02gac(), d02gbc() for simpler conditions.
+/// \par Example
+/// \code{.c}
+/// static void troesch(Integer neq, double x, double eps, const double y[], double f[], void *comm)
+/// {
+///     f[0] = y[1];
+///     f[1] = 10.0 * eps * sinh(10.0 * eps * y[0]);
+/// }
+/// static void ends(Integer neq, double eps, const double ya[], const double yb[], double bc[], void *comm)
+/// {
+///     bc[0] = ya[0];
+///     bc[1] = yb[0] - 1.0;
+/// }
+/// ...
+/// double deleps = 0.1, x[300] = {0.0}, y[2 * 300], errest[2];
+/// Integer np = 17;
+/// x[16] = 1.0;
+/// d02rac(2, &deleps, troesch, 1, 0, ends, Kor_DefInitMesh, 300, &np, x, y, 300, errest, 1e-8, NULL, NULL, NULL, NULL, NULL, &fail);
+/// \endcode
+void d02rac(Integer neq, double *deleps,
+            void (*fcn)(Integer neq, double x, double eps, const double y[], double f[], void *comm), Integer numbeg,
+            Integer nummix,
+            void (*g)(Integer neq, double eps, const double ya[], const double yb[], double bc[], void *comm),
+            Integer init, Integer mnp, Integer *np, double x[], double y[], Integer tdy, double errest[], double tol,
+            void (*jacobf)(Integer neq, double x, double eps, const double y[], double f[], void *comm),
+            void (*jacobg)(Integer neq, double eps, const double ya[], const double yb[], double jya[], double jyb[],
+                           void *comm),
+            void (*jaceps)(Integer neq, double x, double eps, const double y[], double f[], void *comm),
+            void (*jacgep)(Integer neq, double eps, const double ya[], const double yb[], double bceps[], void *comm),
+            void *comm, KorError *fail);
+
 KOR_END_DECLS
 
 #endif

@@ -1,0 +1,694 @@
+// Boundary value problems by deferred correction.
+#include "ode/deferred_correction.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+#include "frame/constants.hpp"
+#include "ode/interval_tables.hpp"
+
+namespace kor::ode {
+
+namespace {
+
+constexpr int kNewtonLimit = 60;
+constexpr int kContinuationNewton = 12; // steps of the Newton iteration at a new value of eps
+constexpr double kLeastDamping = 1e-6;
+constexpr double kKeepFactors = 0.1; // contraction at which the old factors go on
+constexpr int kMeshes = 60;
+constexpr Integer kFullMeshes = 12;     // meshes with as many points as are allowed
+constexpr Integer kRoughFullMeshes = 3; // the same while the error estimate is not to be trusted
+constexpr double kNewtonPart = 0.01;    // of the tolerance: what the Newton iteration may leave
+constexpr double kSafety = 0.2;         // of the tolerance: what a new mesh aims at
+constexpr Integer kMostParts = 8;       // of an interval, in one go
+constexpr Integer kMostRoughParts = 4;  // while the error estimate is not to be trusted
+constexpr double kRounding = 1e3 * kPrecision;
+constexpr int kContinuationSteps = 2000;
+constexpr double kCrude = 1e-3; // relative accuracy on the way to eps = 1
+constexpr double kParameterDifference = 1e-6;
+// The path from mild slopes to the true ones: where it begins, and its first step in the logarithm.
+constexpr double kMildStiffness = 5.0;
+constexpr double kLeastStrength = 1e-12, kMostStrength = 0.1;
+constexpr double kFirstStrengthening = 1.0;
+constexpr double kMostStrengthening = 2.0, kLeastStrengthening = 0.02;
+
+// Simpson's equations on an interval of length h, at its middle.
+double middle_value(double h, double y0, double y1, double f0, double f1)
+{
+    return 0.5 * (y0 + y1) + 0.125 * h * (f0 - f1);
+}
+
+// The cubic through values and slopes at both ends, at the part u of the interval.
+double cubic(double u, double h, double y0, double y1, double f0, double f1)
+{
+    const double v = 1.0 - u;
+    return v * v * (1.0 + 2.0 * u) * y0 + u * u * (1.0 + 2.0 * v) * y1 + h * u * v * (v * f0 - u * f1);
+}
+
+} // namespace
+
+bool BoundarySolver::allocate(const BoundaryProblem &problem, Integer mnp)
+{
+    problem_ = &problem;
+    n_ = problem.n;
+    mnp_ = mnp;
+    const Count points{mnp}, n{n_}, vectors = points * n;
+    constexpr int kLongVectors = 13, kMeshVectors = 7, kShortVectors = 4 + kNodes * 2, kMatrices = 9;
+    if (!block_.allocate(vectors * kLongVectors + points * kMeshVectors + n * kShortVectors + n * n * kMatrices) ||
+        !parts_.allocate(points) || !system_.allocate(n_, problem.left, problem.mixed, mnp))
+        return false;
+    double *next = block_.data();
+    const auto take = [&next](Count size) {
+        double *mine = next;
+        next += size.value();
+        return mine;
+    };
+    for (double **v : {&y_, &f_, &middle_, &rows_, &delta_, &bar_, &trial_, &new_y_, &kept_y_, &tangent_, &first_y_,
+                       &best_y_, &good_y_})
+        *v = take(vectors);
+    for (double **v : {&x_, &new_x_, &kept_x_, &defects_, &first_x_, &best_x_, &good_x_}) *v = take(points);
+    for (double **v : {&conditions_, &scales_, &errors_, &shifted_}) *v = take(n);
+    nodes_ = take(n * kNodes * 2);
+    for (double **v : {&at_left_, &at_right_, &left_, &right_, &mid_, &a_, &b_}) *v = take(n * n);
+    std::fill_n(errors_, n_, 0.0);
+    return true;
+}
+
+// ---- Equations ----
+
+void BoundarySolver::slope(double x, const double *y, double *f)
+{
+    problem_->slope(x, eps_, y, f);
+    if (strength_ != 1.0)
+        for (Integer c = 0; c < n_; ++c) f[c] *= strength_;
+}
+
+// Minus the defects of y in the equations of an order, into rows_ and conditions_. False when something is not finite.
+bool BoundarySolver::residual(Order order, const double *y)
+{
+    const std::ptrdiff_t n = n_;
+    for (Integer i = 0; i <= intervals_; ++i) slope(x_[i], y + n * i, f_ + n * i);
+    double total = 0.0;
+    for (Integer i = 0; i < intervals_; ++i) {
+        const double h = x_[i + 1] - x_[i];
+        const double *y0 = y + n * i, *y1 = y0 + n, *f0 = f_ + n * i, *f1 = f0 + n;
+        double *row = rows_ + n * i;
+        if (order == Order::four) {
+            double *f = middle_ + n * i;
+            for (Integer c = 0; c < n_; ++c) shifted_[c] = middle_value(h, y0[c], y1[c], f0[c], f1[c]);
+            slope(x_[i] + 0.5 * h, shifted_, f);
+            for (Integer c = 0; c < n_; ++c) row[c] = h / 6.0 * (f0[c] + 4.0 * f[c] + f1[c]) - (y1[c] - y0[c]);
+        } else {
+            // Slopes at the nodes, first on the cubic, then on what the integral of the slopes makes of it.
+            double *slopes = nodes_, *values = nodes_ + n * kNodes;
+            std::copy_n(f0, n_, slopes);
+            std::copy_n(f1, n_, slopes + n * (kNodes - 1));
+            for (int sweep = 0; sweep <= static_cast<int>(order); ++sweep) {
+                for (int k = 1; k < kNodes - 1; ++k)
+                    for (Integer c = 0; c < n_; ++c) {
+                        double &value = values[n * k + c];
+                        if (sweep == 0) {
+                            value = cubic(kNode[k], h, y0[c], y1[c], f0[c], f1[c]);
+                            continue;
+                        }
+                        double sum = 0.0;
+                        for (int j = 0; j < kNodes; ++j) sum += kFromMean[k - 1][j] * slopes[n * j + c];
+                        value = 0.5 * (y0[c] + y1[c]) + h * sum;
+                    }
+                for (int k = 1; k < kNodes - 1; ++k) slope(x_[i] + h * kNode[k], values + n * k, slopes + n * k);
+            }
+            for (Integer c = 0; c < n_; ++c) {
+                double sum = 0.0;
+                for (int j = 0; j < kNodes; ++j) sum += kRule[j] * slopes[n * j + c];
+                row[c] = h * sum - (y1[c] - y0[c]);
+            }
+        }
+        for (Integer c = 0; c < n_; ++c) total += std::fabs(row[c]);
+    }
+    problem_->conditions(eps_, y, y + n * intervals_, conditions_);
+    for (Integer c = 0; c < n_; ++c) {
+        conditions_[c] = -conditions_[c];
+        total += std::fabs(conditions_[c]);
+    }
+    return total <= kLargest;
+}
+
+// By differences unless the caller has it; f is the slope at (x, y).
+void BoundarySolver::jacobian(double x, const double *y, const double *f, double *j)
+{
+    const std::ptrdiff_t n = n_;
+    if (problem_->jacobian != nullptr) {
+        std::fill_n(j, n * n, 0.0);
+        (*problem_->jacobian)(x, eps_, y, j);
+        if (strength_ != 1.0)
+            for (std::ptrdiff_t i = 0; i < n * n; ++i) j[i] *= strength_;
+        return;
+    }
+    double *point = nodes_, *shifted = nodes_ + n;
+    std::copy_n(y, n_, point);
+    for (Integer c = 0; c < n_; ++c) {
+        const double step = std::sqrt(kPrecision) * std::max(std::fabs(y[c]), 0.01 * scales_[c]);
+        point[c] = y[c] + step;
+        slope(x, point, shifted);
+        for (Integer r = 0; r < n_; ++r) j[n * r + c] = (shifted[r] - f[r]) / (point[c] - y[c]);
+        point[c] = y[c];
+    }
+}
+
+void BoundarySolver::conditions_jacobian()
+{
+    const std::ptrdiff_t n = n_;
+    std::fill_n(at_left_, n * n, 0.0);
+    std::fill_n(at_right_, n * n, 0.0);
+    double *ends[2] = {y_, y_ + n * intervals_};
+    if (problem_->conditions_jacobian != nullptr)
+        return (*problem_->conditions_jacobian)(eps_, ends[0], ends[1], at_left_, at_right_);
+    double *base = nodes_, *value = nodes_ + n;
+    problem_->conditions(eps_, ends[0], ends[1], base);
+    for (int end = 0; end < 2; ++end)
+        for (Integer c = 0; c < n_; ++c) {
+            double &component = ends[end][c];
+            const double old = component;
+            component = old + std::sqrt(kPrecision) * std::max(std::fabs(old), 0.01 * scales_[c]);
+            const double step = component - old;
+            problem_->conditions(eps_, ends[0], ends[1], value);
+            component = old;
+            for (Integer r = 0; r < n_; ++r) (end == 0 ? at_left_ : at_right_)[n * r + c] = (value[r] - base[r]) / step;
+        }
+}
+
+// The linear system at y_, whose slopes are in f_ and middle_.
+bool BoundarySolver::factor()
+{
+    const std::ptrdiff_t n = n_;
+    find_scales();
+    conditions_jacobian();
+    if (!rows_are_independent(n_, at_left_, at_right_, a_ /* and b_, and two more */)) {
+        conditions_singular_ = true;
+        return false;
+    }
+    system_.begin(intervals_, at_left_, at_right_);
+    jacobian(x_[0], y_, f_, left_);
+    for (Integer i = 0; i < intervals_; ++i) {
+        const double h = x_[i + 1] - x_[i];
+        const double *y0 = y_ + n * i, *y1 = y0 + n, *f0 = f_ + n * i, *f1 = f0 + n;
+        jacobian(x_[i + 1], y1, f1, right_);
+        double *middle = nodes_ + n * 2;
+        for (Integer c = 0; c < n_; ++c) middle[c] = middle_value(h, y0[c], y1[c], f0[c], f1[c]);
+        jacobian(x_[i] + 0.5 * h, middle, middle_ + n * i, mid_);
+        for (Integer r = 0; r < n_; ++r)
+            for (Integer c = 0; c < n_; ++c) {
+                double left = 0.0, right = 0.0;
+                for (Integer k = 0; k < n_; ++k) {
+                    left += mid_[n * r + k] * left_[n * k + c];
+                    right += mid_[n * r + k] * right_[n * k + c];
+                }
+                const double one = r == c ? 1.0 : 0.0, mid = 2.0 * mid_[n * r + c];
+                a_[n * r + c] = -one - h / 6.0 * (left_[n * r + c] + mid + 0.5 * h * left);
+                b_[n * r + c] = one - h / 6.0 * (right_[n * r + c] + mid - 0.5 * h * right);
+            }
+        system_.add(a_, b_);
+        std::swap(left_, right_);
+    }
+    return system_.finish();
+}
+
+// ---- The Newton iteration ----
+
+void BoundarySolver::find_scales()
+{
+    for (Integer c = 0; c < n_; ++c) {
+        double greatest = 0.0;
+        for (Integer i = 0; i <= intervals_; ++i) greatest = std::max(greatest, std::fabs(y(i)[c]));
+        scales_[c] = greatest > 0.0 ? greatest : 1.0;
+    }
+}
+
+double BoundarySolver::norm(const double *delta) const
+{
+    double sum = 0.0;
+    for (Integer i = 0; i <= intervals_; ++i)
+        for (Integer c = 0; c < n_; ++c) {
+            const double q = delta[std::ptrdiff_t{n_} * i + c] / scales_[c];
+            sum += q * q;
+        }
+    return std::sqrt(sum / (static_cast<double>(n_) * (intervals_ + 1)));
+}
+
+bool BoundarySolver::negligible(const double *delta, double tol) const
+{
+    for (std::ptrdiff_t i = 0; i < size(); ++i)
+        if (!(std::fabs(delta[i]) <= kNewtonPart * tol + 16.0 * kPrecision * scales_[i % n_])) return false;
+    return true;
+}
+
+// Solves Simpson's equations from y_. On failure y_ is of no use.
+bool BoundarySolver::newton(double tol, int limit)
+{
+    if (!residual(Order::four, y_)) return false;
+    double damping = 1.0;
+    for (int iteration = 0; iteration < limit; ++iteration) {
+        if (!factor()) return false;
+        system_.solve(conditions_, rows_, delta_);
+        double length = norm(delta_);
+        if (!std::isfinite(length)) return false;
+        if (negligible(delta_, tol)) {
+            for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] += delta_[i];
+            return residual(Order::four, y_);
+        }
+        bool first = true; // the correction belongs to the factors
+        for (;;) {
+            for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] = y_[i] + damping * delta_[i];
+            double next = HUGE_VAL, bend = HUGE_VAL;
+            if (residual(Order::four, trial_)) {
+                system_.solve(conditions_, rows_, bar_);
+                next = norm(bar_);
+                for (std::ptrdiff_t i = 0; i < size(); ++i) new_y_[i] = bar_[i] - (1.0 - damping) * delta_[i];
+                bend = norm(new_y_);
+            }
+            const double best = std::isfinite(bend) && bend > 0.0 ? 0.5 * length * damping * damping / bend : 1.0;
+            if (next <= (1.0 - 0.25 * damping) * length) {
+                std::copy_n(trial_, size(), y_);
+                if (damping == 1.0 && negligible(bar_, tol)) {
+                    for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] += bar_[i];
+                    return residual(Order::four, y_);
+                }
+                if (damping == 1.0 && next <= kKeepFactors * length) {
+                    std::swap(delta_, bar_);
+                    length = next;
+                    first = false;
+                    continue;
+                }
+                damping = best >= 0.7 ? 1.0 : std::max(best, damping);
+                break;
+            }
+            // Corrections that are all rounding errors contract no more.
+            if (damping == 1.0 && length <= 1e-11) return residual(Order::four, y_);
+            if (!first) {
+                if (!residual(Order::four, y_)) return false;
+                break;
+            }
+            damping = std::isfinite(bend) ? std::clamp(best, 0.1 * damping, 0.5 * damping) : 0.25 * damping;
+            if (damping < kLeastDamping) return false;
+        }
+    }
+    return false;
+}
+
+// ---- Deferred correction ----
+
+// From the solution of the equations of order four to that of order eight, with errors_; the defects of the best order whose
+// meaning is clear stay in defects_. False while the mesh is too coarse for corrections to converge.
+bool BoundarySolver::correct(double tol)
+{
+    std::copy_n(y_, size(), trial_);
+    if (!residual(Order::six, trial_)) {
+        std::fill_n(defects_, intervals_, 1.0);
+        return smooth_ = false;
+    }
+    take_defects();
+    smooth_ = false;
+    double previous = HUGE_VAL;
+    for (int sweep = 0; sweep < 3; ++sweep) {
+        system_.solve(conditions_, rows_, delta_);
+        const double length = norm(delta_);
+        if (!(length <= 0.3 * previous)) {
+            // A first correction of the size of the solution itself means nothing; a later one must contract.
+            if (!(previous < HUGE_VAL && length <= kRounding)) return false;
+        }
+        if (previous == HUGE_VAL && !(length <= 0.3)) return false;
+        for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] += delta_[i];
+        previous = length;
+        if (!residual(Order::six, trial_)) return false;
+        if (length <= kRounding || negligible(delta_, tol)) break;
+    }
+    if (!residual(Order::eight, trial_)) return false;
+    system_.solve(conditions_, rows_, delta_);
+    if (!std::isfinite(norm(delta_))) return false;
+    std::fill_n(errors_, n_, 0.0);
+    for (std::ptrdiff_t i = 0; i < size(); ++i) errors_[i % n_] = std::max(errors_[i % n_], std::fabs(delta_[i]));
+    take_defects();
+    for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] += delta_[i];
+    return smooth_ = true;
+}
+
+void BoundarySolver::take_defects()
+{
+    for (Integer i = 0; i < intervals_; ++i) {
+        double greatest = 0.0;
+        for (Integer c = 0; c < n_; ++c) greatest = std::max(greatest, std::fabs(rows_[std::ptrdiff_t{n_} * i + c]));
+        defects_[i] = greatest;
+    }
+}
+
+// Where the tolerance is missed, it is by rounding errors.
+bool BoundarySolver::only_roundoff(double tol) const
+{
+    for (Integer c = 0; c < n_; ++c)
+        if (errors_[c] > tol && errors_[c] > kRounding * scales_[c]) return false;
+    return true;
+}
+
+// ---- The mesh ----
+
+void BoundarySolver::keep()
+{
+    kept_intervals_ = intervals_;
+    std::copy_n(x_, intervals_ + 1, kept_x_);
+    std::copy_n(y_, size(), kept_y_);
+}
+
+void BoundarySolver::restore()
+{
+    intervals_ = kept_intervals_;
+    std::copy_n(kept_x_, intervals_ + 1, x_);
+    std::copy_n(kept_y_, size(), y_);
+}
+
+void BoundarySolver::keep_best()
+{
+    best_intervals_ = intervals_;
+    std::copy_n(x_, intervals_ + 1, best_x_);
+    std::copy_n(y_, size(), best_y_);
+}
+
+void BoundarySolver::restore_best()
+{
+    intervals_ = best_intervals_;
+    std::copy_n(best_x_, intervals_ + 1, x_);
+    std::copy_n(best_y_, size(), y_);
+}
+
+void BoundarySolver::keep_good()
+{
+    good_intervals_ = intervals_;
+    std::copy_n(x_, intervals_ + 1, good_x_);
+    std::copy_n(y_, size(), good_y_);
+}
+
+void BoundarySolver::restore_good()
+{
+    intervals_ = good_intervals_;
+    std::copy_n(good_x_, intervals_ + 1, x_);
+    std::copy_n(good_y_, size(), y_);
+}
+
+// Point `at` of the new mesh: x in an interval of the old one. The cubic is trusted where the corrections are.
+void BoundarySolver::put_point(Integer at, Integer interval, double x)
+{
+    const std::ptrdiff_t n = n_;
+    const double h = x_[interval + 1] - x_[interval], u = (x - x_[interval]) / h;
+    const double *y0 = y_ + n * interval, *y1 = y0 + n, *f0 = f_ + n * interval, *f1 = f0 + n;
+    new_x_[at] = x;
+    for (Integer c = 0; c < n_; ++c)
+        new_y_[n * at + c] = smooth_ ? cubic(u, h, y0[c], y1[c], f0[c], f1[c]) : (1.0 - u) * y0[c] + u * y1[c];
+}
+
+void BoundarySolver::adopt(Integer intervals)
+{
+    new_x_[intervals] = x_[intervals_];
+    std::copy_n(y_ + std::ptrdiff_t{n_} * intervals_, n_, new_y_ + std::ptrdiff_t{n_} * intervals);
+    intervals_ = intervals;
+    std::swap(x_, new_x_);
+    std::swap(y_, new_y_);
+}
+
+void BoundarySolver::subdivide(const Integer *parts)
+{
+    Integer at = 0;
+    for (Integer i = 0; i < intervals_; ++i)
+        for (Integer k = 0; k < parts[i]; ++k, ++at) {
+            put_point(at, i, x_[i] + (x_[i + 1] - x_[i]) * k / parts[i]);
+            if (k == 0) std::copy_n(y_ + std::ptrdiff_t{n_} * i, n_, new_y_ + std::ptrdiff_t{n_} * at);
+        }
+    adopt(at);
+}
+
+bool BoundarySolver::halve()
+{
+    if (2 * std::ptrdiff_t{intervals_} >= mnp_) return false;
+    std::fill_n(parts_.data(), intervals_, 2);
+    smooth_ = false;
+    subdivide(parts_.data());
+    return true;
+}
+
+// A new mesh of so many intervals, defects_ (any measure of what an interval deserves) shared out evenly.
+void BoundarySolver::redistribute(Integer intervals)
+{
+    double total = 0.0;
+    for (Integer i = 0; i < intervals_; ++i) total += defects_[i];
+    const double share = total / intervals;
+    Integer at = 0;
+    double before = 0.0;
+    for (Integer i = 0; i < intervals_; ++i) {
+        for (; at < intervals && at * share < before + defects_[i]; ++at) {
+            const double part = std::max(0.0, (at * share - before) / defects_[i]);
+            put_point(at, i, x_[i] + (x_[i + 1] - x_[i]) * part);
+        }
+        before += defects_[i];
+    }
+    // Rounding errors in the sum may leave the last point over.
+    for (; at < intervals; ++at)
+        put_point(at, intervals_ - 1, x_[intervals_] - (x_[intervals_] - x_[intervals_ - 1]) * 1e-3 * (intervals - at));
+    adopt(intervals);
+}
+
+// The next mesh, from defects_ and errors_. False when no mesh of mnp points promises more.
+bool BoundarySolver::refine(double tol)
+{
+    const double power = smooth_ ? 7.0 : 5.0; // of h, to which the defects are proportional
+    double sum = 0.0, roots = 0.0;
+    for (Integer i = 0; i < intervals_; ++i) {
+        // An interval of a few units in the last place of x is as short as it can be.
+        const double shortest = kRounding * std::max(std::fabs(x_[i]), std::fabs(x_[i + 1]));
+        if (!std::isfinite(defects_[i]) || x_[i + 1] - x_[i] < shortest) defects_[i] = 0.0;
+        sum += defects_[i];
+        defects_[i] = std::pow(defects_[i], 1.0 / power);
+        roots += defects_[i];
+    }
+    if (!(roots > 0.0)) {
+        std::fill_n(defects_, intervals_, 1.0);
+        sum = roots = intervals_;
+    }
+    // The parts of the intervals are proportional to the roots: this makes the sum of the defects least.
+    double factor = 2.0 * intervals_ / roots;
+    if (smooth_) {
+        const double error = *std::max_element(errors_, errors_ + n_);
+        factor =
+            std::min(std::pow(error / sum * roots / (kSafety * tol), 1.0 / (power - 1.0)), 4.0 * intervals_ / roots);
+    }
+    Integer total = 0;
+    const Integer most = smooth_ ? kMostParts : kMostRoughParts;
+    double wanted = 0.0;
+    for (Integer i = 0; i < intervals_; ++i) {
+        const double parts = factor * defects_[i];
+        wanted += parts;
+        parts_[i] = std::clamp<Integer>(static_cast<Integer>(std::ceil(std::min(parts, 1e6) - 0.1)), 1, most);
+        total += parts_[i];
+    }
+    if (total < mnp_ && total > intervals_) {
+        subdivide(parts_.data());
+        return true;
+    }
+    if (++full_meshes_ > (smooth_ ? kFullMeshes : kRoughFullMeshes)) return false;
+    // Points move from where they are idle. Every interval keeps a little, so that nothing is lost from sight.
+    const double least = 0.1 * roots / intervals_;
+    for (Integer i = 0; i < intervals_; ++i) defects_[i] = std::max(defects_[i], least);
+    redistribute(
+        std::min<Integer>(mnp_ - 1, std::max<Integer>(intervals_, static_cast<Integer>(std::min(1.2 * wanted, 1e9)))));
+    return true;
+}
+
+// Solves for the present eps to `tol`, on as many meshes as it takes. The solution and its mesh are the best in every case.
+BoundaryStatus BoundarySolver::adapt(double tol)
+{
+    bool solved = false; // on some mesh
+    full_meshes_ = 0;
+    keep();
+    for (int mesh = 0; mesh < kMeshes; ++mesh) {
+        std::copy_n(y_, size(), tangent_);
+        if (!newton(tol, kNewtonLimit)) {
+            if (conditions_singular_) return BoundaryStatus::singular_conditions;
+            std::copy_n(tangent_, size(), y_);
+            if (halve()) continue;
+            restore();
+            return solved ? BoundaryStatus::mesh : BoundaryStatus::first_mesh;
+        }
+        solved = true;
+        if (correct(tol)) {
+            const double error = *std::max_element(errors_, errors_ + n_);
+            std::copy_n(trial_, size(), y_);
+            if (error <= tol) return BoundaryStatus::solved;
+            if (only_roundoff(tol)) return BoundaryStatus::roundoff;
+        }
+        keep();
+        if (!refine(tol)) return BoundaryStatus::mesh;
+    }
+    restore();
+    return BoundaryStatus::mesh;
+}
+
+// ---- Continuation ----
+
+void BoundarySolver::set_parameter(double value)
+{
+    parameter_ = value;
+    if (path_ == Path::eps)
+        eps_ = value;
+    else
+        strength_ = std::exp(value);
+}
+
+// The derivative of the solution by the parameter, into tangent_. False when nothing depends on it.
+bool BoundarySolver::tangent()
+{
+    const std::ptrdiff_t n = n_;
+    double greatest = 0.0;
+    const auto note = [&greatest](double value) { greatest = std::max(greatest, std::fabs(value)); };
+    if (path_ == Path::eps && problem_->slope_by_eps != nullptr) {
+        for (Integer i = 0; i <= intervals_; ++i) (*problem_->slope_by_eps)(x_[i], eps_, y(i), bar_ + n * i);
+        for (Integer i = 0; i < intervals_; ++i) {
+            const double h = x_[i + 1] - x_[i];
+            for (Integer c = 0; c < n_; ++c)
+                shifted_[c] = middle_value(h, y(i)[c], y(i + 1)[c], f_[n * i + c], f_[n * (i + 1) + c]);
+            (*problem_->slope_by_eps)(x_[i] + 0.5 * h, eps_, shifted_, nodes_);
+            for (Integer c = 0; c < n_; ++c) {
+                double &row = rows_[n * i + c];
+                row = h / 6.0 * (bar_[n * i + c] + 4.0 * nodes_[c] + bar_[n * (i + 1) + c]);
+                note(row);
+            }
+        }
+        (*problem_->conditions_by_eps)(eps_, y(0), y(intervals_), conditions_);
+        for (Integer c = 0; c < n_; ++c) {
+            conditions_[c] = -conditions_[c];
+            note(conditions_[c]);
+        }
+    } else {
+        const double here = parameter_;
+        residual(Order::four, y_);
+        std::copy_n(rows_, n * intervals_, bar_);
+        std::copy_n(conditions_, n_, scales_);
+        set_parameter(here + kParameterDifference);
+        const double step = parameter_ - here;
+        residual(Order::four, y_);
+        set_parameter(here);
+        for (std::ptrdiff_t i = 0; i < n * intervals_; ++i) {
+            rows_[i] = (rows_[i] - bar_[i]) / step;
+            note(rows_[i]);
+        }
+        for (Integer c = 0; c < n_; ++c) {
+            conditions_[c] = (conditions_[c] - scales_[c]) / step;
+            note(conditions_[c]);
+        }
+    }
+    system_.solve(conditions_, rows_, tangent_);
+    if (!std::isfinite(norm(tangent_))) std::fill_n(tangent_, size(), 0.0);
+    return greatest > 0.0;
+}
+
+// Along a path of problems whose parameter goes from `start` to `end`. `step` is the first step, and becomes the last one.
+BoundaryStatus BoundarySolver::follow(Path path, double start, double end, double tol, double *step)
+{
+    path_ = path;
+    set_parameter(start);
+    const auto crude = [&] {
+        find_scales();
+        return std::max(tol, kCrude * *std::max_element(scales_, scales_ + n_));
+    };
+    const auto hopeless = [](BoundaryStatus status) {
+        return status == BoundaryStatus::first_mesh || status == BoundaryStatus::singular_conditions;
+    };
+    if (const BoundaryStatus status = adapt(crude()); hopeless(status)) return status;
+    double next = *step;
+    for (int count = 0; count < kContinuationSteps; ++count) {
+        // Factors and defects at the solution, then along its tangent.
+        if (!newton(crude(), kNewtonLimit) || !factor()) {
+            restore();
+            return BoundaryStatus::continuation;
+        }
+        if (!tangent()) return BoundaryStatus::no_dependence;
+        keep_good();
+        const double here = parameter_;
+        BoundaryStatus status = BoundaryStatus::continuation;
+        for (bool easy = true; status == BoundaryStatus::continuation; easy = false) {
+            *step = next = std::min(next, end - here);
+            if (!(next > (path == Path::eps ? kPrecision : kLeastStrengthening))) return BoundaryStatus::increment;
+            set_parameter(here + next >= end - kPrecision ? end : here + next);
+            for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] = good_y_[i] + (parameter_ - here) * tangent_[i];
+            if (newton(crude(), kContinuationNewton)) {
+                // A mesh that suits this problem suits the next one.
+                status = adapt(crude());
+                // Layers may have run away from the mesh.
+                if (path == Path::strength && status == BoundaryStatus::mesh && !smooth_)
+                    status = BoundaryStatus::continuation;
+                if (status == BoundaryStatus::first_mesh) status = BoundaryStatus::continuation;
+            }
+            if (conditions_singular_) return BoundaryStatus::singular_conditions;
+            if (status == BoundaryStatus::continuation) {
+                restore_good();
+                set_parameter(here);
+                if (!newton(crude(), kNewtonLimit) || !factor()) return BoundaryStatus::continuation;
+                tangent();
+                next *= 0.5;
+            } else if (easy) {
+                next *= 2.0;
+                if (path == Path::strength) next = std::min(next, kMostStrengthening);
+            }
+        }
+        if (parameter_ == end) return adapt(tol);
+    }
+    return BoundaryStatus::continuation;
+}
+
+// A bound on how fast solutions can change, times the length of the range.
+double BoundarySolver::stiffness()
+{
+    const std::ptrdiff_t n = n_;
+    find_scales();
+    double greatest = 0.0;
+    for (Integer i = 0; i <= intervals_; ++i) {
+        slope(x_[i], y(i), f_ + n * i);
+        jacobian(x_[i], y(i), f_ + n * i, left_);
+        for (Integer r = 0; r < n_; ++r) {
+            double sum = 0.0;
+            for (Integer c = 0; c < n_; ++c) sum += std::fabs(left_[n * r + c]);
+            if (std::isfinite(sum)) greatest = std::max(greatest, sum);
+        }
+    }
+    return greatest * (x_[intervals_] - x_[0]);
+}
+
+BoundaryStatus BoundarySolver::solve(const BoundaryProblem &problem, double tol, double *deleps)
+{
+    problem_ = &problem;
+    conditions_singular_ = false;
+    strength_ = 1.0;
+    if (deleps != nullptr && *deleps > 0.0) return follow(Path::eps, 0.0, 1.0, tol, deleps);
+
+    eps_ = 1.0;
+    const Integer first = intervals_;
+    std::copy_n(x_, intervals_ + 1, first_x_);
+    std::copy_n(y_, size(), first_y_);
+    const BoundaryStatus direct = adapt(tol);
+    if (direct != BoundaryStatus::first_mesh && !(direct == BoundaryStatus::mesh && !smooth_)) return direct;
+
+    // Layers that no mesh has found, or a first approximation too far off: with all slopes reduced the problem is smooth, and its
+    // solutions lead the mesh to the layers while the slopes grow to what they are.
+    keep_best();
+    const auto begin_again = [&] {
+        intervals_ = first;
+        std::copy_n(first_x_, first + 1, x_);
+        std::copy_n(first_y_, size(), y_);
+    };
+    begin_again();
+    double step = kFirstStrengthening;
+    const double start = std::log(std::clamp(kMildStiffness / stiffness(), kLeastStrength, kMostStrength));
+    const BoundaryStatus led = follow(Path::strength, start, 0.0, tol, &step);
+    strength_ = 1.0;
+    if (led == BoundaryStatus::solved || led == BoundaryStatus::roundoff || led == BoundaryStatus::mesh) return led;
+    restore_best();
+    return direct;
+}
+
+} // namespace kor::ode

@@ -1,0 +1,118 @@
+// Two-point boundary value problems y' = f(x, y, eps) with n conditions: the kernel behind d02gac, d02gbc and d02rac.
+//
+// On a mesh, the equations of Simpson's rule (with the cubic through values and slopes in the middle) are solved by a damped
+// Newton iteration. Deferred correction raises their order 4 to 6, then to 8: the defect in the equations of higher order goes
+// through the same linear system. The last correction is the error estimate. The defects also tell where the mesh must be
+// finer. A problem may be reached through a parameter eps that goes from 0 to 1.
+#pragma once
+
+#include <kor.h>
+
+#include "frame/function_ref.hpp"
+#include "frame/workspace.hpp"
+#include "ode/block_system.hpp"
+
+namespace kor::ode {
+
+using SlopeFunction = FunctionRef<void(double x, double eps, const double *y, double *f)>;
+using JacobianFunction = FunctionRef<void(double x, double eps, const double *y, double *j)>;
+using ConditionsFunction = FunctionRef<void(double eps, const double *ya, const double *yb, double *g)>;
+using ConditionsJacobian = FunctionRef<void(double eps, const double *ya, const double *yb, double *ja, double *jb)>;
+
+// Matrices are n by n, row-major. The conditions stand in the order left, mixed, right.
+struct BoundaryProblem {
+    Integer n, left, mixed;
+    SlopeFunction slope;
+    ConditionsFunction conditions;
+    // What is null is found by differences. Matrices come filled with zeros.
+    const JacobianFunction *jacobian = nullptr;
+    const ConditionsJacobian *conditions_jacobian = nullptr;
+    const SlopeFunction *slope_by_eps = nullptr;
+    const ConditionsFunction *conditions_by_eps = nullptr;
+};
+
+// The numbers are the statuses of the kernel.
+enum class BoundaryStatus : Integer {
+    solved = 0,
+    sizes = 1,
+    mesh = 2,
+    first_mesh = 3,
+    roundoff = 4,
+    continuation = 5,
+    singular_conditions = 6,
+    no_dependence = 7,
+    increment = 8
+};
+
+inline constexpr Integer kLeastMesh = 32;   // of points that must be allowed
+inline constexpr Integer kDefaultMesh = 17; // points to begin with
+
+class BoundarySolver {
+  public:
+    // Room for meshes of up to mnp points. False when there is no memory.
+    bool allocate(const BoundaryProblem &problem, Integer mnp);
+
+    // The mesh to begin with, and the first approximation: component c at point i in y(i)[c].
+    void set_mesh(Integer points) { intervals_ = points - 1; }
+    double *x() { return x_; }
+    double *y(Integer i) { return y_ + std::ptrdiff_t{n_} * i; }
+    Integer points() const { return intervals_ + 1; }
+    const double *error_estimates() const { return errors_; }
+
+    // deleps > 0: from eps = 0 to 1, with steps that begin with deleps; it becomes the last step. Otherwise eps = 1.
+    BoundaryStatus solve(const BoundaryProblem &problem, double tol, double *deleps);
+
+  private:
+    enum class Path { eps, strength };
+    enum class Order { four = 0, six = 1, eight = 3 }; // the number of sweeps through the inner nodes
+
+    std::ptrdiff_t size() const { return std::ptrdiff_t{n_} * (intervals_ + 1); }
+    bool residual(Order order, const double *y);
+    bool factor();
+    bool newton(double tol, int limit);
+    void jacobian(double x, const double *y, const double *f, double *j);
+    void conditions_jacobian();
+    void find_scales();
+    double norm(const double *delta) const;
+    bool negligible(const double *delta, double tol) const;
+    BoundaryStatus adapt(double tol);
+    bool correct(double tol);
+    bool only_roundoff(double tol) const;
+    void take_defects();
+    bool refine(double tol);
+    bool halve();
+    void subdivide(const Integer *parts);
+    void redistribute(Integer intervals);
+    void put_point(Integer at, Integer interval, double x);
+    void adopt(Integer intervals);
+    void keep();
+    void restore();
+    void keep_good();
+    void restore_good();
+    void keep_best();
+    void restore_best();
+    void slope(double x, const double *y, double *f);
+    void set_parameter(double value);
+    BoundaryStatus follow(Path path, double start, double end, double tol, double *step);
+    bool tangent();
+    double stiffness();
+
+    const BoundaryProblem *problem_ = nullptr;
+    Integer n_ = 0, mnp_ = 0, intervals_ = 0, kept_intervals_ = 0, best_intervals_ = 0, good_intervals_ = 0;
+    double eps_ = 1.0;
+    double strength_ = 1.0; // a factor of all slopes
+    Path path_ = Path::eps;
+    double parameter_ = 1.0; // of the path: eps_, or the logarithm of strength_
+    bool conditions_singular_ = false, smooth_ = false;
+    Integer full_meshes_ = 0; // meshes of mnp points so far
+    BlockSystem system_;
+    Workspace<double> block_;
+    Workspace<Integer> parts_;
+    double *x_, *y_, *f_, *middle_, *rows_, *delta_, *bar_, *trial_;
+    double *new_x_, *new_y_, *kept_x_, *kept_y_, *tangent_, *defects_, *first_x_, *first_y_, *best_x_, *best_y_,
+        *good_x_, *good_y_;
+    double *conditions_, *scales_, *errors_, *shifted_, *nodes_, *at_left_, *at_right_, *left_, *right_, *mid_, *a_,
+        *b_;
+};
+
+} // namespace kor::ode
