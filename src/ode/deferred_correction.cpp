@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "frame/constants.hpp"
+#include "linalg/lapack.hpp"
 #include "ode/interval_tables.hpp"
 
 namespace kor::ode {
@@ -22,6 +23,11 @@ constexpr double kNewtonPart = 0.01;    // of the tolerance: what the Newton ite
 constexpr double kSafety = 0.2;         // of the tolerance: what a new mesh aims at
 constexpr Integer kMostParts = 8;       // of an interval, in one go
 constexpr Integer kMostRoughParts = 4;  // while the error estimate is not to be trusted
+constexpr int kNodeVectors = kMostNodes + 2 * kMostInner;
+constexpr int kNodeIterations = 10;
+constexpr double kNodePart = 1e-3; // of the tolerance: what their iteration may leave
+constexpr int kCorrections = 8;
+constexpr double kMeaningful = 0.3; // a correction beyond this part of the solution tells nothing
 constexpr double kRounding = 1e3 * kPrecision;
 constexpr int kContinuationSteps = 2000;
 constexpr double kCrude = 1e-3; // relative accuracy on the way to eps = 1
@@ -53,9 +59,11 @@ bool BoundarySolver::allocate(const BoundaryProblem &problem, Integer mnp)
     n_ = problem.n;
     mnp_ = mnp;
     const Count points{mnp}, n{n_}, vectors = points * n;
-    constexpr int kLongVectors = 13, kMeshVectors = 7, kShortVectors = 4 + kNodes * 2, kMatrices = 9;
+    constexpr int kLongVectors = 14, kMeshVectors = 7, kShortVectors = 4 + kNodeVectors, kMatrices = 4 + 3 * kMostInner;
     if (!block_.allocate(vectors * kLongVectors + points * kMeshVectors + n * kShortVectors + n * n * kMatrices) ||
-        !parts_.allocate(points) || !system_.allocate(n_, problem.left, problem.mixed, mnp))
+        !stages_.allocate(points * n * n * (kMostInner * kMostInner)) || !pivots_.allocate(vectors * kMostInner) ||
+        !jacobians_.allocate(points * n * n * 2) || !parts_.allocate(points) ||
+        !system_.allocate(n_, problem.left, problem.mixed, mnp))
         return false;
     double *next = block_.data();
     const auto take = [&next](Count size) {
@@ -64,12 +72,13 @@ bool BoundarySolver::allocate(const BoundaryProblem &problem, Integer mnp)
         return mine;
     };
     for (double **v : {&y_, &f_, &middle_, &rows_, &delta_, &bar_, &trial_, &new_y_, &kept_y_, &tangent_, &first_y_,
-                       &best_y_, &good_y_})
+                       &best_y_, &good_y_, &guess_})
         *v = take(vectors);
     for (double **v : {&x_, &new_x_, &kept_x_, &defects_, &first_x_, &best_x_, &good_x_}) *v = take(points);
     for (double **v : {&conditions_, &scales_, &errors_, &shifted_}) *v = take(n);
-    nodes_ = take(n * kNodes * 2);
-    for (double **v : {&at_left_, &at_right_, &left_, &right_, &mid_, &a_, &b_}) *v = take(n * n);
+    nodes_ = take(n * kNodeVectors);
+    for (double **v : {&at_left_, &at_right_, &a_, &b_}) *v = take(n * n);
+    for (double **v : {&inner_, &by_left_, &by_right_}) *v = take(n * n * kMostInner);
     std::fill_n(errors_, n_, 0.0);
     return true;
 }
@@ -83,52 +92,100 @@ void BoundarySolver::slope(double x, const double *y, double *f)
         for (Integer c = 0; c < n_; ++c) f[c] *= strength_;
 }
 
-// Minus the defects of y in the equations of an order, into rows_ and conditions_. False when something is not finite.
-bool BoundarySolver::residual(Order order, const double *y)
+// Minus the defects of y in Simpson's equations and the conditions, into rows_ and conditions_; slopes into f_ and middle_. False
+// when something is not finite.
+bool BoundarySolver::residual(const double *y)
 {
     const std::ptrdiff_t n = n_;
-    for (Integer i = 0; i <= intervals_; ++i) slope(x_[i], y + n * i, f_ + n * i);
     double total = 0.0;
+    find_slopes(y);
     for (Integer i = 0; i < intervals_; ++i) {
         const double h = x_[i + 1] - x_[i];
         const double *y0 = y + n * i, *y1 = y0 + n, *f0 = f_ + n * i, *f1 = f0 + n;
-        double *row = rows_ + n * i;
-        if (order == Order::four) {
-            double *f = middle_ + n * i;
-            for (Integer c = 0; c < n_; ++c) shifted_[c] = middle_value(h, y0[c], y1[c], f0[c], f1[c]);
-            slope(x_[i] + 0.5 * h, shifted_, f);
-            for (Integer c = 0; c < n_; ++c) row[c] = h / 6.0 * (f0[c] + 4.0 * f[c] + f1[c]) - (y1[c] - y0[c]);
-        } else {
-            // Slopes at the nodes, first on the cubic, then on what the integral of the slopes makes of it.
-            double *slopes = nodes_, *values = nodes_ + n * kNodes;
-            std::copy_n(f0, n_, slopes);
-            std::copy_n(f1, n_, slopes + n * (kNodes - 1));
-            for (int sweep = 0; sweep <= static_cast<int>(order); ++sweep) {
-                for (int k = 1; k < kNodes - 1; ++k)
-                    for (Integer c = 0; c < n_; ++c) {
-                        double &value = values[n * k + c];
-                        if (sweep == 0) {
-                            value = cubic(kNode[k], h, y0[c], y1[c], f0[c], f1[c]);
-                            continue;
-                        }
-                        double sum = 0.0;
-                        for (int j = 0; j < kNodes; ++j) sum += kFromMean[k - 1][j] * slopes[n * j + c];
-                        value = 0.5 * (y0[c] + y1[c]) + h * sum;
-                    }
-                for (int k = 1; k < kNodes - 1; ++k) slope(x_[i] + h * kNode[k], values + n * k, slopes + n * k);
-            }
-            for (Integer c = 0; c < n_; ++c) {
-                double sum = 0.0;
-                for (int j = 0; j < kNodes; ++j) sum += kRule[j] * slopes[n * j + c];
-                row[c] = h * sum - (y1[c] - y0[c]);
-            }
+        double *row = rows_ + n * i, *f = middle_ + n * i;
+        for (Integer c = 0; c < n_; ++c) shifted_[c] = middle_value(h, y0[c], y1[c], f0[c], f1[c]);
+        slope(x_[i] + 0.5 * h, shifted_, f);
+        for (Integer c = 0; c < n_; ++c) {
+            row[c] = h / 6.0 * (f0[c] + 4.0 * f[c] + f1[c]) - (y1[c] - y0[c]);
+            total += std::fabs(row[c]);
         }
-        for (Integer c = 0; c < n_; ++c) total += std::fabs(row[c]);
     }
-    problem_->conditions(eps_, y, y + n * intervals_, conditions_);
+    return total + find_conditions(y) <= kLargest;
+}
+
+void BoundarySolver::find_slopes(const double *y)
+{
+    for (Integer i = 0; i <= intervals_; ++i) slope(x_[i], y + std::ptrdiff_t{n_} * i, f_ + std::ptrdiff_t{n_} * i);
+}
+
+// Returns the sum of the moduli.
+double BoundarySolver::find_conditions(const double *y)
+{
+    double total = 0.0;
+    problem_->conditions(eps_, y, y + std::ptrdiff_t{n_} * intervals_, conditions_);
     for (Integer c = 0; c < n_; ++c) {
         conditions_[c] = -conditions_[c];
         total += std::fabs(conditions_[c]);
+    }
+    return total;
+}
+
+// The values at the inner nodes of an interval follow from those at its ends: values - mean - h sum (weights slopes) = 0, by a
+// Newton iteration with the factors of build(). Leaves the slopes at all nodes in nodes_. False when it fails.
+bool BoundarySolver::find_nodes(const LobattoRule &rule, Integer i, const double *y, double tol)
+{
+    const std::ptrdiff_t n = n_, m = n * rule.inner();
+    const double h = x_[i + 1] - x_[i];
+    const double *y0 = y + n * i, *y1 = y0 + n, *f0 = f_ + n * i, *f1 = f0 + n;
+    double *slopes = nodes_, *values = slopes + n * rule.nodes, *delta = values + m;
+    std::copy_n(f0, n_, slopes);
+    std::copy_n(f1, n_, slopes + n * (rule.nodes - 1));
+    for (int k = 0; k < rule.inner(); ++k)
+        for (Integer c = 0; c < n_; ++c) values[n * k + c] = cubic(rule.node[k + 1], h, y0[c], y1[c], f0[c], f1[c]);
+    double previous = HUGE_VAL;
+    for (int iteration = 0; iteration < kNodeIterations; ++iteration) {
+        for (int k = 0; k < rule.inner(); ++k)
+            slope(x_[i] + h * rule.node[k + 1], values + n * k, slopes + n * (k + 1));
+        for (int k = 0; k < rule.inner(); ++k)
+            for (Integer c = 0; c < n_; ++c) {
+                double sum = 0.0;
+                for (int j = 0; j < rule.nodes; ++j) sum += rule.from_mean[k][j] * slopes[n * j + c];
+                delta[n * k + c] = 0.5 * (y0[c] + y1[c]) + h * sum - values[n * k + c];
+            }
+        const Integer order = static_cast<Integer>(m);
+        lapack::getrs('N', order, 1, stages_.data() + m * m * i, order, pivots_.data() + m * i, delta, order);
+        double greatest = 0.0, size = 0.0;
+        for (std::ptrdiff_t k = 0; k < m; ++k) {
+            values[k] += delta[k];
+            const double scale = scales_[k % n];
+            greatest = std::max(greatest, std::fabs(delta[k]) / (kNodePart * tol + 16.0 * kPrecision * scale));
+            size += std::fabs(delta[k]) / scale;
+        }
+        if (!(size <= kLargest)) return false;
+        if (greatest <= 1.0) return true;
+        // Not better than before: only as long as it is a matter of rounding errors.
+        if (iteration > 0 && !(size <= 0.7 * previous)) return size <= kRounding;
+        previous = size;
+    }
+    return false;
+}
+
+// Minus the defects of y in the equations of a Lobatto rule and in the conditions. False when it fails.
+bool BoundarySolver::residual(const LobattoRule &rule, const double *y, double tol)
+{
+    const std::ptrdiff_t n = n_;
+    find_slopes(y);
+    double total = find_conditions(y);
+    for (Integer i = 0; i < intervals_; ++i) {
+        if (!find_nodes(rule, i, y, tol)) return false;
+        const double h = x_[i + 1] - x_[i];
+        for (Integer c = 0; c < n_; ++c) {
+            double sum = 0.0;
+            for (int j = 0; j < rule.nodes; ++j) sum += rule.weight[j] * nodes_[n * j + c];
+            double &row = rows_[n * i + c];
+            row = h * sum - (y[n * (i + 1) + c] - y[n * i + c]);
+            total += std::fabs(row);
+        }
     }
     return total <= kLargest;
 }
@@ -177,38 +234,100 @@ void BoundarySolver::conditions_jacobian()
         }
 }
 
-// The linear system at y_, whose slopes are in f_ and middle_.
-bool BoundarySolver::factor()
+// The Jacobians at y_, whose slopes are in f_ and middle_: at the points, and in the middle of the intervals; and the conditions.
+// False when these depend on each other.
+bool BoundarySolver::find_jacobians()
 {
     const std::ptrdiff_t n = n_;
     find_scales();
     conditions_jacobian();
-    if (!rows_are_independent(n_, at_left_, at_right_, a_ /* and b_, and two more */)) {
+    if (!rows_are_independent(n_, at_left_, at_right_, a_ /* and what lies behind it */)) {
         conditions_singular_ = true;
         return false;
     }
-    system_.begin(intervals_, at_left_, at_right_);
-    jacobian(x_[0], y_, f_, left_);
+    jacobian(x_[0], y_, f_, at_point(0));
+    double *middle = nodes_ + n * 2;
     for (Integer i = 0; i < intervals_; ++i) {
         const double h = x_[i + 1] - x_[i];
         const double *y0 = y_ + n * i, *y1 = y0 + n, *f0 = f_ + n * i, *f1 = f0 + n;
-        jacobian(x_[i + 1], y1, f1, right_);
-        double *middle = nodes_ + n * 2;
         for (Integer c = 0; c < n_; ++c) middle[c] = middle_value(h, y0[c], y1[c], f0[c], f1[c]);
-        jacobian(x_[i] + 0.5 * h, middle, middle_ + n * i, mid_);
+        jacobian(x_[i] + 0.5 * h, middle, middle_ + n * i, at_middle(i));
+        jacobian(x_[i + 1], y1, f1, at_point(i + 1));
+    }
+    return true;
+}
+
+// The linear system of Simpson's equations.
+bool BoundarySolver::factor()
+{
+    const std::ptrdiff_t n = n_;
+    if (!find_jacobians()) return false;
+    system_.begin(intervals_, at_left_, at_right_);
+    for (Integer i = 0; i < intervals_; ++i) {
+        const double h = x_[i + 1] - x_[i];
+        const double *j0 = at_point(i), *jm = at_middle(i), *j1 = at_point(i + 1);
         for (Integer r = 0; r < n_; ++r)
             for (Integer c = 0; c < n_; ++c) {
                 double left = 0.0, right = 0.0;
                 for (Integer k = 0; k < n_; ++k) {
-                    left += mid_[n * r + k] * left_[n * k + c];
-                    right += mid_[n * r + k] * right_[n * k + c];
+                    left += jm[n * r + k] * j0[n * k + c];
+                    right += jm[n * r + k] * j1[n * k + c];
                 }
-                const double one = r == c ? 1.0 : 0.0, mid = 2.0 * mid_[n * r + c];
-                a_[n * r + c] = -one - h / 6.0 * (left_[n * r + c] + mid + 0.5 * h * left);
-                b_[n * r + c] = one - h / 6.0 * (right_[n * r + c] + mid - 0.5 * h * right);
+                const double one = r == c ? 1.0 : 0.0, mid = 2.0 * jm[n * r + c];
+                a_[n * r + c] = -one - h / 6.0 * (j0[n * r + c] + mid + 0.5 * h * left);
+                b_[n * r + c] = one - h / 6.0 * (j1[n * r + c] + mid - 0.5 * h * right);
             }
         system_.add(a_, b_);
-        std::swap(left_, right_);
+    }
+    return system_.finish();
+}
+
+// The linear system of a Lobatto rule, the inner nodes eliminated, from the Jacobians that are there; keeps the factors for
+// find_nodes(). Jacobians at the nodes are interpolated between those at the ends and in the middle.
+bool BoundarySolver::build(const LobattoRule &rule)
+{
+    const std::ptrdiff_t n = n_, m = n * rule.inner();
+    const Integer order = static_cast<Integer>(m);
+    const int last = rule.nodes - 1;
+    system_.begin(intervals_, at_left_, at_right_);
+    for (Integer i = 0; i < intervals_; ++i) {
+        const double h = x_[i + 1] - x_[i];
+        const double *j0 = at_point(i), *jm = at_middle(i), *j1 = at_point(i + 1);
+        for (int k = 0; k < rule.inner(); ++k) {
+            const double u = rule.node[k + 1];
+            const double left = (1.0 - 2.0 * u) * (1.0 - u), mid = 4.0 * u * (1.0 - u), right = u * (2.0 * u - 1.0);
+            for (std::ptrdiff_t e = 0; e < n * n; ++e)
+                inner_[n * n * k + e] = left * j0[e] + mid * jm[e] + right * j1[e];
+        }
+        double *stage = stages_.data() + m * m * i;
+        for (int k = 0; k < rule.inner(); ++k)
+            for (Integer r = 0; r < n_; ++r)
+                for (Integer c = 0; c < n_; ++c) {
+                    const double one = r == c ? 1.0 : 0.0;
+                    for (int j = 0; j < rule.inner(); ++j)
+                        stage[(n * j + c) * m + n * k + r] =
+                            (j == k ? one : 0.0) - h * rule.from_mean[k][j + 1] * inner_[n * n * j + n * r + c];
+                    by_left_[c * m + n * k + r] = 0.5 * one + h * rule.from_mean[k][0] * j0[n * r + c];
+                    by_right_[c * m + n * k + r] = 0.5 * one + h * rule.from_mean[k][last] * j1[n * r + c];
+                }
+        Integer *pivots = pivots_.data() + m * i;
+        if (lapack::getrf(order, order, stage, order, pivots) != 0) return false;
+        lapack::getrs('N', order, n_, stage, order, pivots, by_left_, order);
+        lapack::getrs('N', order, n_, stage, order, pivots, by_right_, order);
+        for (Integer r = 0; r < n_; ++r)
+            for (Integer c = 0; c < n_; ++c) {
+                double left = rule.weight[0] * j0[n * r + c], right = rule.weight[last] * j1[n * r + c];
+                for (int k = 0; k < rule.inner(); ++k)
+                    for (Integer e = 0; e < n_; ++e) {
+                        const double j = rule.weight[k + 1] * inner_[n * n * k + n * r + e];
+                        left += j * by_left_[c * m + n * k + e];
+                        right += j * by_right_[c * m + n * k + e];
+                    }
+                const double one = r == c ? 1.0 : 0.0;
+                a_[n * r + c] = -one - h * left;
+                b_[n * r + c] = one - h * right;
+            }
+        system_.add(a_, b_);
     }
     return system_.finish();
 }
@@ -245,7 +364,7 @@ bool BoundarySolver::negligible(const double *delta, double tol) const
 // Solves Simpson's equations from y_. On failure y_ is of no use.
 bool BoundarySolver::newton(double tol, int limit)
 {
-    if (!residual(Order::four, y_)) return false;
+    if (!residual(y_)) return false;
     double damping = 1.0;
     for (int iteration = 0; iteration < limit; ++iteration) {
         if (!factor()) return false;
@@ -254,13 +373,13 @@ bool BoundarySolver::newton(double tol, int limit)
         if (!std::isfinite(length)) return false;
         if (negligible(delta_, tol)) {
             for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] += delta_[i];
-            return residual(Order::four, y_);
+            return residual(y_);
         }
         bool first = true; // the correction belongs to the factors
         for (;;) {
             for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] = y_[i] + damping * delta_[i];
             double next = HUGE_VAL, bend = HUGE_VAL;
-            if (residual(Order::four, trial_)) {
+            if (residual(trial_)) {
                 system_.solve(conditions_, rows_, bar_);
                 next = norm(bar_);
                 for (std::ptrdiff_t i = 0; i < size(); ++i) new_y_[i] = bar_[i] - (1.0 - damping) * delta_[i];
@@ -271,7 +390,7 @@ bool BoundarySolver::newton(double tol, int limit)
                 std::copy_n(trial_, size(), y_);
                 if (damping == 1.0 && negligible(bar_, tol)) {
                     for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] += bar_[i];
-                    return residual(Order::four, y_);
+                    return residual(y_);
                 }
                 if (damping == 1.0 && next <= kKeepFactors * length) {
                     std::swap(delta_, bar_);
@@ -283,9 +402,9 @@ bool BoundarySolver::newton(double tol, int limit)
                 break;
             }
             // Corrections that are all rounding errors contract no more.
-            if (damping == 1.0 && length <= 1e-11) return residual(Order::four, y_);
+            if (damping == 1.0 && length <= 1e-11) return residual(y_);
             if (!first) {
-                if (!residual(Order::four, y_)) return false;
+                if (!residual(y_)) return false;
                 break;
             }
             damping = std::isfinite(bend) ? std::clamp(best, 0.1 * damping, 0.5 * damping) : 0.25 * damping;
@@ -297,48 +416,39 @@ bool BoundarySolver::newton(double tol, int limit)
 
 // ---- Deferred correction ----
 
-// From the solution of the equations of order four to that of order eight, with errors_; the defects of the best order whose
-// meaning is clear stay in defects_. False while the mesh is too coarse for corrections to converge.
+// From the solution y_ of Simpson's equations to that of Lobatto's in trial_, with errors_ and defects_. False while the mesh is too
+// coarse for the corrections to converge.
 bool BoundarySolver::correct(double tol)
 {
-    std::copy_n(y_, size(), trial_);
-    if (!residual(Order::six, trial_)) {
-        std::fill_n(defects_, intervals_, 1.0);
-        return smooth_ = false;
-    }
-    take_defects();
     smooth_ = false;
+    if (!find_jacobians() || !build(kLobatto5)) return false;
+    std::copy_n(y_, size(), trial_);
     double previous = HUGE_VAL;
-    for (int sweep = 0; sweep < 3; ++sweep) {
+    for (int correction = 0;; ++correction) {
+        if (correction == kCorrections || !residual(kLobatto5, trial_, tol)) return false;
         system_.solve(conditions_, rows_, delta_);
         const double length = norm(delta_);
-        if (!(length <= 0.3 * previous)) {
-            // A first correction of the size of the solution itself means nothing; a later one must contract.
-            if (!(previous < HUGE_VAL && length <= kRounding)) return false;
-        }
-        if (previous == HUGE_VAL && !(length <= 0.3)) return false;
+        // A first correction of the size of the solution itself means nothing; later ones must contract.
+        if (!(length <= (correction == 0 ? kMeaningful : 0.5 * previous)) && !(length <= kRounding)) return false;
         for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] += delta_[i];
+        if (negligible(delta_, tol) || length <= kPrecision) break;
+        if (correction > 0 && length <= kRounding && length > 0.5 * previous) break;
         previous = length;
-        if (!residual(Order::six, trial_)) return false;
-        if (length <= kRounding || negligible(delta_, tol)) break;
     }
-    if (!residual(Order::eight, trial_)) return false;
+    // The same solution in the equations of order six. On stiff parts that the mesh does not resolve the two rules, one with an even
+    // and one with an odd number of nodes, do opposite things.
+    if (!build(kLobatto4) || !residual(kLobatto4, trial_, tol)) return false;
     system_.solve(conditions_, rows_, delta_);
-    if (!std::isfinite(norm(delta_))) return false;
+    if (!(norm(delta_) <= kMeaningful)) return false;
     std::fill_n(errors_, n_, 0.0);
     for (std::ptrdiff_t i = 0; i < size(); ++i) errors_[i % n_] = std::max(errors_[i % n_], std::fabs(delta_[i]));
-    take_defects();
-    for (std::ptrdiff_t i = 0; i < size(); ++i) trial_[i] += delta_[i];
-    return smooth_ = true;
-}
-
-void BoundarySolver::take_defects()
-{
+    // What the error gains from point to point is what the interval has done.
     for (Integer i = 0; i < intervals_; ++i) {
-        double greatest = 0.0;
-        for (Integer c = 0; c < n_; ++c) greatest = std::max(greatest, std::fabs(rows_[std::ptrdiff_t{n_} * i + c]));
-        defects_[i] = greatest;
+        const double *here = delta_ + std::ptrdiff_t{n_} * i, *next = here + n_;
+        defects_[i] = 0.0;
+        for (Integer c = 0; c < n_; ++c) defects_[i] = std::max(defects_[i], std::fabs(next[c] - here[c]));
     }
+    return smooth_ = true;
 }
 
 // Where the tolerance is missed, it is by rounding errors.
@@ -454,29 +564,54 @@ void BoundarySolver::redistribute(Integer intervals)
     adopt(intervals);
 }
 
-// The next mesh, from defects_ and errors_. False when no mesh of mnp points promises more.
+// How much of the ups and downs of the solution, and of the range, lies in each interval.
+void BoundarySolver::measure_variation()
+{
+    for (Integer c = 0; c < n_; ++c) {
+        double least = y(0)[c], greatest = least;
+        for (Integer i = 1; i <= intervals_; ++i) {
+            least = std::min(least, y(i)[c]);
+            greatest = std::max(greatest, y(i)[c]);
+        }
+        shifted_[c] = greatest - least;
+    }
+    for (Integer i = 0; i < intervals_; ++i) {
+        double most = 0.0;
+        for (Integer c = 0; c < n_; ++c)
+            if (shifted_[c] > 0.0) most = std::max(most, std::fabs(y(i + 1)[c] - y(i)[c]) / shifted_[c]);
+        defects_[i] = most + (x_[i + 1] - x_[i]) / (x_[intervals_] - x_[0]);
+    }
+}
+
+// The next mesh. False when no mesh of mnp points promises more.
 bool BoundarySolver::refine(double tol)
 {
-    const double power = smooth_ ? 7.0 : 5.0; // of h, to which the defects are proportional
+    // The parts that each interval deserves, up to a factor. Defects are proportional to h^7, and parts that are proportional to
+    // their roots make their sum least. Without them the ups and downs of the solution have to serve.
+    constexpr double kPower = 7.0;
     double sum = 0.0, roots = 0.0;
+    if (smooth_) {
+        for (Integer i = 0; i < intervals_; ++i) {
+            sum += defects_[i];
+            defects_[i] = std::pow(defects_[i], 1.0 / kPower);
+        }
+    } else {
+        measure_variation();
+    }
     for (Integer i = 0; i < intervals_; ++i) {
         // An interval of a few units in the last place of x is as short as it can be.
-        const double shortest = kRounding * std::max(std::fabs(x_[i]), std::fabs(x_[i + 1]));
-        if (!std::isfinite(defects_[i]) || x_[i + 1] - x_[i] < shortest) defects_[i] = 0.0;
-        sum += defects_[i];
-        defects_[i] = std::pow(defects_[i], 1.0 / power);
+        if (x_[i + 1] - x_[i] < kRounding * std::max(std::fabs(x_[i]), std::fabs(x_[i + 1]))) defects_[i] = 0.0;
         roots += defects_[i];
     }
     if (!(roots > 0.0)) {
         std::fill_n(defects_, intervals_, 1.0);
-        sum = roots = intervals_;
+        roots = sum = intervals_;
     }
-    // The parts of the intervals are proportional to the roots: this makes the sum of the defects least.
     double factor = 2.0 * intervals_ / roots;
     if (smooth_) {
         const double error = *std::max_element(errors_, errors_ + n_);
         factor =
-            std::min(std::pow(error / sum * roots / (kSafety * tol), 1.0 / (power - 1.0)), 4.0 * intervals_ / roots);
+            std::min(std::pow(error / sum * roots / (kSafety * tol), 1.0 / (kPower - 1.0)), 4.0 * intervals_ / roots);
     }
     Integer total = 0;
     const Integer most = smooth_ ? kMostParts : kMostRoughParts;
@@ -507,10 +642,10 @@ BoundaryStatus BoundarySolver::adapt(double tol)
     full_meshes_ = 0;
     keep();
     for (int mesh = 0; mesh < kMeshes; ++mesh) {
-        std::copy_n(y_, size(), tangent_);
+        std::copy_n(y_, size(), guess_);
         if (!newton(tol, kNewtonLimit)) {
             if (conditions_singular_) return BoundaryStatus::singular_conditions;
-            std::copy_n(tangent_, size(), y_);
+            std::copy_n(guess_, size(), y_);
             if (halve()) continue;
             restore();
             return solved ? BoundaryStatus::mesh : BoundaryStatus::first_mesh;
@@ -566,12 +701,12 @@ bool BoundarySolver::tangent()
         }
     } else {
         const double here = parameter_;
-        residual(Order::four, y_);
+        residual(y_);
         std::copy_n(rows_, n * intervals_, bar_);
         std::copy_n(conditions_, n_, scales_);
         set_parameter(here + kParameterDifference);
         const double step = parameter_ - here;
-        residual(Order::four, y_);
+        residual(y_);
         set_parameter(here);
         for (std::ptrdiff_t i = 0; i < n * intervals_; ++i) {
             rows_[i] = (rows_[i] - bar_[i]) / step;
@@ -587,6 +722,20 @@ bool BoundarySolver::tangent()
     return greatest > 0.0;
 }
 
+// A derivative may vanish at one point; here are two.
+bool BoundarySolver::depends_on_parameter(double other)
+{
+    const double here = parameter_;
+    residual(y_);
+    std::copy_n(rows_, std::ptrdiff_t{n_} * intervals_, bar_);
+    std::copy_n(conditions_, n_, scales_);
+    set_parameter(other);
+    residual(y_);
+    set_parameter(here);
+    return !std::equal(rows_, rows_ + std::ptrdiff_t{n_} * intervals_, bar_) ||
+           !std::equal(conditions_, conditions_ + n_, scales_);
+}
+
 // Along a path of problems whose parameter goes from `start` to `end`. `step` is the first step, and becomes the last one.
 BoundaryStatus BoundarySolver::follow(Path path, double start, double end, double tol, double *step)
 {
@@ -600,16 +749,23 @@ BoundaryStatus BoundarySolver::follow(Path path, double start, double end, doubl
         return status == BoundaryStatus::first_mesh || status == BoundaryStatus::singular_conditions;
     };
     if (const BoundaryStatus status = adapt(crude()); hopeless(status)) return status;
-    double next = *step;
+    double next = *step, here = start;
     for (int count = 0; count < kContinuationSteps; ++count) {
         // Factors and defects at the solution, then along its tangent.
-        if (!newton(crude(), kNewtonLimit) || !factor()) {
-            restore();
-            return BoundaryStatus::continuation;
+        if (newton(crude(), kNewtonLimit) && factor()) {
+            if (!tangent() && !depends_on_parameter(end)) return BoundaryStatus::no_dependence;
+            keep_good();
+            here = parameter_;
+        } else {
+            // So close to where solutions end that Simpson's equations have none: from the last point again, but not so far.
+            if (count == 0) {
+                restore();
+                return BoundaryStatus::continuation;
+            }
+            restore_good();
+            set_parameter(here);
+            next *= 0.5;
         }
-        if (!tangent()) return BoundaryStatus::no_dependence;
-        keep_good();
-        const double here = parameter_;
         BoundaryStatus status = BoundaryStatus::continuation;
         for (bool easy = true; status == BoundaryStatus::continuation; easy = false) {
             *step = next = std::min(next, end - here);
@@ -628,8 +784,6 @@ BoundaryStatus BoundarySolver::follow(Path path, double start, double end, doubl
             if (status == BoundaryStatus::continuation) {
                 restore_good();
                 set_parameter(here);
-                if (!newton(crude(), kNewtonLimit) || !factor()) return BoundaryStatus::continuation;
-                tangent();
                 next *= 0.5;
             } else if (easy) {
                 next *= 2.0;
@@ -649,10 +803,10 @@ double BoundarySolver::stiffness()
     double greatest = 0.0;
     for (Integer i = 0; i <= intervals_; ++i) {
         slope(x_[i], y(i), f_ + n * i);
-        jacobian(x_[i], y(i), f_ + n * i, left_);
+        jacobian(x_[i], y(i), f_ + n * i, a_);
         for (Integer r = 0; r < n_; ++r) {
             double sum = 0.0;
-            for (Integer c = 0; c < n_; ++c) sum += std::fabs(left_[n * r + c]);
+            for (Integer c = 0; c < n_; ++c) sum += std::fabs(a_[n * r + c]);
             if (std::isfinite(sum)) greatest = std::max(greatest, sum);
         }
     }

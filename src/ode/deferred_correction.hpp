@@ -1,9 +1,11 @@
 // Two-point boundary value problems y' = f(x, y, eps) with n conditions: the kernel behind d02gac, d02gbc and d02rac.
 //
-// On a mesh, the equations of Simpson's rule (with the cubic through values and slopes in the middle) are solved by a damped
-// Newton iteration. Deferred correction raises their order 4 to 6, then to 8: the defect in the equations of higher order goes
-// through the same linear system. The last correction is the error estimate. The defects also tell where the mesh must be
-// finer. A problem may be reached through a parameter eps that goes from 0 to 1.
+// On a mesh, Simpson's equations (with the cubic through values and slopes in the middle) are solved by a damped Newton iteration.
+// Corrections raise their order 4 to 8: the defects in Lobatto's equations of five points go through the linear system of these
+// equations, whose inner nodes are eliminated interval by interval; being implicit, they stay small where a problem is stiff but
+// smooth. The defects in the equations of four points, through their own system, estimate the error (of order 6); what it gains
+// from point to point tells where the mesh must be finer. A problem may be reached through a parameter eps that goes from 0 to 1,
+// or through a factor of all slopes that grows to 1.
 #pragma once
 
 #include <kor.h>
@@ -11,6 +13,7 @@
 #include "frame/function_ref.hpp"
 #include "frame/workspace.hpp"
 #include "ode/block_system.hpp"
+#include "ode/interval_tables.hpp"
 
 namespace kor::ode {
 
@@ -64,11 +67,18 @@ class BoundarySolver {
 
   private:
     enum class Path { eps, strength };
-    enum class Order { four = 0, six = 1, eight = 3 }; // the number of sweeps through the inner nodes
 
     std::ptrdiff_t size() const { return std::ptrdiff_t{n_} * (intervals_ + 1); }
-    bool residual(Order order, const double *y);
+    bool residual(const double *y);
+    void find_slopes(const double *y);
+    double find_conditions(const double *y);
+    bool find_nodes(const LobattoRule &rule, Integer i, const double *y, double tol);
+    bool residual(const LobattoRule &rule, const double *y, double tol);
+    bool find_jacobians();
     bool factor();
+    bool build(const LobattoRule &rule);
+    double *at_point(Integer i) { return jacobians_.data() + std::ptrdiff_t{n_} * n_ * 2 * i; }
+    double *at_middle(Integer i) { return at_point(i) + std::ptrdiff_t{n_} * n_; }
     bool newton(double tol, int limit);
     void jacobian(double x, const double *y, const double *f, double *j);
     void conditions_jacobian();
@@ -78,7 +88,7 @@ class BoundarySolver {
     BoundaryStatus adapt(double tol);
     bool correct(double tol);
     bool only_roundoff(double tol) const;
-    void take_defects();
+    void measure_variation();
     bool refine(double tol);
     bool halve();
     void subdivide(const Integer *parts);
@@ -95,6 +105,7 @@ class BoundarySolver {
     void set_parameter(double value);
     BoundaryStatus follow(Path path, double start, double end, double tol, double *step);
     bool tangent();
+    bool depends_on_parameter(double other);
     double stiffness();
 
     const BoundaryProblem *problem_ = nullptr;
@@ -107,12 +118,15 @@ class BoundarySolver {
     Integer full_meshes_ = 0; // meshes of mnp points so far
     BlockSystem system_;
     Workspace<double> block_;
+    Workspace<double> jacobians_;
+    Workspace<double> stages_; // factors for the inner nodes, 3n by 3n for each interval
+    Workspace<Integer> pivots_;
     Workspace<Integer> parts_;
     double *x_, *y_, *f_, *middle_, *rows_, *delta_, *bar_, *trial_;
     double *new_x_, *new_y_, *kept_x_, *kept_y_, *tangent_, *defects_, *first_x_, *first_y_, *best_x_, *best_y_,
-        *good_x_, *good_y_;
-    double *conditions_, *scales_, *errors_, *shifted_, *nodes_, *at_left_, *at_right_, *left_, *right_, *mid_, *a_,
-        *b_;
+        *good_x_, *good_y_, *guess_;
+    double *inner_, *by_left_, *by_right_; // of the inner nodes: Jacobians, derivatives by the values at the ends
+    double *conditions_, *scales_, *errors_, *shifted_, *nodes_, *at_left_, *at_right_, *a_, *b_;
 };
 
 } // namespace kor::ode
