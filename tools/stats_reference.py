@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes laws_data.inc,
-discrete_laws_data.inc and noncentral_laws_data.inc in tests/stats. With a library as
-argument it also prints the largest errors of that library over a denser set of points."""
+discrete_laws_data.inc, noncentral_laws_data.inc and bivariate_normal_data.inc in tests/stats. With a library as argument it
+prints the largest errors of that library over a denser set of points instead."""
 import ctypes
 import itertools
 import os
@@ -258,6 +258,75 @@ def write_noncentral():
                 p = mixture(lam, lambda j: beta(mp.mpf(a) + j, b, mp.mpf(x), 1 - mp.mpf(x))[0])
             if p > SMALLEST:
                 out.write("{kBeta, %r, %r, %r, %r, %s},\n" % (x, a, b, lam, mp.nstr(p, 20)))
+        write_noncentral_t(out)
+
+
+def over_log_scale(log_f, centre, width):
+    """The integral of exp(log_f), one analytic peak, by the trapezoidal rule."""
+    def rule(step):
+        total = mp.mpf(0)
+        for side in (1, -1):
+            k = 0 if side > 0 else 1
+            while log_f(centre + side * k * step) > log_f(centre) - 75:
+                total += mp.exp(log_f(centre + side * k * step) - log_f(centre))
+                k += 1
+        return total * step
+    step, last = width, None
+    while True:
+        value = rule(step)
+        if last is not None and abs(value / last - 1) < mp.mpf(10) ** -24:
+            return value * mp.exp(log_f(centre))
+        step, last = step / 2, value
+
+
+def noncentral_t(t, df, delta):
+    """The lower tail: normal tails averaged over the law of ln(s), the side that is small."""
+    with mp.workdps(45):
+        t, df, delta = mp.mpf(t), mp.mpf(df), mp.mpf(delta)
+        side = 1 if t > delta else -1
+        constant = mp.log(2) + df / 2 * mp.log(df / 2) - mp.loggamma(df / 2)
+        log_f = lambda v: constant + df * (v - mp.exp(2 * v) / 2) + mp.log(
+            mp.erfc(side * (t * mp.exp(v) - delta) / mp.sqrt(2)) / 2)
+        low, high = -60 / mp.sqrt(df) - 3 / df, 20 / mp.sqrt(df)
+        for _ in range(60):
+            left, right = low + (high - low) * 0.38, low + (high - low) * 0.62
+            low, high = (left, high) if log_f(left) < log_f(right) else (low, right)
+        tail = over_log_scale(log_f, low, 1 / mp.sqrt(2 * df + t * t))
+        return 1 - tail if side > 0 else tail
+
+
+def write_noncentral_t(out):
+    draw = random.Random(7).uniform
+    for _ in range(30):
+        df, delta = 1 + 10 ** draw(-2, 5), draw(-1, 1) * 10 ** draw(-2, 1.5)
+        t = delta + draw(-12, 12) * (1 + delta * delta / (2 * df)) ** 0.5
+        p = noncentral_t(t, df, delta)
+        if p > SMALLEST:
+            out.write("{kT, %r, %r, 0.0, %r, %s},\n" % (t, df, delta, mp.nstr(p, 20)))
+
+
+def bivariate_normal(x, y, rho):
+    with mp.workdps(40):
+        x, y, rho = mp.mpf(x), mp.mpf(y), mp.mpf(rho)
+        q = mp.sqrt(1 - rho * rho)
+        centre = y / rho
+        points = {mp.mpf(-14), x} | {centre + k * q for k in (-40, -20, -10, -5, -2, 0, 2, 5, 10, 20, 40)}
+        points |= {mp.mpf(k) for k in range(-13, 14, 2)}
+        points = sorted(v for v in points if -14 <= v <= x)
+        return mp.quad(lambda s: mp.npdf(s) * mp.ncdf((y - rho * s) / q), points)
+
+
+def write_bivariate():
+    draw, choice = random.Random(8).uniform, random.Random(9).choice
+    with open(os.path.join(ROOT, "tests", "stats", "bivariate_normal_data.inc"), "w", encoding="utf-8") as out:
+        out.write("// Written by tools/stats_reference.py: x, y, rho, P(X <= x, Y <= y).\n")
+        for k in range(60):
+            x, y = draw(-4, 4), draw(-4, 4)
+            rho = draw(-1, 1) if k % 2 else choice((-1, 1)) * (1 - 10 ** draw(-13, -1))
+            if k % 4 == 0:
+                y = x * (1 if rho > 0 else -1) + draw(-3, 3) * (1 - rho * rho) ** 0.5
+            p = bivariate_normal(x, y, rho)
+            out.write("{%r, %r, %r, %s},\n" % (x, y, rho, mp.nstr(p, 20) if p > SMALLEST else "0.0"))
 
 
 def survey(path):
@@ -314,3 +383,4 @@ if __name__ == "__main__":
         write()
         write_discrete()
         write_noncentral()
+        write_bivariate()

@@ -31,6 +31,8 @@ KOR_SPECIMEN(g01eec)
 }
 
 KOR_VALUE_SPECIMEN(g01bcc, 18.3, 10)
+KOR_VALUE_SPECIMEN(g01gbc, 1.528, 20.0, 2.0, 5e-6, 50)
+KOR_VALUE_SPECIMEN(g01hac, 1.5, -0.5, 0.75)
 KOR_VALUE_SPECIMEN(g01gcc, 8.26, 20.0, 3.5, 5e-6, 50)
 KOR_VALUE_SPECIMEN(g01gdc, 5.5, 1.5, 25.5, 3.0, 5e-6, 50)
 KOR_VALUE_SPECIMEN(g01gec, 0.25, 1.0, 2.0, 1.0, 0.0, 100)
@@ -112,4 +114,16 @@ KOR_SPECIMEN(g01dhc)
     double r[kCount] = {99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0, 99.0};
     call([&](KorError *fail) { g01dhc(Kor_BlomScores, Kor_AverageTies, kCount, kSample, r, fail); });
     outputs(r, kCount);
+}
+
+KOR_SPECIMEN(g01hbc)
+{
+    const double b[] = {0.5, 0.0, -0.25, 1.0}, mean[] = {0.0, 0.0, 0.0, 0.0};
+    const double sig[] = {1.0, 0.5, 0.5, 0.5, 0.5, 1.0, 0.5, 0.5, 0.5, 0.5, 1.0, 0.5, 0.5, 0.5, 0.5, 1.0};
+    double p = 99.0;
+    call([&](KorError *fail) {
+        const double value = g01hbc(Kor_LowerTail, 4, b, b, mean, sig, 4, 1e-4, 6000, fail);
+        if (value != 0.0) p = value; // 0 after an error
+    });
+    outputs(p);
 }

@@ -271,7 +271,7 @@ TEST(ShapiroWilk, AgreesWithTheReferences)
         double w, p, again, p_again;
         g01ddc(r.n, x.data(), 1, a.data(), &w, &p, &fail);
         EXPECT_SUCCESS(fail);
-        EXPECT_NEAR(w, r.w, 4e-15); // the reference sums 2000 squares in plain doubles
+        EXPECT_NEAR(w, r.w, 4e-15);                         // the reference sums 2000 squares in plain doubles
         EXPECT_NEAR(p / r.p, 1.0, r.n == 3 ? 5e-9 : 1e-10); // the reference has constants of nine digits for n = 3
         // Weights of an earlier call, and another unit and origin of the data.
         for (double &value : x) value = 1024.0 * value + 1e4;

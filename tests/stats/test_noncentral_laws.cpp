@@ -14,7 +14,7 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr Integer kMaxTerms = 5000;
 
-enum Law { kChiSquared, kBeta };
+enum Law { kChiSquared, kBeta, kT };
 
 struct Reference {
     Law law;
@@ -31,7 +31,8 @@ TEST(NoncentralLaws, AgreeWithTheReferences)
         SCOPED_TRACE(testing::Message() << r.law << ": " << r.x << ", " << r.p1 << ", " << r.p2 << ", " << r.lambda);
         Record fail;
         const double got = r.law == kChiSquared ? g01gcc(r.x, r.p1, r.lambda, 0.0, kMaxTerms, &fail)
-                                                : g01gec(r.x, r.p1, r.p2, r.lambda, 0.0, kMaxTerms, &fail);
+                           : r.law == kBeta     ? g01gec(r.x, r.p1, r.p2, r.lambda, 0.0, kMaxTerms, &fail)
+                                                : g01gbc(r.x, r.p1, r.lambda, 0.0, kMaxTerms, &fail);
         EXPECT_SUCCESS(fail);
         EXPECT_NEAR(got / r.lower, 1.0, 1e-14);
     }
@@ -45,6 +46,42 @@ TEST(NoncentralLaws, FIsBeta)
         EXPECT_NEAR(g01gdc(1.5, 6.0, 9.0, lambda, 0.0, kMaxTerms, &fail) /
                         g01gec(0.5, 3.0, 4.5, lambda, 0.0, kMaxTerms, &fail),
                     1.0, 1e-14);
+}
+
+TEST(NoncentralLaws, TOfEitherSignAndAnySize)
+{
+    Record fail;
+    // Non-centralities too large for one of the two forms, and the other one beside it: the law varies slowly.
+    EXPECT_NEAR(g01gbc(116.19997462630305, 1.0103170079727197, 233.27520086925475, 0.0, 2000, &fail),
+                1.0 - 0.955710446705537689, 1e-15);
+    for (const double df : {1.0, 2.5, 800.0})
+        for (const double t : {-300.0, -3.0, 0.0, 0.1, 30.0, 900.0})
+            EXPECT_NEAR(g01gbc(t, df, 12.0, 0.0, kMaxTerms, &fail) + g01gbc(-t, df, -12.0, 0.0, kMaxTerms, &fail), 1.0,
+                        1e-15)
+                << t << " " << df;
+    EXPECT_EQ(g01gbc(2.0, 7.0, 0.0, 0.0, 1, &fail), g01ebc(Kor_LowerTail, 2.0, 7.0, &fail));
+    EXPECT_EQ(g01gbc(-2.0, 7.0, 0.0, 0.0, 1, &fail), g01ebc(Kor_LowerTail, -2.0, 7.0, &fail));
+    EXPECT_EQ(g01gbc(kInfinity, 7.0, 1.0, 0.0, 1, &fail), 1.0);
+    EXPECT_EQ(g01gbc(1.0, 7.0, kInfinity, 0.0, 1, &fail), 0.0);
+    EXPECT_TRUE(std::isnan(g01gbc(1.0, kNan, 1.0, 0.0, 1, &fail)));
+    EXPECT_SUCCESS(fail);
+    // Far out the tail is a power of t, with or without a non-centrality.
+    const double expected = 2.0 * g01eac(Kor_UpperTail, 1.0, &fail) - std::exp(-0.5) / std::sqrt(2.0 * std::acos(-1.0));
+    for (const double t : {1e8, 1e50, 1e99})
+        EXPECT_NEAR(g01gbc(-t, 2.0, 1.0, 0.0, kMaxTerms, &fail) * t * t, expected, 1e-14) << t;
+    EXPECT_NEAR(g01gbc(-1e150, 2.0, 1.0, 0.0, kMaxTerms, &fail) / g01gbc(-1e100, 2.0, 1.0, 0.0, kMaxTerms, &fail),
+                1e-100, 1e-113);
+    EXPECT_NEAR(g01gbc(-1e120, 1.0, 1e-9, 0.0, kMaxTerms, &fail) / g01ebc(Kor_LowerTail, -1e120, 1.0, &fail), 1.0,
+                1e-8);
+    // A tolerance that 50 terms can meet.
+    EXPECT_NEAR(g01gbc(1.528, 20.0, 2.0, 5e-6, 50, &fail) / g01gbc(1.528, 20.0, 2.0, 0.0, kMaxTerms, &fail), 1.0, 5e-6);
+    EXPECT_SUCCESS(fail);
+    EXPECT_EQ(g01gbc(1.528, 20.0, 2.0, 0.0, 10, &fail), 0.0);
+    EXPECT_REPORT(fail, NE_CONV, "max_iter or tol");
+    EXPECT_EQ(g01gbc(1.0, 0.5, 1.0, 0.0, 0, &fail), 0.0);
+    EXPECT_REPORT(fail, NE_REAL_ARG_LT, "df", "1.0", "df", 0.5);
+    EXPECT_EQ(g01gbc(1.0, 1.0, 1.0, 0.0, 0, &fail), 0.0);
+    EXPECT_REPORT(fail, NE_INT_ARG_LT, "max_iter", "1", "max_iter", 0);
 }
 
 TEST(NoncentralLaws, LimitsAndTolerance)
