@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes laws_data.inc,
-discrete_laws_data.inc, noncentral_laws_data.inc and bivariate_normal_data.inc in tests/stats. With a library as argument it
+discrete_laws_data.inc, noncentral_laws_data.inc, bivariate_normal_data.inc and studentized_range_data.inc in tests/stats. With a library as argument it
 prints the largest errors of that library over a denser set of points instead."""
 import ctypes
 import itertools
@@ -329,6 +329,36 @@ def write_bivariate():
             out.write("{%r, %r, %r, %s},\n" % (x, y, rho, mp.nstr(p, 20) if p > SMALLEST else "0.0"))
 
 
+def studentized_range(q, v, r):
+    """Two nested trapezoidal rules with fixed steps."""
+    with mp.workdps(30):
+        q, v, half = mp.mpf(q), mp.mpf(v), mp.mpf(v) / 2
+        constant = mp.log(2) + half * mp.log(half) - mp.loggamma(half)
+        step = mp.mpf(1) / 6
+        nodes = [k * step for k in range(-66, 67)]
+        weights = [(z, mp.ncdf(z), r * mp.npdf(z) * step) for z in nodes]
+        inner = lambda w: mp.fsum(f * (p - mp.ncdf(z - w)) ** (r - 1) for z, p, f in weights)
+        outer = 1 / mp.sqrt(2 * v) / 4
+        total, k = mp.mpf(0), 0
+        for side in (1, -1):
+            k = 0 if side > 0 else 1
+            while True:
+                t = side * k * outer
+                term = mp.exp(constant + v * t - half * mp.exp(2 * t)) * inner(q * mp.exp(t)) * outer
+                total += term
+                k += 1
+                if k > 3 and term < total * mp.mpf(10) ** -18:
+                    break
+        return total
+
+
+def write_studentized_range():
+    with open(os.path.join(ROOT, "tests", "stats", "studentized_range_data.inc"), "w", encoding="utf-8") as out:
+        out.write("// Written by tools/stats_reference.py: q, degrees of freedom, number of variables, lower tail.\n")
+        for q, v, r in ((0.7, 3, 4), (3.5, 10, 5), (4.2, 1.5, 3), (8.0, 20, 50), (2.4, 60.5, 12), (5.0, 2, 20), (1.1, 400, 3)):
+            out.write("{%r, %r, %d, %s},\n" % (q, float(v), r, mp.nstr(studentized_range(q, v, r), 18)))
+
+
 def survey(path):
     lib = ctypes.CDLL(path)
     record = (ctypes.c_char * 1024)()
@@ -384,3 +414,4 @@ if __name__ == "__main__":
         write_discrete()
         write_noncentral()
         write_bivariate()
+        write_studentized_range()

@@ -2,14 +2,13 @@
 // of z. Either tail comes out relative to itself, and only the smaller one is integrated.
 #include "stats/noncentral_t.hpp"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "frame/constants.hpp"
 #include "special/erf.hpp"
 #include "special/incomplete_gamma.hpp"
 #include "stats/gamma_law.hpp"
+#include "stats/law_of_scale.hpp"
 #include "stats/normal_law.hpp"
 #include "stats/peak_integral.hpp"
 
@@ -22,55 +21,18 @@ using namespace special;
 constexpr double kRootTwoPi = 2.5066282746310002;
 constexpr double kFarthest = 38.5; // beyond it normal tails underflow
 
-// phi(x) / Q(x), the relative slope of the tail.
-double hazard(double x)
-{
-    if (x < 0.75) return std::exp(-0.5 * x * x) / (kRootTwoPi * normal_upper(x));
-    return 2.0 / (kRootTwoPi * scaled_erfc(x * 0.7071067811865476));
-}
-
 // Q(x), the low part of x to first order; it counts only where the tail is steep.
 double upper_tail(DoubleDouble x)
 {
     const double tail = normal_upper(x.hi);
-    return x.hi > 1.0 ? tail * (1.0 - hazard(x.hi) * x.lo) : tail;
-}
-
-// (exp(2 v) - 1 - 2 v) / 2, relative to itself.
-double excess_of_exponential(double v)
-{
-    constexpr double kSeriesBelow = 0.25;
-    constexpr std::array kSeries{1.0,           2.0 / 3.0,      1.0 / 3.0,      2.0 / 15.0,
-                                 2.0 / 45.0,    4.0 / 315.0,    1.0 / 315.0,    2.0 / 2835.0,
-                                 2.0 / 14175.0, 4.0 / 155925.0, 2.0 / 467775.0, 4.0 / 6081075.0};
-    if (std::fabs(v) < kSeriesBelow) return v * v * polynomial(kSeries, v);
-    return 0.5 * (std::expm1(2.0 * v) - 2.0 * v);
-}
-
-struct SlopeAndCurvature {
-    double slope, curvature; // first, and minus the second derivative of a logarithm
-};
-
-// The zero of the slope of a logarithm between two ends, well enough to centre an integral: to a tenth of the peak's width.
-template <class Slope>
-double find_peak(double low, double high, double start, const Slope &slope)
-{
-    double v = start;
-    for (int step = 0; step < 100; ++step) {
-        const auto [value, curvature] = slope(v);
-        if (value * value < 0.01 * curvature) break;
-        (value > 0.0 ? low : high) = v;
-        v += value / curvature;
-        if (!(v > low && v < high)) v = 0.5 * (low + high);
-    }
-    return v;
+    return x.hi > 1.0 ? tail * (1.0 - normal_hazard(x.hi) * x.lo) : tail;
 }
 
 // The tail in question, Q(side (t s - delta)) over the law of v = ln(s), whose density is ~ exp(-df (exp(2v) - 1 - 2v) / 2).
 PeakIntegral over_scale(double t, double df, double delta, double side, MixtureLimits limits, double &factor)
 {
     const auto slope = [&](double v) {
-        const double s = std::exp(v), ts = t * s, x = side * (ts - delta), m = hazard(x);
+        const double s = std::exp(v), ts = t * s, x = side * (ts - delta), m = normal_hazard(x);
         const double of_scale = 2.0 * df * s * s;
         const double bend = x < 1e3 ? m * (m - x) : 1.0;
         const double curvature = of_scale + side * ts * m + ts * ts * bend;
@@ -82,20 +44,16 @@ PeakIntegral over_scale(double t, double df, double delta, double side, MixtureL
     const double v0 = find_peak(-far, 4.0, side > 0.0 ? start : 0.0, slope);
     const double width = 1.0 / std::sqrt(slope(v0).curvature);
 
-    const double a = 0.5 * df, x0 = a * std::exp(2.0 * v0);
-    const DoubleDouble s0 = sqrt(two_quotient(x0, a));
-    const DoubleDouble u0 = (t * s0 - delta).scaled(side);
-    const double tail0 = upper_tail(u0), ts0 = t * s0.hi, chi0 = x0 / a;
-    factor = 2.0 * a * extended_poisson_term(a, x0).rounded() * tail0;
+    const LawOfScale scale{df, v0};
+    const DoubleDouble u0 = (t * scale.s0() - delta).scaled(side);
+    const double tail0 = upper_tail(u0), ts0 = t * scale.s0().hi;
+    factor = scale.density() * tail0;
     if (!(factor > 0.0)) return {0.0, 0.0, 0.0, true};
     return integrate_peak(
         [&](double h) {
-            // df (exp(2 (v0 + h)) - exp(2 v0) - 2 h) / 2 in parts that do not cancel.
-            const double fall = df * (chi0 * excess_of_exponential(h) + (chi0 - 1.0) * h);
-            const double move = ts0 * std::expm1(h);
-            DoubleDouble u = two_sum(u0.hi, side * move);
+            DoubleDouble u = two_sum(u0.hi, side * (ts0 * std::expm1(h)));
             u.lo += u0.lo;
-            return std::exp(-fall) * (upper_tail(u) / tail0);
+            return scale.ratio(h) * (upper_tail(u) / tail0);
         },
         width, limits.tol, limits.max_terms);
 }

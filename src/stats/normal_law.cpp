@@ -29,6 +29,13 @@ double upper_residual(double x, double q)
 
 } // namespace
 
+double normal_hazard(double x)
+{
+    constexpr double kScaledFrom = 0.75; // below it nothing can underflow
+    if (x < kScaledFrom) return std::exp(-0.5 * x * x) / (kRootTwoPi * normal_upper(x));
+    return 2.0 / (kRootTwoPi * special::scaled_erfc(x * 0.7071067811865476));
+}
+
 double normal_central_quantile(double half)
 {
     if (half > kCentral) return normal_upper_quantile(0.5 - half);

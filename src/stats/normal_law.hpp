@@ -9,6 +9,9 @@ namespace kor::stats {
 inline double normal_upper(double x) { return special::normal_upper_tail(x); }
 inline double normal_lower(double x) { return special::normal_upper_tail(-x); }
 
+// Density over P(X > x), the relative slope of the upper tail.
+double normal_hazard(double x);
+
 // The x >= 0 with P(X > x) = q, 0 < q <= 1/2.
 double normal_upper_quantile(double q);
 
