@@ -6,6 +6,7 @@
 
 #include "frame/report.hpp"
 #include "sparse/coordinate.hpp"
+#include "sparse/solution.hpp"
 
 namespace kor::sparse {
 
@@ -45,6 +46,25 @@ inline bool reports_limits(const Report &report, Integer maxitn, double tol)
         return true;
     }
     return false;
+}
+
+// The report at the end of an iteration.
+inline void report_outcome(const Report &report, Solved outcome)
+{
+    switch (outcome) {
+    case Solved::converged:
+        return report.success();
+    case Solved::accuracy_limit:
+        return report.error<NE_ACC_LIMIT>();
+    case Solved::not_converged:
+        return report.error<NE_NOT_REQ_ACC>();
+    case Solved::not_definite:
+        return report.error<NE_COEFF_NOT_POS_DEF>();
+    case Solved::preconditioner_not_definite:
+        return report.error<NE_PRECOND_NOT_POS_DEF>();
+    case Solved::no_memory:
+        return report.error<NE_ALLOC_FAIL>();
+    }
 }
 
 } // namespace kor::sparse
