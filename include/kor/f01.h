@@ -193,14 +193,15 @@ void f01apc(Integer n, Integer low, Integer high, const Integer intger[], const 
 /// \par Accuracy
 /// Exact if ib is a power of 2.
 /// \par Method
-/// B. N. Parlett and C. Reinsch, Numer. Math. 13 (1969) 293-304.
+/// B. N. Parlett and C. Reinsch, Numer. Math. 13 (1969) 293-304, with Euclidean norms of rows and columns, the diagonal
+/// included, which keeps well-scaled matrices as they are.
 /// \par Thread safety
 /// Safe.
 /// \par Example
 /// \code{.c}
 /// double a[] = {1.0, 1024.0,  0.0009765625, 2.0}, d[2];
 /// Integer low, high;
-/// f01atc(2, 2, a, 2, &low, &high, d);   // a = {1, 1, 1, 2}, low = 1, high = 2, d = {1024, 1}
+/// f01atc(2, 2, a, 2, &low, &high, d);   // a = {1, 2, 0.5, 2}, low = 1, high = 2, d = {128, 0.25}
 /// \endcode
 void f01atc(Integer n, Integer ib, double a[], Integer tda, Integer *low, Integer *high, double d[]);
 
@@ -223,7 +224,7 @@ void f01atc(Integer n, Integer ib, double a[], Integer tda, Integer *low, Intege
 /// \par Example
 /// \code{.c}
 /// double z[] = {1.0, 0.0,  0.0, 1.0};
-/// f01auc(2, low, high, 2, d, z, 2);     // after f01atc(): z = {1024, 0,  0, 1}
+/// f01auc(2, low, high, 2, d, z, 2);     // after f01atc(): z = {128, 0,  0, 0.25}
 /// \endcode
 void f01auc(Integer n, Integer low, Integer high, Integer m, const double d[], double z[], Integer tdz);
 

@@ -1,4 +1,6 @@
-// Balancing after B. N. Parlett and C. Reinsch, Numer. Math. 13 (1969) 293-304.
+// Balancing after B. N. Parlett and C. Reinsch, Numer. Math. 13 (1969) 293-304, by Euclidean norms that take in the diagonal:
+// else a matrix near to Hessenberg form may be scaled until its vectors are lost. R. James, J. Langou and B. R. Lowery, On
+// matrix balancing and eigenvector computation, arXiv:1401.5766 (2014).
 #include "linalg/balance.hpp"
 
 #include <algorithm>
@@ -6,6 +8,7 @@
 
 #include "frame/constants.hpp"
 #include "frame/views.hpp"
+#include "linalg/norm.hpp"
 
 namespace kor::linalg {
 
@@ -62,12 +65,8 @@ BalancedRange balance(Integer n, double base, double *a, Integer tda, double *d)
     for (bool changed = true; changed;) {
         changed = false;
         for (Integer i = low; i <= high; ++i) {
-            double column = 0.0, row = 0.0;
-            for (Integer j = low; j <= high; ++j) {
-                if (j == i) continue;
-                column += std::fabs(A(j, i));
-                row += std::fabs(A(i, j));
-            }
+            const double column = euclidean_norm(high - low + 1, &A(low, i), tda);
+            const double row = euclidean_norm(high - low + 1, &A(i, low), 1);
             if (column == 0.0 || row == 0.0 || !std::isfinite(column + row)) continue;
             double factor = 1.0, scaled = column;
             while (scaled < row / base && factor < kGreatestFactor) {

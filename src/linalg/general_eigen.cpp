@@ -159,9 +159,19 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
 
     const double least_alfa = tol > kPrecision ? tol * norm_a : 0.0, least_beta = tol > kPrecision ? tol * norm_b : 0.0;
     for (Integer j = 0; j < n; ++j) {
-        alfa[j] = modulus(Complex{re[j], im[j]}) <= least_alfa ? Complex{} : Complex{re[j], im[j]};
-        if (beta[j] <= least_beta) beta[j] = 0.0;
-        iter[j] = 0;
+        // The two of a pair are scaled each in its way, but they stand or fall together.
+        const Integer last = im[j] > 0.0 ? j + 1 : j;
+        bool no_alfa = false, no_beta = false;
+        for (Integer k = j; k <= last; ++k) {
+            no_alfa |= modulus(Complex{re[k], im[k]}) <= least_alfa;
+            no_beta |= beta[k] <= least_beta;
+        }
+        for (Integer k = j; k <= last; ++k) {
+            alfa[k] = no_alfa ? Complex{} : Complex{re[k], im[k]};
+            if (no_beta) beta[k] = 0.0;
+            iter[k] = 0;
+        }
+        j = last;
     }
     if (v == nullptr) return EigenOutcome::success;
 

@@ -173,10 +173,10 @@ SingularOutcome decompose_tall_with_rhs(Integer m, Integer n, T *a, Integer tda,
              *const tau = q1 + std::ptrdiff_t{n} * n;
     for (std::ptrdiff_t i = 0; i < m; ++i) std::copy(a + i * tda, a + i * tda + n, factors + i * n);
 
-    T best[3];
+    T best[3]{};
     lapack::gelqf(n, m, factors, n, tau, &best[0], -1);
     lapack::ormlq('R', kAdjoint, ncolb, m, n, factors, n, tau, b, tdb, &best[1], -1);
-    lapack::ormlq('R', 'N', n, m, n, factors, n, tau, vectors.q, vectors.tdq, &best[2], -1);
+    if (vectors.q != nullptr) lapack::ormlq('R', 'N', n, m, n, factors, n, tau, vectors.q, vectors.tdq, &best[2], -1);
     const Integer lwork = static_cast<Integer>(std::max({real(best[0]), real(best[1]), real(best[2])}));
     Workspace<T> work(Count{lwork});
     if (!work) return SingularOutcome::no_memory;
