@@ -274,6 +274,72 @@ void e02bcc(Integer derivs, double x, double s[4], const KorSpline *spline, KorE
 /// \endcode
 void e02bdc(double *integral, const KorSpline *spline, KorError *fail);
 
+/// \brief The smoothing cubic spline: it chooses its knots so that the sum of squared residuals comes to a given value.
+///
+/// Among the splines on its knots with a weighted sum of squares fp = sum (`weights[r]` (`y[r]` - s(`x[r]`)))^2 of at most `s`,
+/// the smoothest: the jumps of its third derivative are least. With weights that are the reciprocals of the standard
+/// deviations of `y`, values of `s` from m - sqrt(2m) to m + sqrt(2m) are right. Without that knowledge start with a large
+/// `s`, and go down by warm starts until the curve follows the data but not their noise.
+///
+/// \param[in]  start   Kor_Cold: from the beginning; Kor_Warm: from the knots and the state that an earlier call with the same
+///                     points has left, usually with another `s` or a larger `nest`
+/// \param[in]  m       number of points, at least 4
+/// \param[in]  x       `m` abscissae, strictly increasing
+/// \param[in]  y       `m` ordinates
+/// \param[in]  weights `m` weights, greater than 0
+/// \param[in]  s       the smoothing factor, at least 0; with 0 the spline interpolates
+/// \param[in]  nest    the greatest number of knots allowed: at least 8, more than `m`/2, and at least `m`+4 if `s` is 0;
+///                     `m`+4 is always enough. Memory is taken for `m`+4 knots at most, whatever its value
+/// \param[out] fp      the sum of squares: within 0.001 `s` of `s`; less if no interior knot is needed; 0 for an interpolating
+///                     spline
+/// \param[in,out] warmstartinf what a warm start needs; may be null for a cold start, and then nothing is kept. A cold start
+///                     does not look at what the record holds and allocates its arrays; a warm start replaces them. The
+///                     caller releases `wrk` and `iwrk`
+/// \param[in,out] spline the spline, `n` knots and `n` elements of coefficients; for a warm start on entry the spline of the
+///                     earlier call, whose arrays are replaced. The caller releases `lamda` and `c`
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `start` is neither Kor_Cold nor Kor_Warm.
+/// - NE_INT_ARG_LT: `m` is less than 4.
+/// - NE_NOT_STRICTLY_INCREASING: `x` is not strictly increasing, or holds a NaN.
+/// - NE_REAL_ARRAY_CONS: an abscissa or an ordinate is not finite.
+/// - NE_WEIGHTS_NOT_POSITIVE: a weight is not positive.
+/// - NE_REAL_ARG_LT: `s` is less than 0.
+/// - NE_SF_D_K_CONS: `nest` is too small.
+/// - NE_ENUMTYPE_WARM: `start` is Kor_Warm, but `warmstartinf` and `spline` do not hold the results of an earlier call with
+///   these points.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_NUM_KNOTS_1D_GT: more than `nest` knots are needed; the least-squares spline on the knots so far is returned, and a
+///   warm start with a larger `nest` goes on from there.
+/// - NE_SPLINE_COEFF_CONV: the smoothing parameter was not found; `s` may be too small. The last spline is returned.
+///
+/// After the last two the outputs are set; after the others they are untouched.
+/// \par Accuracy
+/// |fp - `s`| is less than 0.001 `s`.
+/// \par Method
+/// Knots are added where the residuals are largest until a least-squares spline reaches `s`; then the smoothing parameter is
+/// found by rational interpolation. P. Dierckx, J. Comput. Appl. Math. 1 (1975) 165-184, and Curve and Surface Fitting with
+/// Splines (1993), chapter 5. Each trial takes a time proportional to `m`.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// e02bbc(), e02bcc(), e02bdc() use the spline; e02bac() takes knots of your own.
+/// \par Example
+/// \code{.c}
+/// KorSpline spline;
+/// KorSplineWarm state;
+/// e02bec(Kor_Cold, m, x, y, weights, 100.0, m + 4, &fp, &state, &spline, &fail);
+/// e02bec(Kor_Warm, m, x, y, weights, 50.0, m + 4, &fp, &state, &spline, &fail);   // goes on from there
+/// ...
+/// x04bdc((void **)&spline.lamda);
+/// x04bdc((void **)&spline.c);
+/// x04bdc((void **)&state.wrk);
+/// x04bdc((void **)&state.iwrk);
+/// \endcode
+void e02bec(Integer start, Integer m, const double x[], const double y[], const double weights[], double s, Integer nest,
+            double *fp, KorSplineWarm *warmstartinf, KorSpline *spline, KorError *fail);
+
 /// \brief Values of a bicubic spline at points that are linked panel by panel.
 ///
 /// As e02dec(), for many points in no order that are evaluated again and again: once e02zac() has linked them, no

@@ -148,6 +148,7 @@ struct GrowingKnots {
         n = m + kOrder;
         std::copy_n(x + 2, m - kOrder, t + kOrder);
         set_ends();
+        std::fill_n(inside, intervals(), 0); // nothing can be added any more
     }
 
     // Splits the interval with the largest share, among those that have points inside, at its middle point. The shares of
@@ -183,8 +184,8 @@ struct GrowingKnots {
     static Integer number_to_add(Integer added, double gain, double excess, double accuracy)
     {
         double wanted = 2.0 * added;
-        if (gain > accuracy) wanted = added * excess / gain;
-        return static_cast<Integer>(std::min(2.0 * added, std::max({wanted, added / 2.0, 1.0})));
+        if (gain > accuracy && added * excess / gain < wanted) wanted = added * excess / gain;
+        return static_cast<Integer>(std::max({wanted, added / 2.0, 1.0}));
     }
 
     // Adds that many, or all that may be had.

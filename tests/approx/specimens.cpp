@@ -25,6 +25,12 @@ void release(KorSpline &spline)
     x04bdc(reinterpret_cast<void **>(&spline.c));
 }
 
+void release(KorSplineWarm &state)
+{
+    x04bdc(reinterpret_cast<void **>(&state.wrk));
+    x04bdc(reinterpret_cast<void **>(&state.iwrk));
+}
+
 void release(KorSpline2D &spline)
 {
     x04bdc(reinterpret_cast<void **>(&spline.lamda));
@@ -161,4 +167,16 @@ KOR_SPECIMEN(e02zac)
     Integer point[4] = {-1, -1, -1, -1};
     call([&](KorError *fail) { e02zac(8, 8, kLamda, kLamda, 3, kPoints, kPoints, point, 4, fail); });
     outputs(point);
+}
+
+KOR_SPECIMEN(e02bec)
+{
+    KorSpline spline{};
+    KorSplineWarm state{};
+    double fp = 99.0;
+    call([&](KorError *fail) { e02bec(Kor_Cold, 6, kX, kY, kOnes, 0.5, 10, &fp, &state, &spline, fail); });
+    outputs(fp, spline.n);
+    if (spline.c != nullptr) outputs(spline.c, spline.n);
+    release(spline);
+    release(state);
 }
