@@ -9,6 +9,142 @@ KOR_BEGIN_DECLS
 
 // Inverses, transposition, triangular and orthogonal factors
 
+/// \brief Inverse of a real matrix.
+///
+/// Finds X = A^-1 from PA = LU.
+///
+/// \param[in,out] a    n by n, element (i, j) at `a[i * tda + j]`: A; on return its factors, as f03afc() leaves them
+/// \param[in]     tda  length of a row of the array `a`, at least `n`
+/// \param[in]     n    order of A, at least 1
+/// \param[out]    unit not used; may be null
+/// \param[out]    x    n by n, row-major: the inverse
+/// \param[in]     tdx  length of a row of the array `x`, at least `n`
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_2_INT_ARG_LT: `tda` or `tdx` is less than `n`.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_SINGULAR: A is singular, or nearly so; `fail->errnum` is the stage, from 1, at which no scaled pivot reached 8
+///   times the precision. `a` is partly reduced, `x` untouched.
+/// \par Accuracy
+/// The error of X is about n times the precision times the condition number of A, relative to X; |XA - I| is of that
+/// size too.
+/// \par Method
+/// The factors as f03afc(); then the inverse of U, and XL = U^-1 by columns (J. J. Du Croz and N. J. Higham, IMA J.
+/// Numer. Anal. 12 (1992) 1-19). To solve a system, f04arc() is quicker and more accurate than a product with the
+/// inverse.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// f01adc() and f01acc() for symmetric positive-definite matrices; f04aec() with a unit matrix on the right gives a
+/// fully accurate inverse.
+/// \par Example
+/// \code{.c}
+/// double a[] = {1.0, 2.0, 3.0, 4.0}, x[4];
+/// f01aac(a, 2, 2, NULL, x, 2, &fail);   // x = {-2, 1, 1.5, -0.5}
+/// \endcode
+void f01aac(double a[], Integer tda, Integer n, double unit[], double x[], Integer tdx, KorError *fail);
+
+/// \brief Inverse of a real symmetric positive-definite matrix, to full accuracy.
+///
+/// Finds B = A^-1 from A = LL', and refines it with residuals in doubled precision.
+///
+/// \param[in]     n          order of A, at least 1
+/// \param[in,out] a          n by n, element (i, j) at `a[i * tda + j]`: the upper triangle of A, which stays; on
+///                           return L below the diagonal, without its diagonal
+/// \param[in]     tda        length of a row of the array `a`, at least `n`
+/// \param[out]    b          n by n, row-major: the inverse, both triangles
+/// \param[in]     tdb        length of a row of the array `b`, at least `n`
+/// \param[out]    iterations number of solutions with the factor
+/// \return 0: done; 1: A is not positive definite; 2: A is too ill-conditioned for the refinement to converge; 3: `n`
+///     is less than 1, or `tda` or `tdb` less than `n`; 4: there is not enough memory
+///
+/// \par Errors
+/// None, and no error record: the result tells. With 3 and 4 everything is untouched; with 1 `b` is.
+/// \par Accuracy
+/// Each column of the inverse is accurate to the last bit or two of its greatest element, whatever the condition of A.
+/// It is exactly symmetric.
+/// \par Method
+/// Iterative refinement of all columns at once: J. H. Wilkinson and C. Reinsch, Linear Algebra (1971), contribution
+/// I/2.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// f01adc() does without refinement, in the place of A.
+/// \par Example
+/// \code{.c}
+/// double a[] = {4.0, 2.0, 0.0, 5.0}, b[4];
+/// Integer iterations, status = f01acc(2, a, 2, b, 2, &iterations);   // b = {0.3125, -0.125, -0.125, 0.25}
+/// \endcode
+Integer f01acc(Integer n, double a[], Integer tda, double b[], Integer tdb, Integer *iterations);
+
+/// \brief Inverse of a real symmetric positive-definite matrix, in its place.
+///
+/// Replaces A by its inverse, from A = U'U.
+///
+/// \param[in]     n   order of A, at least 1
+/// \param[in,out] a   n by n, element (i, j) at `a[i * tda + j]`: the upper triangle of A; on return the inverse, both
+///                    triangles
+/// \param[in]     tda length of a row of the array `a`, at least `n`
+/// \return 0: done; 1: A is not positive definite, and `a` is partly overwritten; 3: `n` is less than 1, or `tda` less
+///     than `n`, and `a` is untouched
+///
+/// \par Errors
+/// None, and no error record: the result tells.
+/// \par Accuracy
+/// The error of the inverse is about n times the precision times the condition number of A, relative to it. It is
+/// exactly symmetric.
+/// \par Method
+/// As f07fdc(); then the inverse of U, times its transpose (potri of LAPACK).
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// f01acc() refines the inverse to full accuracy; f01aac() for general matrices.
+/// \par Example
+/// \code{.c}
+/// double a[] = {4.0, 2.0, 0.0, 5.0};
+/// Integer status = f01adc(2, a, 2);   // a = {0.3125, -0.125, -0.125, 0.25}
+/// \endcode
+Integer f01adc(Integer n, double a[], Integer tda);
+
+/// \brief Cholesky factorisation of a complex Hermitian positive-definite matrix.
+///
+/// Finds the lower triangular L with A = LL^H, its diagonal real and positive. The upper triangle of the array keeps A.
+///
+/// \param[in]     n    order of A, at least 1
+/// \param[in,out] a    n by n, element (i, j) at `a[i * tda + j]`: on entry the upper triangle of A with its diagonal,
+///                     which stay; on return L below the diagonal, without its diagonal
+/// \param[in]     tda  length of a row of the array `a`, at least `n`
+/// \param[out]    p    n elements: the reciprocals of the diagonal of L
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_2_INT_ARG_LT: `tda` is less than `n`.
+/// - NE_DIAG_IMAG_NON_ZERO: a diagonal element has an imaginary part that is not zero; the message tells which, from 0.
+/// - NE_NOT_POS_DEF: A is not positive definite, or holds a NaN or an infinity; `fail->errnum` is the order k of the
+///   first leading minor that is not positive. `p` holds the k - 1 reciprocals known and zeros; the upper triangle
+///   still holds A.
+///
+/// After the first three the outputs are untouched.
+/// \par Accuracy
+/// Backward stable: L is exact for a matrix that differs from A, in each element, by about n times the precision times
+/// the geometric mean of two diagonal elements.
+/// \par Method
+/// Cholesky factorisation by halves, as f03aec().
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// f04awc() solves with the factor; f03aec() for real matrices.
+/// \par Example
+/// \code{.c}
+/// Complex a[] = {{2.0, 0.0}, {0.0, 1.0}, {0.0, 0.0}, {2.0, 0.0}};
+/// double p[2];
+/// f01bnc(2, a, 2, p, &fail);   // p = {0.707107, 0.816497}; a[2] = -0.707107 i
+/// \endcode
+void f01bnc(Integer n, Complex a[], Integer tda, double p[], KorError *fail);
+
 // Reductions towards eigenvalues and singular values
 
 /// \brief Reduces A x = lambda B x, A symmetric and B symmetric positive-definite, to a standard symmetric problem.

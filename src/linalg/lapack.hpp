@@ -19,6 +19,9 @@ void dgbtrf_(const Integer *m, const Integer *n, const Integer *kl, const Intege
 void dgbtrs_(const char *trans, const Integer *n, const Integer *kl, const Integer *ku, const Integer *nrhs,
              const double *ab, const Integer *ldab, const Integer *ipiv, double *b, const Integer *ldb, Integer *info,
              size_t);
+void dpotri_(const char *uplo, const Integer *n, double *a, const Integer *lda, Integer *info, std::size_t uplo_length);
+void dtrtri_(const char *uplo, const char *diag, const Integer *n, double *a, const Integer *lda, Integer *info,
+             std::size_t uplo_length, std::size_t diag_length);
 void dgelqf_(const Integer *m, const Integer *n, double *a, const Integer *lda, double *tau, double *work,
              const Integer *lwork, Integer *info);
 void dorglq_(const Integer *m, const Integer *n, const Integer *k, double *a, const Integer *lda, const double *tau,
@@ -81,6 +84,24 @@ inline Integer gbtrs(char trans, Integer n, Integer kl, Integer ku, Integer nrhs
 {
     Integer info = 0;
     dgbtrs_(&trans, &n, &kl, &ku, &nrhs, ab, &ldab, ipiv, b, &ldb, &info, 1);
+    return info;
+}
+
+// The inverse of A from its Cholesky factor, in the same triangle.
+inline Integer potri(Integer uplo, Integer n, double *a, Integer lda)
+{
+    const char triangle = uplo_of(uplo);
+    Integer info = 0;
+    dpotri_(&triangle, &n, a, &lda, &info, 1);
+    return info;
+}
+
+// The inverse of a triangle.
+inline Integer trtri(Integer uplo, Integer diag, Integer n, double *a, Integer lda)
+{
+    const char triangle = uplo_of(uplo), diagonal = diag == UnitTriangular ? 'U' : 'N';
+    Integer info = 0;
+    dtrtri_(&triangle, &diagonal, &n, a, &lda, &info, 1, 1);
     return info;
 }
 
