@@ -29,8 +29,9 @@ constexpr double kNodePart = 1e-3; // of the tolerance: what their iteration may
 constexpr int kCorrections = 8;
 constexpr double kMeaningful = 0.3; // a correction beyond this part of the solution tells nothing
 constexpr double kRounding = 1e3 * kPrecision;
-constexpr int kContinuationSteps = 2000;
-constexpr double kCrude = 1e-3; // relative accuracy on the way to eps = 1
+constexpr int kContinuationSteps = 500;
+constexpr double kCreeping = 1e-5; // steps so short get nowhere
+constexpr double kCrude = 1e-3;    // relative accuracy on the way to eps = 1
 constexpr double kParameterDifference = 1e-6;
 // The path from mild slopes to the true ones: where it begins, and its first step in the logarithm.
 constexpr double kMildStiffness = 5.0;
@@ -792,7 +793,7 @@ BoundaryStatus BoundarySolver::follow(Path path, double start, double end, doubl
         }
         if (parameter_ == end) return adapt(tol);
     }
-    return BoundaryStatus::continuation;
+    return *step <= kCreeping ? BoundaryStatus::increment : BoundaryStatus::continuation;
 }
 
 // A bound on how fast solutions can change, times the length of the range.
