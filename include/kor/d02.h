@@ -575,6 +575,58 @@ typedef struct {
     double kept[64];        ///< kept for the library
 } KorBdfState;
 
+/// \brief Integrates a system of ordinary differential equations over a range, with output on the way and a stop at a root.
+///
+/// Solves y' = f(x, y) from `x` to `xend`, in either direction, by a method for problems that are not stiff. The output function,
+/// if there is one, sees the solution at points of its own choice; with a function g the integration stops where g(x, y(x))
+/// changes its sign. Nothing is evaluated beyond `xend`.
+///
+/// \param[in]  neq  number of equations, at least 1
+/// \param[in]  fcn  puts the slopes f(x, y), `neq` values, into `f`; called on this thread
+/// \param[in,out] x start of the range; on exit the point reached: `xend`, the root, or where an error stopped it
+/// \param[in,out] y `neq` elements: the solution at the start; on exit at the point reached
+/// \param[in]  xend end of the range, different from `x`
+/// \param[in]  tol  accuracy wanted, greater than 0, in the measure `err_c`
+/// \param[in]  err_c the measure of an error e_i of y_i: Kor_Relative |e_i| <= tol |y_i|, Kor_Absolute |e_i| <= tol, Kor_Mixed
+///                  |e_i| <= tol (1 + |y_i|), in the Euclidean norm over the components. The relative measure asks nothing of
+///                  parts of y below the rounding errors of its greatest starting value
+/// \param[in]  output called first at the starting point, then at each point that it has asked for; must put the next such point,
+///                  further on in the direction of integration, into `*xsol`, which comes with the point of the call. A point
+///                  beyond `xend` ends the output. May be null
+/// \param[in]  g    stops the integration where it changes its sign; a zero at the starting point itself does not count. Signs are
+///                  compared from step to step: a pair of roots within one step may be passed by. May be null
+/// \param[in]  comm passed to the functions as it stands, never read; may be null
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// As d02ejc().
+/// \par Accuracy
+/// Each step makes an error of at most `tol`; the error at the end is proportional to it. The root lies where the computed
+/// solution has it, to the last bits of x.
+/// \par Method
+/// Adams method of orders 1 to 12 with variable coefficients, in modified divided differences, each step corrected once.
+/// L. F. Shampine and M. K. Gordon, Computer Solution of Ordinary Differential Equations (1975).
+/// \par Thread safety
+/// Safe and reentrant.
+/// \par See also
+/// d02ejc() for stiff problems; d02qfc() for the same method with more control.
+/// \par Example
+/// \code{.c}
+/// static void projectile(Integer neq, double t, const double y[], double f[], void *comm)   // height, speed
+/// {
+///     f[0] = y[1];
+///     f[1] = -9.81 - 0.01 * y[1] * fabs(y[1]);
+/// }
+/// static double ground(Integer neq, double t, const double y[], void *comm) { return y[0]; }
+/// ...
+/// double t = 0.0, y[2] = {0.0, 30.0};
+/// d02cjc(2, projectile, &t, y, 20.0, 1e-8, Kor_Mixed, NULL, ground, NULL, &fail);   // t: when it comes down
+/// \endcode
+void d02cjc(Integer neq, void (*fcn)(Integer neq, double x, const double y[], double f[], void *comm), double *x,
+            double y[], double xend, double tol, Integer err_c,
+            void (*output)(Integer neq, double *xsol, const double y[], void *comm),
+            double (*g)(Integer neq, double x, const double y[], void *comm), void *comm, KorError *fail);
+
 /// \brief Integrates a stiff system of ordinary differential equations over a range, with output on the way and a stop at a root.
 ///
 /// Solves y' = f(x, y) from `x` to `xend`, in either direction. The output function, if there is one, sees the solution at points

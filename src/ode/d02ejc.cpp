@@ -6,7 +6,7 @@
 
 #include "frame/workspace.hpp"
 #include "ode/bdf.hpp"
-#include "ode/range_report.hpp"
+#include "ode/range_driver.hpp"
 
 using namespace kor::ode;
 
@@ -15,6 +15,72 @@ namespace {
 constexpr Integer kHistory = 6, kMaxOrder = 5;
 constexpr double kLeastRelative = 5.0 * kor::kPrecision;
 constexpr Integer kScalarTolerances = 1;
+
+using Slopes = void (*)(Integer neq, double x, const double y[], double f[], void *comm);
+
+// The kernels, step by step.
+class Stiff {
+  public:
+    bool allocate(Integer neq)
+    {
+        const kor::Count n{neq};
+        return jacobian_.allocate(n * n) && matrix_.allocate(n * (n + 5)) && history_.allocate(n * kHistory) &&
+               vectors_.allocate(n * 4) && pivots_.allocate(n);
+    }
+    double *scratch() { return vectors_.data() + 3 * vectors_.size() / 4; }
+
+    void start(Integer neq, Slopes fcn, Slopes pederv, void *comm, double x, const double *y, double xend,
+               RangeTolerances tolerances)
+    {
+        neq_ = neq;
+        fcn_ = fcn;
+        pederv_ = pederv;
+        comm_ = comm;
+        t_ = x;
+        xend_ = xend;
+        tolerances_ = tolerances;
+        std::copy_n(y, neq, vectors_.data());
+        Integer status;
+        d02nvc(neq, kHistory, kMaxOrder, &st_, &status);
+        d02nsc(neq, pederv != nullptr ? "ANALYT" : "NUMERI", &st_, &status);
+        st_.ysav = history_.data();
+        st_.work = matrix_.data();
+        st_.iwork = pivots_.data();
+        st_.one_step = st_.crit = 1;
+        st_.tcrit = xend;
+    }
+
+    bool step()
+    {
+        double *const u = vectors_.data(), *const slope = u + neq_, *const correction = slope + neq_;
+        Integer request = 0, status;
+        do {
+            d02nmc(neq_, &t_, xend_, u, slope, &tolerances_.relative, &tolerances_.absolute, kScalarTolerances,
+                   correction, jacobian_.data(), &st_, &request, &status);
+            if (request == static_cast<Integer>(BdfRequest::slope)) fcn_(neq_, t_, u, slope, comm_);
+            if (request == static_cast<Integer>(BdfRequest::jacobian)) pederv_(neq_, t_, u, jacobian_.data(), comm_);
+        } while (request != 0);
+        return status == 0;
+    }
+    bool started() const { return st_.steps > 0; }
+    double t() const { return t_; }
+    const double *y() const { return vectors_.data(); }
+    void interpolate(double t, double *sol) const
+    {
+        Integer ignored;
+        d02xkc(t, sol, neq_, history_.data(), neq_, kHistory, &st_, &ignored);
+    }
+
+  private:
+    kor::Workspace<double> jacobian_, matrix_, history_, vectors_;
+    kor::Workspace<Integer> pivots_;
+    KorBdfState st_;
+    Integer neq_;
+    Slopes fcn_, pederv_;
+    void *comm_;
+    double t_, xend_;
+    RangeTolerances tolerances_;
+};
 
 } // namespace
 
@@ -26,61 +92,8 @@ void d02ejc(Integer neq, void (*fcn)(Integer neq, double x, const double y[], do
 {
     const kor::Report report{"d02ejc", fail};
     if (!range_accepted(report, neq, tol, *x, xend, err_c)) return;
-
-    const kor::Count n{neq};
-    const kor::Workspace<double> jacobian{n * n}, matrix{n * (n + 5)}, history{n * kHistory}, vectors{n * 4};
-    const kor::Workspace<Integer> pivots{n};
-    if (!jacobian || !matrix || !history || !vectors || !pivots) return report.error<NE_ALLOC_FAIL>();
-    double *const u = vectors.data(), *const slope = u + neq, *const correction = slope + neq,
-                  *const scratch = correction + neq;
-
-    KorBdfState st;
-    Integer status;
-    d02nvc(neq, kHistory, kMaxOrder, &st, &status);
-    d02nsc(neq, pederv != nullptr ? "ANALYT" : "NUMERI", &st, &status);
-    st.ysav = history.data();
-    st.work = matrix.data();
-    st.iwork = pivots.data();
-    st.one_step = st.crit = 1;
-    st.tcrit = xend;
-
-    std::copy_n(y, neq, u);
-    const RangeTolerances tolerances = range_tolerances(tol, err_c, kLeastRelative, neq, y);
-    RangeWatch watch{neq, *x, xend, output, g, comm, scratch};
-    WatchOutcome outcome = watch.start(u);
-    if (outcome != WatchOutcome::go_on) return report_output_point(report, watch, outcome);
-
-    double t = *x;
-    const auto interpolate = [&](double at, double *sol) {
-        Integer ignored;
-        d02xkc(at, sol, neq, history.data(), neq, kHistory, &st, &ignored);
-    };
-    while (st.steps == 0 || t != xend) {
-        Integer request = 0;
-        do {
-            d02nmc(neq, &t, xend, u, slope, &tolerances.relative, &tolerances.absolute, kScalarTolerances, correction,
-                   jacobian.data(), &st, &request, &status);
-            if (request == static_cast<Integer>(BdfRequest::slope)) fcn(neq, t, u, slope, comm);
-            if (request == static_cast<Integer>(BdfRequest::jacobian)) pederv(neq, t, u, jacobian.data(), comm);
-        } while (request != 0);
-        if (status != 0) break;
-        outcome = watch.step(t, u, interpolate);
-        if (outcome != WatchOutcome::go_on) break;
-    }
-
-    if (status != 0) {
-        if (st.steps == 0) return report.error<NE_TOL_TOO_SMALL>(tol);
-        *x = t;
-        std::copy_n(u, neq, y);
-        return report.error<NE_TOL_PROGRESS>(tol, t);
-    }
-    *x = outcome == WatchOutcome::go_on ? xend : watch.x();
-    if (*x == t)
-        std::copy_n(u, neq, y);
-    else
-        interpolate(*x, y);
-    if (outcome == WatchOutcome::root) return report.success();
-    if (outcome != WatchOutcome::go_on) return report_output_point(report, watch, outcome);
-    if (g != nullptr) return report.error<NE_NO_SIGN_CHANGE>();
-    report.success();
+    Stiff integrator;
+    if (!integrator.allocate(neq)) return report.error<NE_ALLOC_FAIL>();
+    integrator.start(neq, fcn, pederv, comm, *x, y, xend, range_tolerances(tol, err_c, kLeastRelative, neq, y));
+    integrate_range(report, {neq, x, y, xend, tol, output, g, comm, integrator.scratch()}, integrator);
 }

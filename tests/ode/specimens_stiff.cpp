@@ -44,6 +44,13 @@ struct Stiff {
 
 } // namespace
 
+KOR_SPECIMEN(d02cjc)
+{
+    double x = 0.0, y[2] = {1.0, 2.0};
+    call([&](KorError *fail) { d02cjc(2, decay, &x, y, 1.0, 1e-6, Kor_Mixed, every_half, crossing, nullptr, fail); });
+    outputs(x, y);
+}
+
 KOR_SPECIMEN(d02ejc)
 {
     double x = 0.0, y[2] = {1.0, 2.0};

@@ -96,6 +96,15 @@ TEST(Stiff, AchievesErrorsInProportionToTheTolerance)
         }
 }
 
+// Either driver, as one without a Jacobian.
+using Driver = void (*)(Integer, void (*)(Integer, double, const double[], double[], void *), double *, double[],
+                        double, double, Integer, void (*)(Integer, double *, const double[], void *),
+                        double (*)(Integer, double, const double[], void *), void *, KorError *);
+const Driver kDrivers[] = {d02cjc, [](Integer neq, auto *fcn, double *x, double y[], double xend, double tol,
+                                      Integer err_c, auto *output, auto *g, void *comm, KorError *fail) {
+                               d02ejc(neq, fcn, nullptr, x, y, xend, tol, err_c, output, g, comm, fail);
+                           }};
+
 // u_t = u_xx / 100 + u^2 (1 - u) / 4 on a line of 200 points.
 struct Line {
     static constexpr Integer n = 200;
@@ -167,13 +176,16 @@ struct Watcher {
     }
 };
 
-TEST(Stiff, ShowsTheSolutionWhereItIsWantedAndStopsAtTheRoot)
+class EitherDriver : public ::testing::TestWithParam<Driver> {};
+
+TEST_P(EitherDriver, ShowsTheSolutionWhereItIsWantedAndStopsAtTheRoot)
 {
+    const Driver driver = GetParam();
     Watcher w;
     w.wanted = {0.25, 0.25 + 1e-9, 0.5, 2.0, 99.0};
     double x = 0.0, y[1] = {1.0};
     Record fail;
-    d02ejc(1, Watcher::decay, nullptr, &x, y, 2.0, 1e-9, Kor_Mixed, Watcher::output, nullptr, &w, &fail);
+    driver(1, Watcher::decay, &x, y, 2.0, 1e-9, Kor_Mixed, Watcher::output, nullptr, &w, &fail);
     EXPECT_SUCCESS(fail);
     EXPECT_EQ(w.seen, (std::vector<double>{0.0, 0.25, 0.25 + 1e-9, 0.5, 2.0}));
     for (std::size_t i = 0; i < w.seen.size(); ++i) EXPECT_NEAR(w.values[i], std::exp(-w.seen[i]), 2e-8);
@@ -186,7 +198,7 @@ TEST(Stiff, ShowsTheSolutionWhereItIsWantedAndStopsAtTheRoot)
         r.wanted = {end / 6, end / 2};
         x = 0.0;
         y[0] = 1.0;
-        d02ejc(1, Watcher::decay, nullptr, &x, y, end, 1e-10, Kor_Relative, Watcher::output, Watcher::g, &r, &fail);
+        driver(1, Watcher::decay, &x, y, end, 1e-10, Kor_Relative, Watcher::output, Watcher::g, &r, &fail);
         EXPECT_SUCCESS(fail);
         EXPECT_NEAR(x, -std::log(r.level), 1e-8);
         EXPECT_NEAR(y[0], r.level, 1e-15 * r.level);
@@ -197,21 +209,22 @@ TEST(Stiff, ShowsTheSolutionWhereItIsWantedAndStopsAtTheRoot)
     never.level = -1.0;
     x = 0.0;
     y[0] = 1.0;
-    d02ejc(1, Watcher::decay, nullptr, &x, y, 2.0, 1e-9, Kor_Mixed, nullptr, Watcher::g, &never, &fail);
+    driver(1, Watcher::decay, &x, y, 2.0, 1e-9, Kor_Mixed, nullptr, Watcher::g, &never, &fail);
     EXPECT_REPORT(fail, NE_NO_SIGN_CHANGE);
     EXPECT_EQ(x, 2.0);
     EXPECT_NEAR(y[0], std::exp(-2.0), 1e-7);
 }
 
-TEST(Stiff, RefusesWrongOutputPoints)
+TEST_P(EitherDriver, RefusesWrongOutputPoints)
 {
-    const auto run = [](std::vector<double> wanted, double &x) {
+    const Driver driver = GetParam();
+    const auto run = [driver](std::vector<double> wanted, double &x) {
         Watcher w;
         w.wanted = std::move(wanted);
         double y[1] = {1.0};
         Record fail;
         x = 0.0;
-        d02ejc(1, Watcher::decay, nullptr, &x, y, 2.0, 1e-9, Kor_Mixed, Watcher::output, nullptr, &w, &fail);
+        driver(1, Watcher::decay, &x, y, 2.0, 1e-9, Kor_Mixed, Watcher::output, nullptr, &w, &fail);
         return fail;
     };
     double x;
@@ -224,13 +237,14 @@ TEST(Stiff, RefusesWrongOutputPoints)
     EXPECT_REPORT(run({1.0, 0.5}, x), NE_XSOL_INCONSIST, 0.5, 1.0);
 }
 
-TEST(Stiff, RefusesBadArgumentsInOrder)
+TEST_P(EitherDriver, RefusesBadArgumentsInOrder)
 {
-    const auto run = [](Integer neq, double tol, double xend, Integer measure) {
+    const Driver driver = GetParam();
+    const auto run = [driver](Integer neq, double tol, double xend, Integer measure) {
         Watcher w;
         double x = 1.0, y[1] = {1.0};
         Record fail;
-        d02ejc(neq, Watcher::decay, nullptr, &x, y, xend, tol, measure, nullptr, nullptr, &w, &fail);
+        driver(neq, Watcher::decay, &x, y, xend, tol, measure, nullptr, nullptr, &w, &fail);
         EXPECT_EQ(x, 1.0);
         EXPECT_EQ(y[0], 1.0);
         return fail;
@@ -247,8 +261,9 @@ TEST(Stiff, RefusesBadArgumentsInOrder)
     EXPECT_REPORT(run(1, 1e-6, HUGE_VAL, Kor_Mixed), NE_TOL_TOO_SMALL, 1e-6);
 }
 
-TEST(Stiff, EndsWithBoundedWorkAtSingularities)
+TEST_P(EitherDriver, EndsWithBoundedWorkAtSingularities)
 {
+    const Driver driver = GetParam();
     struct Case {
         double (*f)(double x, double y);
         double last; // where the solution ends
@@ -266,26 +281,28 @@ TEST(Stiff, EndsWithBoundedWorkAtSingularities)
         Data data{&c, 0};
         double x = 0.0, y[1] = {1.0};
         Record fail;
-        d02ejc(
+        driver(
             1,
             [](Integer, double x, const double y[], double f[], void *comm) {
                 auto *d = static_cast<Data *>(comm);
                 ++d->calls;
                 f[0] = d->c->f(x, y[0]);
             },
-            nullptr, &x, y, 2.0, 1e-8, Kor_Mixed, nullptr, nullptr, &data, &fail);
+            &x, y, 2.0, 1e-8, Kor_Mixed, nullptr, nullptr, &data, &fail);
         EXPECT_REPORT(fail, NE_TOL_PROGRESS, 1e-8, x);
         EXPECT_NEAR(x, c.last, 1e-6);
         EXPECT_LT(data.calls, 20000);
     }
     double x = 0.0, y[1] = {1.0};
     Record fail;
-    d02ejc(
-        1, [](Integer, double, const double[], double f[], void *) { f[0] = kNaN; }, nullptr, &x, y, 2.0, 1e-8,
-        Kor_Mixed, nullptr, nullptr, nullptr, &fail);
+    driver(
+        1, [](Integer, double, const double[], double f[], void *) { f[0] = kNaN; }, &x, y, 2.0, 1e-8, Kor_Mixed,
+        nullptr, nullptr, nullptr, &fail);
     EXPECT_REPORT(fail, NE_TOL_TOO_SMALL, 1e-8);
     EXPECT_EQ(x, 0.0);
 }
+
+INSTANTIATE_TEST_SUITE_P(Drivers, EitherDriver, ::testing::ValuesIn(kDrivers));
 
 // ---- The kernels ----
 

@@ -1,4 +1,4 @@
-// What the drivers over a whole range share in front of and behind the integration: tests, tolerances and reports.
+// The driver over a whole range: tests, tolerances, the way from step to step, and reports. An integrator gives the steps.
 #pragma once
 
 #include <algorithm>
@@ -59,6 +59,47 @@ inline void report_output_point(const Report &report, const RangeWatch &watch, W
         break;
     }
     report.error<NE_INTERNAL_ERROR>();
+}
+
+struct RangeArguments {
+    Integer neq;
+    double *x, *y;
+    double xend, tol;
+    OutputFunction output;
+    RootFunction g;
+    void *comm;
+    double *scratch; // neq elements
+};
+
+// What an integrator has: t() and y(), the point reached; step(), false when no step can be taken; interpolate(t, sol) within
+// the last step; started(), whether there has been one.
+template <class Integrator>
+void integrate_range(const Report &report, const RangeArguments &a, Integrator &integrator)
+{
+    RangeWatch watch{a.neq, *a.x, a.xend, a.output, a.g, a.comm, a.scratch};
+    WatchOutcome outcome = watch.start(a.y);
+    if (outcome != WatchOutcome::go_on) return report_output_point(report, watch, outcome);
+
+    const auto interpolate = [&](double at, double *sol) { integrator.interpolate(at, sol); };
+    bool moves = true;
+    while (outcome == WatchOutcome::go_on && !(integrator.started() && integrator.t() == a.xend)) {
+        moves = integrator.step();
+        if (!moves) break;
+        outcome = watch.step(integrator.t(), integrator.y(), interpolate);
+    }
+    if (!moves && !integrator.started()) return report.error<NE_TOL_TOO_SMALL>(a.tol);
+
+    const bool stopped = outcome != WatchOutcome::go_on;
+    *a.x = stopped ? watch.x() : integrator.t();
+    if (*a.x == integrator.t())
+        std::copy_n(integrator.y(), a.neq, a.y);
+    else
+        integrator.interpolate(*a.x, a.y);
+    if (!moves) return report.error<NE_TOL_PROGRESS>(a.tol, *a.x);
+    if (outcome == WatchOutcome::root) return report.success();
+    if (stopped) return report_output_point(report, watch, outcome);
+    if (a.g != nullptr) return report.error<NE_NO_SIGN_CHANGE>();
+    report.success();
 }
 
 } // namespace kor::ode
