@@ -5,6 +5,7 @@
 
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
+#include "linalg/inner_product.hpp"
 #include "linalg/reflected_rows.hpp"
 #include "linalg/reflection.hpp"
 #include "linalg/scalar.hpp"
@@ -48,9 +49,7 @@ void reduce(Integer m, Integer n, T *a, Integer tda, double *d, double *e, doubl
         if (gamma == T{}) continue;
         for (Integer i = k + 1; i < m; ++i) {
             T *const __restrict row = A.row(i) + k + 1;
-            T sum{};
-            for (Integer j = 0; j < n - k - 1; ++j) sum += row[j] * u[j];
-            const T factor = gamma * sum;
+            const T factor = gamma * plain_product(n - k - 1, row, u);
             for (Integer j = 0; j < n - k - 1; ++j) row[j] -= factor * conj(u[j]);
         }
     }

@@ -10,6 +10,7 @@
 #include "frame/constants.hpp"
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
+#include "linalg/inner_product.hpp"
 #include "linalg/reflection.hpp"
 #include "linalg/rotation.hpp"
 
@@ -163,8 +164,7 @@ KOR_CLONES void reflect_to_hessenberg(Integer n, BalancedRange range, double *a,
         u[0] = zeta;
         for (Integer i = 0; i <= range.high; ++i) {
             double *const row = A.row(i) + m;
-            double sum = 0.0;
-            for (Integer j = 0; j < count; ++j) sum += row[j] * u[j];
+            const double sum = inner_product(count, row, u);
             for (Integer j = 0; j < count; ++j) row[j] -= sum * u[j];
         }
         // Sums over the rows, for so many columns at a time.
@@ -191,8 +191,7 @@ KOR_CLONES void reflect_to_hessenberg(Integer n, BalancedRange range, double *a,
             for (Integer i = 1; i < count; ++i) u[i] = A(m + i, m - 1);
             for (Integer i = m; i <= range.high; ++i) {
                 double *const row = Z.row(i) + m;
-                double sum = 0.0;
-                for (Integer j = 0; j < count; ++j) sum += row[j] * u[j];
+                const double sum = inner_product(count, row, u);
                 for (Integer j = 0; j < count; ++j) row[j] -= sum * u[j];
             }
         }

@@ -232,6 +232,9 @@ void dggev_(const char *jobvl, const char *jobvr, const Integer *n, double *a, c
             const Integer *ldb, double *alphar, double *alphai, double *beta, double *vl, const Integer *ldvl,
             double *vr, const Integer *ldvr, double *work, const Integer *lwork, Integer *info, std::size_t,
             std::size_t);
+void dbdsqr_(const char *uplo, const Integer *n, const Integer *ncvt, const Integer *nru, const Integer *ncc, double *d,
+             double *e, double *vt, const Integer *ldvt, double *u, const Integer *ldu, double *c, const Integer *ldc,
+             double *work, Integer *info, std::size_t);
 }
 
 namespace kor::lapack {
@@ -423,6 +426,17 @@ inline Integer ggev(char jobvl, char jobvr, Integer n, double *a, Integer lda, d
 {
     Integer info = 0;
     dggev_(&jobvl, &jobvr, &n, a, &lda, b, &ldb, alphar, alphai, beta, vl, &ldvl, vr, &ldvr, work, &lwork, &info, 1, 1);
+    return info;
+}
+
+// Singular values alone of an upper bidiagonal matrix, to high relative accuracy (dqds). `work` has 4 n elements. Returns
+// the number of values that have not converged.
+inline Integer bdsqr(Integer n, double *d, double *e, double *work)
+{
+    constexpr Integer kNone = 0, kOne = 1;
+    double unused;
+    Integer info = 0;
+    dbdsqr_("U", &n, &kNone, &kNone, &kNone, d, e, &unused, &kOne, &unused, &kOne, &unused, &kOne, work, &info, 1);
     return info;
 }
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "linalg/inner_product.hpp"
 #include "linalg/scalar.hpp"
 
 namespace kor::linalg {
@@ -45,9 +46,7 @@ void reflect_each_row(Integer m, Integer n, T gamma, const T *u, T *y, std::ptrd
     if (gamma == T{}) return;
     for (std::ptrdiff_t i = 0; i < m; ++i) {
         T *const __restrict row = y + i * tdy;
-        T sum{};
-        for (Integer j = 0; j < n; ++j) sum += conj(u[j]) * row[j];
-        const T factor = gamma * sum;
+        const T factor = gamma * inner_product(n, u, row);
         for (Integer j = 0; j < n; ++j) row[j] -= factor * u[j];
     }
 }

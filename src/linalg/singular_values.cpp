@@ -28,8 +28,15 @@ constexpr Integer kSmallSize = 4096;
 
 bool is_small(Integer m, Integer n) { return std::min(m, n) <= kSmallOrder && m <= kSmallSize / n; }
 
-KOR_CLONES Integer iterate(Integer n, double *d, double *e, Integer &steps)
+// Values alone: from so many on LAPACK's dqds is quicker.
+constexpr Integer kWorthQds = 12;
+
+Integer iterate(Integer n, double *d, double *e, Integer &steps)
 {
+    if (n >= kWorthQds) {
+        double work[4 * kSmallOrder];
+        return lapack::bdsqr(n, d, e, work);
+    }
     return diagonalise_bidiagonal(n, d, e, step_limit(n), steps, NoRows{}, NoRows{});
 }
 template <Scalar T>

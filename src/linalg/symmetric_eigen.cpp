@@ -46,7 +46,7 @@ void scale_back(Integer n, double scaling, double *values)
         for (Integer i = 0; i < n; ++i) values[i] /= scaling;
 }
 
-KOR_CLONES bool iterate(Integer n, double *d, double *e) { return diagonalise(n, kPrecision, d, e, 30 * n, NoRows{}); }
+bool iterate(Integer n, double *d, double *e) { return find_eigenvalues(n, kPrecision, d, e, 30 * n); }
 KOR_CLONES bool iterate(Integer n, double *d, double *e, double *qt, Integer tdq)
 {
     return diagonalise(n, kPrecision, d, e, 30 * n, TurningRows<double>{qt, tdq, n});

@@ -10,6 +10,7 @@
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
 #include "frame/workspace.hpp"
+#include "linalg/inner_product.hpp"
 #include "linalg/lapack.hpp"
 #include "linalg/reflection.hpp"
 #include "linalg/scalar.hpp"
@@ -46,15 +47,10 @@ void reduce(Integer n, T *a, Integer tda, double *d, double *e, T *work, double 
             for (Integer r = 0; r < i; ++r) {
                 const T *const row = A.row(r);
                 const T factor = u[r];
-                T sum{};
-                for (Integer c = 0; c < r; ++c) {
-                    sum += row[c] * u[c];
-                    w[c] += conj(row[c]) * factor;
-                }
-                w[r] = sum + real(row[r]) * factor;
+                for (Integer c = 0; c < r; ++c) w[c] += conj(row[c]) * factor;
+                w[r] = plain_product(r, row, u) + real(row[r]) * factor;
             }
-            T product{};
-            for (Integer r = 0; r < i; ++r) product += conj(u[r]) * w[r];
+            const T product = inner_product(i, u, w);
             const T shift = real(0.5 * (gamma * conj(gamma))) * product;
             for (Integer r = 0; r < i; ++r) w[r] = conj(gamma) * w[r] - shift * u[r];
             for (Integer r = 0; r < i; ++r) {
@@ -80,9 +76,7 @@ void form_basis(Integer n, T *a, Integer tda, const T *work)
         for (Integer r = 0; r < i; ++r) {
             T *const __restrict row = A.row(r);
             if (!(gamma == T{})) {
-                T sum{};
-                for (Integer c = 0; c < i; ++c) sum += conj(u[c]) * row[c];
-                const T factor = gamma * sum;
+                const T factor = gamma * inner_product(i, u, row);
                 for (Integer c = 0; c < i; ++c) row[c] -= factor * u[c];
             }
             row[i] = T{};

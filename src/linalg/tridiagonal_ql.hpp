@@ -63,6 +63,8 @@ bool diagonalise(Integer n, double eps, double *d, double *e, Integer limit, con
     };
     Integer steps = 0;
     Integer last = n - 1; // everything behind is done
+    Integer old_first = n, old_last = -1;
+    bool down = false;
     while (last > 0) {
         if (negligible(last - 1)) {
             e[--last] = 0.0;
@@ -86,9 +88,11 @@ bool diagonalise(Integer n, double eps, double *d, double *e, Integer limit, con
         }
         if (steps++ == limit) return false;
 
-        // The chase starts at the end with the greater elements: seen from there as k = 0, 1, ..., each element is found
-        // at start + step k. The shift comes from the other end.
-        const bool down = std::fabs(d[first]) > std::fabs(d[last]);
+        // The chase starts at the end with the greater elements, and the shift comes from the other end: so it stays until
+        // the block is done, or the shift would chase eigenvalues at both ends in turn.
+        if (first > old_last || last < old_first) down = std::fabs(d[first]) > std::fabs(d[last]);
+        old_first = first;
+        old_last = last;
         const Integer step = down ? 1 : -1, start = down ? first : last, end = down ? last : first;
         const auto coupling = [&](Integer k) -> double & { return e[down ? k : k - 1]; }; // of k and k + step
         const double small = coupling(end - step);
@@ -120,6 +124,63 @@ bool diagonalise(Integer n, double eps, double *d, double *e, Integer limit, con
         std::swap(d[i], d[least]);
         rows.exchange(i, least);
     }
+    return true;
+}
+
+// The same for the eigenvalues alone, without square roots: the squares of e are what is iterated. K. Reinsch, A stable,
+// rational QL algorithm for the computation of the eigenvalues of an Hermitian, tridiagonal matrix, Math. Comp. 25 (1971)
+// 591-597, in the form of W. Kahan, G. Peters, J. H. Wilkinson and B. N. Parlett (The Symmetric Eigenvalue Problem, 8.15).
+inline bool find_eigenvalues(Integer n, double eps, double *d, double *e, Integer limit)
+{
+    const double eps_squared = eps * eps;
+    for (Integer i = 0; i + 1 < n; ++i) e[i] *= e[i];
+    const auto negligible = [&](Integer i) {
+        const double around = std::fabs(d[i]) + std::fabs(d[i + 1]);
+        return e[i] <= eps_squared * (around * around) || e[i] <= kSmallest;
+    };
+    Integer steps = 0, last = n - 1, old_first = n, old_last = -1;
+    bool down = false;
+    while (last > 0) {
+        if (negligible(last - 1)) {
+            e[--last] = 0.0;
+            continue;
+        }
+        Integer first = last - 1;
+        while (first > 0 && !negligible(first - 1)) --first;
+        if (first > 0) e[first - 1] = 0.0;
+
+        if (first == last - 1) {
+            const double g = 0.5 * (d[first] - d[last]);
+            const double change = e[first] / (g + std::copysign(std::sqrt(g * g + e[first]), g));
+            d[first] += change;
+            d[last] -= change;
+            e[first] = 0.0;
+            continue;
+        }
+        if (steps++ == limit) return false;
+
+        if (first > old_last || last < old_first) down = std::fabs(d[first]) > std::fabs(d[last]);
+        old_first = first;
+        old_last = last;
+        const Integer step = down ? 1 : -1, start = down ? first : last, end = down ? last : first;
+        double *const beside = down ? e : e - 1; // beside[k] is the square of the coupling of k and k + step
+        const double small = beside[end - step], g = 0.5 * (d[end - step] - d[end]);
+        const double shift = d[end] - small / (g + std::copysign(std::sqrt(g * g + small), g));
+        double c = 1.0, s = 0.0, gamma = d[start] - shift, p = gamma * gamma;
+        for (Integer k = start; k != end; k += step) {
+            const double square = beside[k], r = p + square, old_c = c, old_gamma = gamma;
+            if (k != start) beside[k - step] = s * r;
+            c = p / r;
+            s = square / r;
+            const double next = d[k + step];
+            gamma = c * (next - shift) - s * old_gamma;
+            d[k] = old_gamma + (next - gamma);
+            p = c != 0.0 ? gamma * gamma / c : old_c * square;
+        }
+        beside[end - step] = s * p;
+        d[end] = shift + gamma;
+    }
+    std::sort(d, d + n);
     return true;
 }
 
