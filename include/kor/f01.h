@@ -173,7 +173,7 @@ void f01bnc(Integer n, Complex a[], Integer tda, double p[], KorError *fail);
 /// \par Example
 /// \code{.c}
 /// double a[] = {2.0, 0.0, 1.0, 3.0}, b[] = {4.0, 0.0, 2.0, 5.0}, dl[2];
-/// Integer status = f01aec(2, a, 2, b, 2, dl);   // status = 0, dl = {2, 2}, a = {0.5, ., 0, 0.75}
+/// Integer status = f01aec(2, a, 2, b, 2, dl);   // status = 0, dl = {2, 2}, a = {0.5, ., 0, 0.625}
 /// \endcode
 Integer f01aec(Integer n, double a[], Integer tda, double b[], Integer tdb, double dl[]);
 
@@ -282,7 +282,7 @@ void f01ajc(Integer n, double atol, const double a[], Integer tda, double d[], d
 /// \code{.c}
 /// double a[] = {1.0, 2.0, 3.0,  2.0, 1.0, 0.0,  4.0, 1.0, 1.0};
 /// Integer rows[3];
-/// f01akc(3, 1, 3, a, 3, rows);          // a = {1, 4, 2,  4, 1.5, 1,  0.5, 0.75, 0.5}, rows = {1, 3, 3}
+/// f01akc(3, 1, 3, a, 3, rows);          // a = {1, 4, 2,  4, 1.5, 1,  0.5, -0.25, 0.5}, rows = {1, 3, 3}
 /// \endcode
 void f01akc(Integer n, Integer low, Integer high, double a[], Integer tda, Integer intger[]);
 
@@ -388,7 +388,7 @@ void f01auc(Integer n, Integer low, Integer high, Integer m, const double d[], d
 /// \code{.c}
 /// Complex a[] = {{2.0, 0.0}, {0.0, 0.0},  {0.0, 1.0}, {2.0, 0.0}}, tau[2];
 /// double d[2], e[2];
-/// f01bcc(2, 0.0, a, 2, d, e, tau);      // d = {2, 2}, e = {0, -1} or {0, 1}
+/// f01bcc(2, 0.0, a, 2, d, e, tau);      // d = {2, 2}, e = {0, -1}
 /// \endcode
 void f01bcc(Integer n, double tol, Complex a[], Integer tda, double d[], double e[], Complex tau[]);
 

@@ -296,7 +296,7 @@ void f02ayc(Integer n, double eps, double d[], double e[], Complex z[], Integer 
 /// The eigenvalues are those of a matrix that differs from A by a small multiple of n times the precision times |A|. One with
 /// a chain of k vectors (a Jordan block of order k) moves by the k-th root of such a change.
 /// \par Method
-/// Balancing, reduction to Hessenberg form by reflections, QR steps with double shifts (up to order 40), or LAPACK's small-bulge
+/// Balancing, reduction to Hessenberg form by reflections, QR steps with double shifts (up to order 64), or LAPACK's small-bulge
 /// multishift QR. J. H. Wilkinson, The Algebraic Eigenvalue Problem (1965).
 /// \par Thread safety
 /// Safe.

@@ -2,13 +2,17 @@
 #include "linalg/bidiagonal.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
+#include "frame/workspace.hpp"
 #include "linalg/inner_product.hpp"
+#include "linalg/lapack.hpp"
 #include "linalg/reflected_rows.hpp"
 #include "linalg/reflection.hpp"
 #include "linalg/scalar.hpp"
+#include "linalg/transpose.hpp"
 
 namespace kor::linalg {
 
@@ -54,6 +58,44 @@ void reduce(Integer m, Integer n, T *a, Integer tda, double *d, double *e, doubl
         }
     }
 }
+
+// LAPACK's reflections I - tau v conj(v)', v with a leading 1, in our form: with conj(gamma) zeta^2 = tau the vector is
+// zeta v. LAPACK keeps the vectors from the right conjugated.
+template <Scalar T>
+double zeta_of_tau(T tau, double &twist)
+{
+    const double zeta = std::sqrt(real(tau));
+    twist = zeta != 0.0 ? -twist_of(tau) / real(tau) : 0.0;
+    return zeta;
+}
+
+template <Scalar T>
+bool reduce_in_blocks(Integer n, T *a, double *d, double *e, double *left, double *right)
+{
+    T best;
+    lapack::gebrd(n, n, a, n, d, e, &best, &best, &best, -1);
+    const Integer lwork = static_cast<Integer>(real(best));
+    const Workspace<T> work(Count{lwork} + Count{n} * 2);
+    if (!work) return false;
+    T *const tau_left = work.data() + lwork, *const tau_right = tau_left + n;
+    transpose_in_place<false>(n, a, n);
+    lapack::gebrd(n, n, a, n, d, e, tau_left, tau_right, work.data(), lwork);
+    transpose_in_place<false>(n, a, n);
+    const RowMajor<T> A{a, n};
+    for (Integer k = 0; k < n; ++k) {
+        const double zeta = zeta_of_tau(tau_left[k], left[k]);
+        A(k, k) = zeta * one<T>();
+        for (Integer i = k + 1; i < n; ++i) A(i, k) = zeta * A(i, k);
+    }
+    for (Integer k = 0; k + 1 < n; ++k) {
+        const double zeta = zeta_of_tau(tau_right[k], right[k]);
+        A(k, k + 1) = zeta * one<T>();
+        for (Integer j = k + 2; j < n; ++j) A(k, j) = zeta * conj(A(k, j));
+    }
+    return true;
+}
+
+constexpr Integer kWorthBlocks = 64;
 
 template <Scalar T>
 void apply_left(Integer m, Integer n, const T *a, Integer tda, const double *left, Integer ncolb, T *b, Integer tdb,
@@ -118,6 +160,17 @@ void reduce_to_bidiagonal(Integer m, Integer n, Complex *a, Integer tda, double 
                           double *right, Complex *work)
 {
     reduce(m, n, a, tda, d, e, left, right, work);
+}
+
+void bidiagonal_form(Integer n, double *a, double *d, double *e, double *left, double *right, double *work)
+{
+    if (n >= kWorthBlocks && reduce_in_blocks(n, a, d, e, left, right)) return;
+    reduce_to_bidiagonal(n, n, a, n, d, e, left, right, work);
+}
+void bidiagonal_form(Integer n, Complex *a, double *d, double *e, double *left, double *right, Complex *work)
+{
+    if (n >= kWorthBlocks && reduce_in_blocks(n, a, d, e, left, right)) return;
+    reduce_to_bidiagonal(n, n, a, n, d, e, left, right, work);
 }
 
 KOR_CLONES void apply_left_reflections(Integer m, Integer n, const double *a, Integer tda, const double *left,

@@ -17,6 +17,10 @@ void reduce_to_bidiagonal(Integer m, Integer n, double *a, Integer tda, double *
 void reduce_to_bidiagonal(Integer m, Integer n, Complex *a, Integer tda, double *d, double *e, double *left,
                           double *right, Complex *work);
 
+// The same of a square matrix without spare columns, in blocks by LAPACK where the order is worth it and there is memory.
+void bidiagonal_form(Integer n, double *a, double *d, double *e, double *left, double *right, double *work);
+void bidiagonal_form(Integer n, Complex *a, double *d, double *e, double *left, double *right, Complex *work);
+
 // b := conj(Q)' b, b with m rows; y := conj(P)' y, y with n rows.
 void apply_left_reflections(Integer m, Integer n, const double *a, Integer tda, const double *left, Integer ncolb,
                             double *b, Integer tdb, double *work);

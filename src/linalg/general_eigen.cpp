@@ -19,7 +19,7 @@ namespace kor::linalg {
 namespace {
 
 // Orders up to which our own reduction and iteration are quicker: see bench/linalg/bench_eigen.
-constexpr Integer kSmall = 40;
+constexpr Integer kSmall = 64;
 
 // Column j of v, and for a complex pair the next one as well, from the rows of real and imaginary parts. The second vector of
 // a pair is the conjugate of the first.

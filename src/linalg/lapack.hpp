@@ -235,6 +235,10 @@ void dggev_(const char *jobvl, const char *jobvr, const Integer *n, double *a, c
 void dbdsqr_(const char *uplo, const Integer *n, const Integer *ncvt, const Integer *nru, const Integer *ncc, double *d,
              double *e, double *vt, const Integer *ldvt, double *u, const Integer *ldu, double *c, const Integer *ldc,
              double *work, Integer *info, std::size_t);
+void dgebrd_(const Integer *m, const Integer *n, double *a, const Integer *lda, double *d, double *e, double *tauq,
+             double *taup, double *work, const Integer *lwork, Integer *info);
+void zgebrd_(const Integer *m, const Integer *n, Complex *a, const Integer *lda, double *d, double *e, Complex *tauq,
+             Complex *taup, Complex *work, const Integer *lwork, Integer *info);
 }
 
 namespace kor::lapack {
@@ -437,6 +441,22 @@ inline Integer bdsqr(Integer n, double *d, double *e, double *work)
     double unused;
     Integer info = 0;
     dbdsqr_("U", &n, &kNone, &kNone, &kNone, d, e, &unused, &kOne, &unused, &kOne, &unused, &kOne, work, &info, 1);
+    return info;
+}
+
+// A = Q B conj(P)', B real bidiagonal.
+inline Integer gebrd(Integer m, Integer n, double *a, Integer lda, double *d, double *e, double *tauq, double *taup,
+                     double *work, Integer lwork)
+{
+    Integer info = 0;
+    dgebrd_(&m, &n, a, &lda, d, e, tauq, taup, work, &lwork, &info);
+    return info;
+}
+inline Integer gebrd(Integer m, Integer n, Complex *a, Integer lda, double *d, double *e, Complex *tauq, Complex *taup,
+                     Complex *work, Integer lwork)
+{
+    Integer info = 0;
+    zgebrd_(&m, &n, a, &lda, d, e, tauq, taup, work, &lwork, &info);
     return info;
 }
 

@@ -74,7 +74,9 @@ void find_selected(const Report &report, Integer crit, Integer n, const T *a, In
         *m = 0;
         return report.success();
     }
-    if (!magnitude_of(n, n, a, tda).is_finite()) return report.error<NE_TOO_MANY_ITERATIONS>(iteration_limit(n));
+    const Magnitude magnitude = magnitude_of(n, n, a, tda);
+    if (!magnitude.is_finite()) return report.error<NE_TOO_MANY_ITERATIONS>(iteration_limit(n));
+    const double scaling = magnitude.scaling();
 
     // Two copies of the matrix, column-major; scalars of reflections; eigenvalues.
     const Count square = Count{n} * n;
@@ -88,7 +90,7 @@ void find_selected(const Report &report, Integer crit, Integer n, const T *a, In
     T *const hessenberg = room.data(), *const copy = hessenberg + size, *const tau = copy + size;
     const Spectrum<T> spectrum{tau + n, n};
     for (std::ptrdiff_t i = 0; i < n; ++i)
-        for (std::ptrdiff_t j = 0; j < n; ++j) hessenberg[j * n + i] = a[i * tda + j];
+        for (std::ptrdiff_t j = 0; j < n; ++j) hessenberg[j * n + i] = scaling * a[i * tda + j];
 
     Integer low, high;
     lapack::gebal('B', n, hessenberg, n, &low, &high, scale.data());
@@ -106,14 +108,14 @@ void find_selected(const Report &report, Integer crit, Integer n, const T *a, In
 
     Integer *const select = integers.data(), *const ifail = select + n, selected = 0;
     for (Integer j = 0; j < n; ++j) {
-        const Complex lambda = spectrum.value(j);
+        const Complex lambda = {spectrum.value(j).re / scaling, spectrum.value(j).im / scaling};
         const double measure = crit == Kor_Select_Modulus ? modulus(lambda) : lambda.re;
         select[j] = measure >= wl && measure <= wu;
         if (select[j]) w[selected++] = lambda;
     }
     Integer others = selected;
     for (Integer j = 0; j < n; ++j)
-        if (!select[j]) w[others++] = spectrum.value(j);
+        if (!select[j]) w[others++] = {spectrum.value(j).re / scaling, spectrum.value(j).im / scaling};
     *m = selected;
     if (selected > mest) return report.error<NE_REQD_EIGVAL>("mest", mest, selected);
     if (selected == 0) return report.success();

@@ -121,7 +121,7 @@ void bidiagonalise_triangle(const Report &report, Integer n, T *a, Integer tda, 
     copy_triangle(n, a, tda, triangle.data(), n);
 
     double *const left = twists.data(), *const right = left + n;
-    reduce_to_bidiagonal(n, n, triangle.data(), n, d, e, left, right, work.data());
+    bidiagonal_form(n, triangle.data(), d, e, left, right, work.data());
     if (ncoly > 0) apply_left_reflections(n, n, triangle.data(), n, left, ncoly, y, tdy, work.data());
     if (wantq) {
         form_left_basis(n, n, triangle.data(), n, left, q, tdq, work.data());

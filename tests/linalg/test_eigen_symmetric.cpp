@@ -137,7 +137,7 @@ TEST(SymmetricEigen, WilkinsonsPairs)
     EXPECT_SUCCESS(fail);
     EXPECT_NEAR(d[20], 10.746194182903393, 4e-15);
     EXPECT_NEAR(d[19], 10.746194182903322, 4e-15);
-    EXPECT_NEAR(d[0], -1.1254415221199847, 4e-15);
+    EXPECT_NEAR(d[0], -1.1254415221199842, 4e-15);
 }
 
 TEST(SymmetricEigen, DiagonalMatricesTurnNothing)

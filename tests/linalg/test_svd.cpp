@@ -151,7 +151,7 @@ TYPED_TEST(Svd, TrianglesDriverAndSteps)
 {
     using T = TypeParam;
     Random random;
-    for (const Integer n : {1, 2, 3, 8, 30, 50})
+    for (const Integer n : {1, 2, 3, 8, 30, 50, 66})
         for (const auto &[name, full] : rectangles<T>(n, n, random)) {
             const std::string what = name + ", order " + std::to_string(n);
             Dense R = full;
