@@ -872,7 +872,7 @@ double d02zac(Integer neq, const double v[], const double w[], Integer *status);
 /// - NE_LFRT_B_VAL: the known values are not `neq` in all.
 /// - NE_LF_B_MESH, NE_RT_B_MESH: the given mesh does not begin at `a`, or not end at `b`.
 /// - NE_NOT_STRICTLY_INCREASING: the given mesh is not strictly increasing.
-/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (5 neq + 10) doubles.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (17 neq + 16) doubles.
 /// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
 /// - NE_CONV_MESH_INIT: the Newton iteration has failed on every mesh: give better estimates, or use d02rac() with continuation.
 /// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
@@ -884,9 +884,10 @@ double d02zac(Integer neq, const double v[], const double w[], Integer *status);
 /// solution of order six; what is returned is of order eight and as a rule far better.
 /// \par Method
 /// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
-/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
-/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
-/// 13 (1992) 742-764).
+/// correction (V. Pereyra, Numer. Math. 10 (1967) 316-323) by the equations of Lobatto's rule of five points, of order eight, and an
+/// error estimate by those of four points, of order six; meshes that share the defects out evenly; orthogonal elimination, in
+/// time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput. 13 (1992) 742-764). Where the iteration fails, or no mesh
+/// finds a layer, the problem is reached from one with all slopes reduced.
 /// \par Thread safety
 /// Safe and reentrant.
 /// \par See also
@@ -943,7 +944,7 @@ void d02gac(Integer neq, void (*fcn)(Integer neq, double x, const double y[], do
 /// - NE_BOUND_COND_COL: more than `neq` columns of [C, D] are zero.
 /// - NE_BOUND_COND_MAT: C or D is zero: this is an initial value problem.
 /// - NE_BOUND_COND_LC, NE_BOUND_COND_NLC: a row of [C, D] depends linearly on those before it, exactly or to working accuracy.
-/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (7 neq + 10) doubles.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (17 neq + 16) doubles.
 /// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
 /// - NE_CONV_MESH_INIT: the linear equations are singular on every mesh: the problem has no solution, or many.
 /// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
@@ -955,9 +956,10 @@ void d02gac(Integer neq, void (*fcn)(Integer neq, double x, const double y[], do
 /// solution of order six; what is returned is of order eight and as a rule far better.
 /// \par Method
 /// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
-/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
-/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
-/// 13 (1992) 742-764).
+/// correction (V. Pereyra, Numer. Math. 10 (1967) 316-323) by the equations of Lobatto's rule of five points, of order eight, and an
+/// error estimate by those of four points, of order six; meshes that share the defects out evenly; orthogonal elimination, in
+/// time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput. 13 (1992) 742-764). Where the iteration fails, or no mesh
+/// finds a layer, the problem is reached from one with all slopes reduced.
 /// \par Thread safety
 /// Safe and reentrant.
 /// \par See also
@@ -1022,7 +1024,7 @@ void d02gbc(Integer neq, void (*fcnf)(Integer neq, double x, double f[], void *c
 /// - NE_NOT_STRICTLY_INCREASING: the given mesh is not strictly increasing.
 /// - NE_INVALID_FUN_JAC: one of `jacobf` and `jacobg` is null and the other is not.
 /// - NE_INVALID_FUN_NO_JAC_CONT, NE_INVALID_FUN_JAC_NO_CONT, NE_INVALID_FUN_JAC_CONT: `jaceps` and `jacgep` do not fit.
-/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (7 neq + 10) doubles.
+/// - NE_ALLOC_FAIL: there is not enough memory: about mnp neq (17 neq + 16) doubles.
 /// - NE_CONV_MESH: `mnp` points are not enough; the last solution is returned.
 /// - NE_CONV_MESH_INIT: the Newton iteration has failed on every mesh, with continuation for eps = 0.
 /// - NE_CONV_ROUNDOFF: rounding errors hide what `tol` asks for; the solution is as good as can be.
@@ -1038,9 +1040,10 @@ void d02gbc(Integer neq, void (*fcnf)(Integer neq, double x, double f[], void *c
 /// solution of order six; what is returned is of order eight and as a rule far better.
 /// \par Method
 /// Simpson's equations on the mesh, solved by a damped Newton iteration (P. Deuflhard, Numer. Math. 22 (1974) 289-315); deferred
-/// correction to orders six and eight with Lobatto's rule of five points (V. Pereyra, Numer. Math. 10 (1967) 316-323); meshes that
-/// share the defects out evenly; orthogonal elimination, in time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput.
-/// 13 (1992) 742-764).
+/// correction (V. Pereyra, Numer. Math. 10 (1967) 316-323) by the equations of Lobatto's rule of five points, of order eight, and an
+/// error estimate by those of four points, of order six; meshes that share the defects out evenly; orthogonal elimination, in
+/// time proportional to the mesh (S. J. Wright, SIAM J. Sci. Stat. Comput. 13 (1992) 742-764). Where the iteration fails, or no mesh
+/// finds a layer, the problem is reached from one with all slopes reduced.
 /// \par Thread safety
 /// Safe and reentrant.
 /// \par See also

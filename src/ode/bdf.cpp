@@ -17,11 +17,13 @@ namespace {
 // The remaining error of the Newton iteration, as a part of the error that a step may make.
 constexpr double kNewtonTolerance = 0.05;
 constexpr Integer kNewtonLimit = 4;
-constexpr double kDivergence = 0.9;       // a contraction that is not worth going on with
-constexpr double kFreshRate = 0.2;        // rate of contraction that new factors are trusted with
-constexpr double kCoefficientDrift = 0.1; // relative change of h / alpha that factors bear
-constexpr Integer kJacobianLife = 30;     // steps
-constexpr Integer kNewtonFailures = 12;   // in a row
+constexpr double kDivergence = 0.9; // a contraction that is not worth going on with
+constexpr double kFreshRate = 0.2;  // rate of contraction that new factors are trusted with
+// The relative change of h / alpha that factors bear: new ones save iterations, and cost less than these while the matrix is small.
+constexpr double kCoefficientDrift = 0.1, kLargeDrift = 0.25;
+constexpr Integer kSmallMatrix = 64;
+constexpr Integer kJacobianLife = 30;   // steps
+constexpr Integer kNewtonFailures = 12; // in a row
 constexpr Integer kErrorFailures = 12;
 constexpr Integer kStepLimit = 20'000'000; // bounds the work where the steps stay tiny
 
@@ -263,7 +265,7 @@ class Method {
             std::copy_n(a_.slope, n_, base_slope_);
             if (jacobian_due()) return ask_jacobian();
         }
-        if (core_.factored == 0 || std::fabs(core_.c / core_.c_factored - 1.0) > kCoefficientDrift) {
+        if (core_.factored == 0 || std::fabs(core_.c / core_.c_factored - 1.0) > drift()) {
             if (!factor()) return newton_failed();
         }
         double *delta = a_.correction;
@@ -398,6 +400,8 @@ class Method {
     }
 
     bool banded() const { return n_ >= kSmallestBanded && 2 * core_.lower + core_.upper + 1 <= n_ / 2; }
+
+    double drift() const { return n_ < kSmallMatrix || core_.factored == 2 ? kCoefficientDrift : kLargeDrift; }
 
     // I - c J. The matrix lies in columns; a band in the rows of its diagonals, behind room for what pivoting brings in.
     bool factor()

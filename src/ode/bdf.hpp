@@ -73,8 +73,6 @@ struct BdfArrays {
     double *jacobian;   // neq by neq, row-major
 };
 
-constexpr long bdf_work_size(long neq) { return neq * (neq + 5); }
-
 BdfCore bdf_load(const KorBdfState &st);
 void bdf_store(const BdfCore &core, KorBdfState &st);
 

@@ -246,6 +246,33 @@ TEST(Boundary, ConditionsMayMixBothEnds)
     EXPECT_GT(std::fabs(curvature[1]), 0.01);
 }
 
+TEST(Boundary, FindsTheSolutionNearTheOneThatIsGiven)
+{
+    // Bratu's problem has two; theta = sqrt(2) cosh(theta / 4) has a second root. The mesh is uneven.
+    double theta = 11.0;
+    for (int i = 0; i < 50; ++i)
+        theta -= (theta - std::sqrt(2.0) * std::cosh(theta / 4)) / (1.0 - std::sqrt(2.0) / 4 * std::sinh(theta / 4));
+    Boundary p{2, 100};
+    p.slope = bratu;
+    p.conditions = [](double, const double *ya, const double *yb, double *g) {
+        g[0] = ya[0];
+        g[1] = yb[0];
+    };
+    p.np = 21;
+    for (Integer i = 0; i < p.np; ++i) {
+        const double x = p.x[i] = std::pow(i / 20.0, 1.3);
+        p.y[i] = 16.0 * x * (1.0 - x);
+        p.y[p.mnp + i] = 16.0 * (1.0 - 2.0 * x);
+    }
+    double deleps = 0.0;
+    d02rac(2, &deleps, Boundary::feps, 1, 0, Boundary::g, Kor_UserInitMesh, p.mnp, &p.np, p.x.data(), p.y.data(), p.mnp,
+           p.errest.data(), 1e-8, nullptr, nullptr, nullptr, nullptr, &p, &p.fail);
+    EXPECT_SUCCESS(p.fail);
+    EXPECT_LE(
+        p.worst(0, [&](double x) { return -2.0 * std::log(std::cosh((x - 0.5) * theta / 2) / std::cosh(theta / 4)); }),
+        1e-8);
+}
+
 TEST(Boundary, ReordersTheConditionsOfALinearProblem)
 {
     // y' = 0: y3(b) = 1, y1(a) + y2(b) = 2, y1(a) - y2(a) = 4; one on the right end, a mixed one, one on the left end.
