@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 
@@ -35,8 +36,11 @@ constexpr double kMostGrowth = 2.0;
 constexpr double kFirstGrowth = 10.0;
 constexpr Integer kFirstSteps = 3;
 
-constexpr Integer kSmallestBanded = 16; // below it a full matrix is as fast
-constexpr double kTinySteps = 16.0;     // in units of the precision of t: shorter steps do not move it reliably
+constexpr Integer kSmallestBanded = 16;  // below it a full matrix is as fast
+constexpr Integer kSmallestSampled = 64; // below it all columns of a Jacobian are formed without more ado
+constexpr Integer kSamples = 5;
+constexpr double kExplained = 0.01; // what a band may leave unexplained of a change of the slopes
+constexpr double kTinySteps = 16.0; // in units of the precision of t: shorter steps do not move it reliably
 
 double quotient(double v, double w) { return v == 0.0 ? 0.0 : v / w; }
 
@@ -340,9 +344,12 @@ class Method {
             return Turn::jacobian;
         }
         core_.phase = BdfPhase::difference;
-        core_.group = 0;
-        core_.groups = core_.structure_known ? std::min<Integer>(n_, core_.lower + core_.upper + 1) : n_;
-        shift_group();
+        if (!core_.structure_known && n_ >= kSmallestSampled) {
+            core_.lower = core_.upper = 0;
+            begin_stage(DifferenceStage::samples);
+        } else {
+            begin_stage(core_.structure_known ? DifferenceStage::groups : DifferenceStage::columns);
+        }
         return Turn::jacobian;
     }
 
@@ -355,25 +362,113 @@ class Method {
         if (base_slope_[j] * core_.direction < 0.0) step = -step;
         return (predicted_[j] + step) - predicted_[j];
     }
-    void shift_group()
+    void begin_stage(DifferenceStage stage)
     {
-        for (Integer j = core_.group; j < n_; j += core_.groups) a_.y[j] = predicted_[j] + increment(j);
+        core_.stage = stage;
+        core_.group = 0;
+        switch (stage) {
+        case DifferenceStage::columns:
+            core_.groups = n_;
+            break;
+        case DifferenceStage::groups:
+        case DifferenceStage::trial_groups:
+            core_.groups = std::min<Integer>(n_, core_.lower + core_.upper + 1);
+            break;
+        case DifferenceStage::samples:
+            core_.groups = kSamples;
+            break;
+        case DifferenceStage::check:
+            core_.groups = 1;
+            break;
+        }
+        shift_group();
     }
 
-    // Takes the columns of the group whose slope has come; true: another group's is wanted.
+    Integer sampled_column() const
+    {
+        return static_cast<Integer>(static_cast<int64_t>(n_ - 1) * core_.group / (kSamples - 1));
+    }
+    // Steps of all sizes and signs, without any pattern.
+    double checking_step(Integer j) const
+    {
+        const auto mixed = static_cast<std::uint32_t>(j + 1) * 2654435769u;
+        return ((mixed >> 8) * 0x1p-23 - 1.0) * increment(j);
+    }
+
+    void shift_group()
+    {
+        if (core_.stage == DifferenceStage::samples) {
+            const Integer j = sampled_column();
+            a_.y[j] = predicted_[j] + increment(j);
+        } else if (core_.stage == DifferenceStage::check) {
+            for (Integer j = 0; j < n_; ++j) a_.y[j] = predicted_[j] + checking_step(j);
+        } else {
+            for (Integer j = core_.group; j < n_; j += core_.groups) a_.y[j] = predicted_[j] + increment(j);
+        }
+    }
+
+    // Takes the slope of the group that has come; true: another group's is wanted.
     bool next_group()
     {
+        if (core_.stage == DifferenceStage::samples) {
+            const Integer j = sampled_column();
+            for (Integer i = 0; i < n_; ++i)
+                if (a_.slope[i] != base_slope_[i]) {
+                    core_.lower = std::max(core_.lower, i - j);
+                    core_.upper = std::max(core_.upper, j - i);
+                }
+            a_.y[j] = predicted_[j];
+        } else if (core_.stage == DifferenceStage::check) {
+            const bool right = band_explains_slope();
+            std::copy_n(predicted_, n_, a_.y);
+            if (right) {
+                core_.structure_known = 1;
+                return false;
+            }
+            begin_stage(DifferenceStage::columns);
+            return true;
+        } else {
+            take_columns();
+        }
+        if (++core_.group < core_.groups) {
+            shift_group();
+            return true;
+        }
+        if (core_.stage == DifferenceStage::samples)
+            begin_stage(banded() ? DifferenceStage::trial_groups : DifferenceStage::columns);
+        else if (core_.stage == DifferenceStage::trial_groups)
+            begin_stage(DifferenceStage::check);
+        else
+            return false;
+        return true;
+    }
+
+    void take_columns()
+    {
+        const bool all_rows = core_.stage == DifferenceStage::columns;
         for (Integer j = core_.group; j < n_; j += core_.groups) {
             const double step = increment(j);
-            const bool grouped = core_.groups < n_;
-            const Integer first = grouped ? std::max<Integer>(0, j - core_.upper) : 0;
-            const Integer last = grouped ? std::min<Integer>(n_ - 1, j + core_.lower) : n_ - 1;
+            const Integer first = all_rows ? 0 : std::max<Integer>(0, j - core_.upper);
+            const Integer last = all_rows ? n_ - 1 : std::min<Integer>(n_ - 1, j + core_.lower);
             for (Integer i = first; i <= last; ++i)
                 a_.jacobian[std::ptrdiff_t{i} * n_ + j] = (a_.slope[i] - base_slope_[i]) / step;
             a_.y[j] = predicted_[j];
         }
-        if (++core_.group == core_.groups) return false;
-        shift_group();
+    }
+
+    bool band_explains_slope() const
+    {
+        for (Integer i = 0; i < n_; ++i) {
+            const double *row = a_.jacobian + std::ptrdiff_t{i} * n_;
+            double change = 0.0, size = 0.0;
+            for (Integer j = std::max<Integer>(0, i - core_.lower); j <= std::min<Integer>(n_ - 1, i + core_.upper);
+                 ++j) {
+                const double part = row[j] * checking_step(j);
+                change += part;
+                size += std::fabs(part);
+            }
+            if (!(std::fabs(a_.slope[i] - base_slope_[i] - change) <= kExplained * size)) return false;
+        }
         return true;
     }
 

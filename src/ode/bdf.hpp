@@ -40,6 +40,10 @@ enum class BdfRequest : Integer { done = 0, slope = 1, jacobian = 2 };
 
 enum class BdfStatus : Integer { fine = 0, bad_argument = 1, not_ready = 2, first_step = 3, progress = 4 };
 
+// How far a Jacobian by differences has got. Of a large one whose shape is not known, a few columns are taken first; if they look
+// like a narrow band, it is formed as one, and a step in all components at once shows whether that was right.
+enum class DifferenceStage : Integer { columns, groups, samples, trial_groups, check };
+
 // Trivially copyable: it is moved in and out of the caller's record.
 struct BdfCore {
     BdfPhase phase;
@@ -50,7 +54,8 @@ struct BdfCore {
     Integer jacobian_age; // steps since it was formed; negative: there is none
     Integer formed_here;  // it was formed in this step
     Integer factored;     // 0 none, 1 full, 2 banded
-    Integer group, groups;
+    DifferenceStage stage;
+    Integer group, groups; // of columns that are shifted together: the one on its way, and their number
     Integer structure_known;
     Integer lower, upper; // bandwidths of the Jacobian
     Integer direction;
