@@ -551,28 +551,28 @@ enum {
 /// the caller provides, so that any number of problems may go on side by side. d02nvc() fills the record; then the caller sets
 /// the pointers and, as wanted, `one_step`, `crit` and `tcrit`. A copy of the record needs copies of its arrays.
 typedef struct {
-    Integer stamp1;         ///< -11111 while the record is valid
-    Integer stamp2;         ///< -23456 likewise
-    Integer neq;            ///< number of equations
-    Integer nhist;          ///< columns of `ysav`
-    Integer maxord;         ///< highest order that is used
-    Integer jacobian;       ///< KOR_BDF_ANALYTIC or KOR_BDF_NUMERICAL; 0: not chosen yet
-    Boolean one_step;       ///< the caller's: d02nmc() returns after each step
-    Boolean crit;           ///< the caller's: no evaluation lies beyond `tcrit`
-    double tcrit;           ///< the caller's: limit of the integration
-    Integer order;          ///< order of the last step
-    Integer steps;          ///< steps taken so far
-    Integer rejected;       ///< steps that were tried and given up
-    Integer derivatives;    ///< slopes asked for, those for Jacobians by differences included
-    Integer jacobians;      ///< Jacobians formed
-    Integer factorisations; ///< matrices factorised
-    double t;               ///< end of the last step
-    double hlast;           ///< its signed length
-    double hnext;           ///< signed length planned for the next
-    double *ysav;           ///< the caller's array of neq * nhist: the solution behind `t`
-    double *work;           ///< the caller's array of neq * (neq + 5)
-    Integer *iwork;         ///< the caller's array of neq
-    double kept[64];        ///< kept for the library
+    Integer stamp1;          ///< -11111 while the record is valid
+    Integer stamp2;          ///< -23456 likewise
+    Integer neq;             ///< number of equations
+    Integer nhist;           ///< columns of `ysav`
+    Integer maxord;          ///< highest order that is used
+    Integer jacobian;        ///< KOR_BDF_ANALYTIC or KOR_BDF_NUMERICAL; 0: not chosen yet
+    Boolean one_step;        ///< the caller's: d02nmc() returns after each step
+    Boolean crit;            ///< the caller's: no evaluation lies beyond `tcrit`
+    double tcrit;            ///< the caller's: limit of the integration
+    Integer order;           ///< order of the last step
+    Integer steps;           ///< steps taken so far
+    Integer rejected;        ///< steps that were tried and given up
+    Integer derivatives;     ///< slopes asked for, those for Jacobians by differences included
+    Integer jacobians;       ///< Jacobians formed
+    Integer factorisations;  ///< matrices factorised
+    double t;                ///< end of the last step
+    double hlast;            ///< its signed length
+    double hnext;            ///< signed length planned for the next
+    double *ysav;            ///< the caller's array of neq * nhist: the solution behind `t`
+    double *work;            ///< the caller's array of neq * (neq + 5)
+    Integer *iwork;          ///< the caller's array of neq
+    unsigned char kept[512]; ///< kept for the library
 } KorBdfState;
 
 /// \brief Integrates a system of ordinary differential equations over a range, with output on the way and a stop at a root.

@@ -5,11 +5,12 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
-#include <limits>
+#include <new>
+#include <type_traits>
 
 #include "frame/constants.hpp"
 #include "linalg/lapack.hpp"
+#include "ode/lu_factors.hpp"
 
 namespace kor::ode {
 
@@ -294,7 +295,9 @@ class Method {
         if (core_.rate / (1.0 - core_.rate) * size <= wanted) return end_step();
         // Iterations that cannot get there are not made.
         const Integer left = kNewtonLimit - core_.iteration;
-        if (left == 0 || std::pow(core_.rate, left) / (1.0 - core_.rate) * size > wanted) return newton_failed();
+        double expected = size / (1.0 - core_.rate);
+        for (Integer i = 0; i < left; ++i) expected *= core_.rate;
+        if (left == 0 || expected > wanted) return newton_failed();
         return Turn::slope;
     }
 
@@ -521,7 +524,7 @@ class Method {
                 for (Integer j = 0; j < n_; ++j)
                     matrix_[std::ptrdiff_t{j} * n_ + i] =
                         (i == j ? 1.0 : 0.0) - c * a_.jacobian[std::ptrdiff_t{i} * n_ + j];
-            info = lapack::getrf(n_, n_, matrix_, n_, st_.iwork);
+            info = lu_factor(n_, matrix_, st_.iwork) ? 0 : 1;
             core_.factored = 1;
         }
         if (info == 0) return true;
@@ -535,14 +538,30 @@ class Method {
             lapack::gbtrs('N', n_, core_.lower, core_.upper, 1, matrix_, 2 * core_.lower + core_.upper + 1, st_.iwork,
                           b, n_);
         else
-            lapack::getrs('N', n_, 1, matrix_, n_, st_.iwork, b, n_);
+            lu_solve(n_, matrix_, st_.iwork, b);
     }
 
     // ---- Error control ----
 
+    // error^(1 / (order + 1)); orders 1 to 3 and 5 need no power.
+    static double root(double error, Integer order)
+    {
+        switch (order) {
+        case 1:
+            return std::sqrt(error);
+        case 2:
+            return std::cbrt(error);
+        case 3:
+            return std::sqrt(std::sqrt(error));
+        case 5:
+            return std::cbrt(std::sqrt(error));
+        default:
+            return std::pow(error, 1.0 / (order + 1));
+        }
+    }
     static double step_factor(double error, double bias, Integer order)
     {
-        return 1.0 / (std::pow(bias * error, 1.0 / (order + 1)) + 1e-6);
+        return 1.0 / (root(bias * error, order) + 1e-6);
     }
 
     void reject(double error)
@@ -649,15 +668,12 @@ double weighted_norm(Integer n, const double *v, const double *w)
     return norm_of(n, w, [v](Integer i) { return v[i]; });
 }
 
-BdfCore bdf_load(const KorBdfState &st)
-{
-    static_assert(sizeof(BdfCore) <= sizeof st.kept);
-    BdfCore core;
-    std::memcpy(&core, st.kept, sizeof core);
-    return core;
-}
+static_assert(sizeof(BdfCore) <= sizeof(KorBdfState::kept) && std::is_trivially_copyable_v<BdfCore>);
+static_assert(offsetof(KorBdfState, kept) % alignof(BdfCore) == 0 && alignof(KorBdfState) >= alignof(BdfCore));
 
-void bdf_store(const BdfCore &core, KorBdfState &st) { std::memcpy(st.kept, &core, sizeof core); }
+void bdf_clear(KorBdfState &st) { new (st.kept) BdfCore{}; }
+BdfCore &bdf_core(KorBdfState &st) { return *std::launder(reinterpret_cast<BdfCore *>(st.kept)); }
+const BdfCore &bdf_core(const KorBdfState &st) { return *std::launder(reinterpret_cast<const BdfCore *>(st.kept)); }
 
 BdfRequest bdf_advance(BdfCore &core, KorBdfState &st, const BdfArrays &arrays, BdfStatus &status)
 {

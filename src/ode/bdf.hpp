@@ -44,7 +44,7 @@ enum class BdfStatus : Integer { fine = 0, bad_argument = 1, not_ready = 2, firs
 // like a narrow band, it is formed as one, and a step in all components at once shows whether that was right.
 enum class DifferenceStage : Integer { columns, groups, samples, trial_groups, check };
 
-// Trivially copyable: it is moved in and out of the caller's record.
+// Trivially copyable, as the caller's record is.
 struct BdfCore {
     BdfPhase phase;
     Integer order, last_order;
@@ -78,8 +78,10 @@ struct BdfArrays {
     double *jacobian;   // neq by neq, row-major
 };
 
-BdfCore bdf_load(const KorBdfState &st);
-void bdf_store(const BdfCore &core, KorBdfState &st);
+// It lies in the record itself.
+void bdf_clear(KorBdfState &st);
+BdfCore &bdf_core(KorBdfState &st);
+const BdfCore &bdf_core(const KorBdfState &st);
 
 // Goes on until the caller must do something or the target is reached.
 BdfRequest bdf_advance(BdfCore &core, KorBdfState &st, const BdfArrays &arrays, BdfStatus &status);

@@ -49,7 +49,7 @@ void d02nmc(Integer neq, double *t, double tout, double y[], double ydot[], cons
     *status = static_cast<Integer>(BdfStatus::bad_argument);
     if (neq != st->neq || !tolerances_stand(neq, rtol, atol, itol)) return;
 
-    BdfCore core = bdf_load(*st);
+    BdfCore &core = bdf_core(*st);
     BdfStatus outcome = BdfStatus::fine;
     if (*irevcm == 0) outcome = set_target(core, *st, *t, tout);
     if (outcome != BdfStatus::fine) {
@@ -58,7 +58,6 @@ void d02nmc(Integer neq, double *t, double tout, double y[], double ydot[], cons
     }
     const BdfArrays arrays{y, ydot, rtol, atol, itol, res, pw};
     const BdfRequest request = bdf_advance(core, *st, arrays, outcome);
-    bdf_store(core, *st);
 
     *irevcm = static_cast<Integer>(request);
     *status = static_cast<Integer>(outcome);

@@ -1,9 +1,6 @@
 // d02nvc: sets up the backward differentiation method.
 #include <kor/d02.h>
 
-#include <algorithm>
-#include <iterator>
-
 #include "ode/bdf.hpp"
 
 void d02nvc(Integer neq, Integer nhist, Integer maxord, KorBdfState *st, Integer *status)
@@ -20,5 +17,5 @@ void d02nvc(Integer neq, Integer nhist, Integer maxord, KorBdfState *st, Integer
     st->tcrit = 0.0;
     st->order = st->steps = st->rejected = st->derivatives = st->jacobians = st->factorisations = 0;
     st->t = st->hlast = st->hnext = 0.0;
-    std::fill(std::begin(st->kept), std::end(st->kept), 0.0);
+    kor::ode::bdf_clear(*st);
 }

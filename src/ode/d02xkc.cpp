@@ -14,7 +14,7 @@ void d02xkc(double xsol, double sol[], Integer m, const double ysav[], Integer n
     if (!bdf_set_up(*st) || st->steps == 0 || neq != st->neq || nhist != st->nhist || st->order < 1 ||
         st->order > st->maxord)
         return;
-    const BdfCore core = bdf_load(*st);
+    const BdfCore &core = bdf_core(*st);
     bdf_interpolate(core, ysav, neq, xsol, m, sol);
     const double since = (core.t - xsol) / core.psi[1];
     *status = since >= 0.0 && since <= 1.0 ? 0 : 3;

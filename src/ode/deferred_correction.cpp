@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "frame/constants.hpp"
-#include "linalg/lapack.hpp"
 #include "ode/interval_tables.hpp"
+#include "ode/lu_factors.hpp"
 
 namespace kor::ode {
 
@@ -154,7 +154,7 @@ bool BoundarySolver::find_nodes(const LobattoRule &rule, Integer i, const double
                 delta[n * k + c] = 0.5 * (y0[c] + y1[c]) + h * sum - values[n * k + c];
             }
         const Integer order = static_cast<Integer>(m);
-        lapack::getrs('N', order, 1, stages_.data() + m * m * i, order, pivots_.data() + m * i, delta, order);
+        lu_solve(order, stages_.data() + m * m * i, pivots_.data() + m * i, delta);
         double greatest = 0.0, size = 0.0;
         for (std::ptrdiff_t k = 0; k < m; ++k) {
             values[k] += delta[k];
@@ -312,9 +312,9 @@ bool BoundarySolver::build(const LobattoRule &rule)
                     by_right_[c * m + n * k + r] = 0.5 * one + h * rule.from_mean[k][last] * j1[n * r + c];
                 }
         Integer *pivots = pivots_.data() + m * i;
-        if (lapack::getrf(order, order, stage, order, pivots) != 0) return false;
-        lapack::getrs('N', order, n_, stage, order, pivots, by_left_, order);
-        lapack::getrs('N', order, n_, stage, order, pivots, by_right_, order);
+        if (!lu_factor(order, stage, pivots)) return false;
+        lu_solve(order, stage, pivots, by_left_, n_);
+        lu_solve(order, stage, pivots, by_right_, n_);
         for (Integer r = 0; r < n_; ++r)
             for (Integer c = 0; c < n_; ++c) {
                 double left = rule.weight[0] * j0[n * r + c], right = rule.weight[last] * j1[n * r + c];
