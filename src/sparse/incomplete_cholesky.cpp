@@ -26,6 +26,12 @@ struct Neighbour {
     Integer level;
 };
 
+bool is_safe_pivot(double pivot, double sum_beside)
+{
+    constexpr double kLeastShare = 0.01;
+    return pivot > kLeastShare * sum_beside;
+}
+
 // The nodes of each number of neighbours, in linked lists.
 class NodesByCount {
   public:
@@ -161,12 +167,11 @@ bool NodeElimination::append(Integer i, const Neighbour &neighbour)
 // A pivot that is not safely positive makes way for the sum of moduli beside it.
 double NodeElimination::repaired_pivot(Integer node)
 {
-    constexpr double kLeastShare = 0.01;
     const List &list = lists_[node];
     double sum = 0.0;
     for (Integer s = 0; s < list.count; ++s) sum += std::abs(store_[list.start + static_cast<std::size_t>(s)].value);
     const double pivot = diagonal_[node];
-    if (pivot > kLeastShare * sum) return pivot;
+    if (is_safe_pivot(pivot, sum)) return pivot;
     ++modified_pivots_;
     return sum > 0.0 ? sum : 1.0;
 }
@@ -282,11 +287,94 @@ Factorised NodeElimination::hand_over(const Storage &storage, CholeskyResult &re
     return Factorised::done;
 }
 
+// Without fill, in the order of A, the factor has the pattern of A, and is computed row by row where it is to lie: the arrays
+// have room for it from the start. Gives what the elimination above would give, or false, for that to take over, if a pivot
+// is missing or would have to be raised: what stands beside a pivot is known only later, so all are judged at the end.
+class InPlaceElimination {
+  public:
+    InPlaceElimination(const Matrix &a, const Storage &storage)
+        : n_{a.n}, nnz_{a.nnz}, value_{*storage.value + a.nnz}, row_{*storage.row + a.nnz}, column_{*storage.column +
+                                                                                                    a.nnz}
+    {
+    }
+
+    bool allocate()
+    {
+        return start_.allocate(Count{n_} + 1) && place_.allocate(n_) && pivot_.allocate(n_) && beside_.allocate(n_);
+    }
+    bool run(const Matrix &a, double diagonal_scale);
+    void hand_over(CholeskyResult &result) const;
+
+  private:
+    const Integer n_, nnz_;
+    double *const value_;
+    Integer *const row_, *const column_;
+    Workspace<Integer> start_;
+    Workspace<Integer>
+        place_; // in the row at work, of each column; before its start for a column that it does not have
+    Workspace<double> pivot_, beside_;
+};
+
+bool InPlaceElimination::run(const Matrix &a, double diagonal_scale)
+{
+    find_row_starts(a, start_.data());
+    std::fill(place_.begin(), place_.end(), -1);
+    std::fill(beside_.begin(), beside_.end(), 0.0);
+    for (Integer i = 0; i < n_; ++i) {
+        const Integer begin = start_[i], last = start_[i + 1] - 1;
+        if (last < begin || a.column[last] != i + 1) return false;
+        double pivot = a.value[last] * (1.0 + diagonal_scale);
+        for (Integer p = begin; p < last; ++p) {
+            const Integer j = a.column[p] - 1;
+            double sum = a.value[p];
+            for (Integer q = start_[j]; q < start_[j + 1] - 1; ++q) {
+                const Integer k = place_[a.column[q] - 1];
+                if (k >= begin) sum -= value_[q] * value_[k];
+            }
+            value_[p] = sum; // times the pivot of its column, until the row is done
+            place_[j] = p;
+        }
+        for (Integer p = begin; p < last; ++p) {
+            const Integer j = a.column[p] - 1;
+            const double multiplier = value_[p] / pivot_[j];
+            pivot -= multiplier * value_[p];
+            beside_[j] += std::abs(value_[p]);
+            value_[p] = multiplier;
+        }
+        pivot_[i] = pivot;
+        value_[last] = 1.0 / pivot;
+    }
+    for (Integer i = 0; i < n_; ++i)
+        if (!is_safe_pivot(pivot_[i], beside_[i])) return false;
+    std::copy_n(a.row, nnz_, row_);
+    std::copy_n(a.column, nnz_, column_);
+    return true;
+}
+
+void InPlaceElimination::hand_over(CholeskyResult &result) const
+{
+    for (Integer i = 0; i < n_; ++i) {
+        result.row_start[i] = nnz_ + start_[i] + 1;
+        result.order[i] = i + 1;
+    }
+    result.row_start[n_] = 2 * nnz_ + 1;
+    result.elements = nnz_;
+    result.modified_pivots = 0;
+}
+
 } // namespace
 
 Factorised factorise_cholesky(const Matrix &a, const CholeskyRules &rules, const Storage &storage,
                               CholeskyResult &result)
 {
+    if (rules.pivoting == CholeskyPivoting::none && rules.fill_level == 0 && !rules.modified) {
+        InPlaceElimination in_place{a, storage};
+        if (!in_place.allocate()) return Factorised::no_memory;
+        if (in_place.run(a, rules.diagonal_scale)) {
+            in_place.hand_over(result);
+            return Factorised::done;
+        }
+    }
     NodeElimination elimination{a, rules};
     const Factorised outcome = elimination.run(result.order);
     return outcome == Factorised::done ? elimination.hand_over(storage, result) : outcome;

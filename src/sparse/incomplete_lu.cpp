@@ -33,6 +33,21 @@ struct Element {
     Integer level;
 };
 
+double greatest_modulus(const Matrix &a)
+{
+    double greatest = 0.0;
+    for (Integer p = 0; p < a.nnz; ++p) greatest = std::max(greatest, std::abs(a.value[p]));
+    return greatest;
+}
+
+// An absolute bound, for matrices of usual size: one whose elements are all tiny loses every pivot. Callers rely on where it
+// lies.
+double pivot_threshold(double greatest)
+{
+    constexpr double kUsualSize = 10.0;
+    return std::max(kUsualSize, greatest) * kPrecision;
+}
+
 class RowElimination {
   public:
     RowElimination(const Matrix &a, const LuRules &rules) : a_{a}, rules_{rules} {}
@@ -112,13 +127,9 @@ bool RowElimination::allocate()
 
 void RowElimination::set_thresholds()
 {
-    double greatest = 0.0;
-    for (Integer p = 0; p < a_.nnz; ++p) greatest = std::max(greatest, std::abs(a_.value[p]));
+    const double greatest = greatest_modulus(a_);
     drop_threshold_ = rules_.drop_tolerance * greatest;
-    // An absolute bound, for matrices of usual size: one whose elements are all tiny loses every pivot. Callers rely on
-    // where it lies.
-    constexpr double kUsualSize = 10.0;
-    pivot_threshold_ = std::max(kUsualSize, greatest) * kPrecision;
+    pivot_threshold_ = pivot_threshold(greatest);
 }
 
 // Rows with few elements first; rows with equally many keep their order.
@@ -342,10 +353,90 @@ Factorised RowElimination::hand_over(const Storage &storage, LuResult &result)
     return Factorised::done;
 }
 
+// Without fill and with the pivots on the diagonal the factor has the pattern of A, and is computed where it is to lie: the
+// arrays have room for it from the start. False, for the elimination above to take over, if a pivot is missing or too small.
+class InPlaceElimination {
+  public:
+    InPlaceElimination(const Matrix &a, const Storage &storage)
+        : n_{a.n}, nnz_{a.nnz}, value_{*storage.value + a.nnz}, row_{*storage.row + a.nnz}, column_{*storage.column +
+                                                                                                    a.nnz}
+    {
+    }
+
+    bool allocate() { return start_.allocate(Count{n_} + 1) && diagonal_.allocate(n_) && place_.allocate(n_); }
+    bool run(const Matrix &a, bool modified);
+    void hand_over(LuResult &result) const;
+
+  private:
+    const Integer n_, nnz_;
+    double *const value_;
+    Integer *const row_, *const column_;
+    Workspace<Integer> start_, diagonal_;
+    Workspace<Integer>
+        place_; // in the row at work, of each column; before its start for a column that it does not have
+};
+
+bool InPlaceElimination::run(const Matrix &a, bool modified)
+{
+    find_row_starts(a, start_.data());
+    std::fill(place_.begin(), place_.end(), -1);
+    const double least_pivot = pivot_threshold(greatest_modulus(a));
+    for (Integer i = 0; i < n_; ++i) {
+        const Integer begin = start_[i], end = start_[i + 1];
+        for (Integer p = begin; p < end; ++p) {
+            value_[p] = a.value[p];
+            place_[a.column[p] - 1] = p;
+        }
+        double dropped = 0.0;
+        Integer p = begin;
+        for (; p < end && a.column[p] <= i; ++p) {
+            const Integer j = a.column[p] - 1, j_end = start_[j + 1];
+            const double multiplier = value_[p] * value_[diagonal_[j]];
+            value_[p] = multiplier;
+            for (Integer q = diagonal_[j] + 1; q < j_end; ++q) {
+                const double change = multiplier * value_[q];
+                const Integer target = place_[a.column[q] - 1];
+                if (target >= begin)
+                    value_[target] -= change;
+                else
+                    dropped -= change;
+            }
+        }
+        if (p == end || a.column[p] != i + 1) return false;
+        const double pivot = modified ? value_[p] + dropped : value_[p];
+        if (!(std::abs(pivot) >= least_pivot)) return false;
+        diagonal_[i] = p;
+        value_[p] = 1.0 / pivot;
+    }
+    std::copy_n(a.row, nnz_, row_);
+    std::copy_n(a.column, nnz_, column_);
+    return true;
+}
+
+void InPlaceElimination::hand_over(LuResult &result) const
+{
+    for (Integer i = 0; i < n_; ++i) {
+        result.row_start[i] = nnz_ + start_[i] + 1;
+        result.diagonal[i] = nnz_ + diagonal_[i] + 1;
+        result.row_order[i] = result.column_order[i] = i + 1;
+    }
+    result.row_start[n_] = 2 * nnz_ + 1;
+    result.elements = nnz_;
+    result.modified_pivots = 0;
+}
+
 } // namespace
 
 Factorised factorise_lu(const Matrix &a, const LuRules &rules, const Storage &storage, LuResult &result)
 {
+    if (rules.pivoting == LuPivoting::none && rules.fill_level == 0) {
+        InPlaceElimination in_place{a, storage};
+        if (!in_place.allocate()) return Factorised::no_memory;
+        if (in_place.run(a, rules.modified)) {
+            in_place.hand_over(result);
+            return Factorised::done;
+        }
+    }
     RowElimination elimination{a, rules};
     const Factorised outcome = elimination.run(result);
     return outcome == Factorised::done ? elimination.hand_over(storage, result) : outcome;

@@ -114,6 +114,34 @@ std::vector<Integer> reversed(Integer n)
     return order;
 }
 
+std::vector<Integer> in_order(Integer n)
+{
+    std::vector<Integer> order(static_cast<std::size_t>(n));
+    std::iota(order.begin(), order.end(), 1);
+    return order;
+}
+
+// Without fill and pivoting there is a short way; an order that is given, and that of A, takes the long one.
+TEST(Factors, WithoutFillBothWaysLeadToTheSame)
+{
+    const Integer n = 40;
+    const Elements full = scattered(n, 0.2, 6.0, 8);
+    for (const Integer milu : {Kor_SparseNsym_UnModFact, Kor_SparseNsym_ModFact}) {
+        const Lu a{n, full, 0, 0.0, Kor_SparseNsym_NoPiv, milu},
+            b{n, full, 0, 0.0, Kor_SparseNsym_UserPiv, milu, in_order(n), in_order(n)};
+        EXPECT_EQ(a.istr, b.istr);
+        EXPECT_EQ(a.idiag, b.idiag);
+        EXPECT_EQ(a.pattern(), b.pattern());
+        for (Integer p = a.s.nnz; p < 2 * a.s.nnz; ++p)
+            EXPECT_NEAR(a.s.a[p], b.s.a[p], 4 * 0x1p-53 * std::abs(b.s.a[p]));
+    }
+    const Cholesky a{n, lower_triangle(full), 0, 0.0},
+        b{n, lower_triangle(full), 0, 0.0, Kor_SparseSym_UserPiv, Kor_SparseSym_UnModFact, in_order(n)};
+    EXPECT_EQ(a.npivm, 0);
+    EXPECT_EQ(a.istr, b.istr);
+    for (Integer p = a.s.nnz; p < 2 * a.s.nnz; ++p) EXPECT_EQ(a.s.a[p], b.s.a[p]);
+}
+
 constexpr double kRoundOff = 200 * 0x1p-53; // of a complete factorisation of order 60, elements of size 10
 
 TEST(IncompleteLu, WithoutFillKeepsThePatternAndTheElementsOfA)
