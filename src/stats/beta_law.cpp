@@ -1,17 +1,20 @@
-// The beta law. Four methods, as for the incomplete gamma functions: where both shapes are large and x is near the mean an
-// expansion about the normal law, uniform in x; else a power series of positive terms, a continued fraction that converges
+// The beta law. Five methods: where both shapes are large and x is near the mean an expansion about the normal law, uniform in
+// x; where one is large and the other at most 1 an expansion about the gamma law; else a power series of positive terms, a continued fraction that converges
 // fast beyond the mean, and, where a small a makes both tails from one power of x, their difference from 1 without
 // cancellation. The factor x^a y^b / B(a, b) is formed as a saddle point with a low part: A. R. DiDonato and A. H. Morris, ACM
 // Trans. Math. Softw. 18 (1992) 360-373; C. Loader, Fast and accurate computation of binomial probabilities (2000); N. M.
 // Temme, Special Functions (1996), section 11.3.3.
 #include "stats/beta_law.hpp"
 
+#include <array>
 #include <cmath>
 
 #include "frame/constants.hpp"
 #include "special/erf.hpp"
 #include "special/gamma.hpp"
+#include "special/incomplete_gamma.hpp"
 #include "special/incomplete_gamma_tables.hpp"
+#include "stats/gamma_law.hpp"
 #include "stats/normal_law.hpp"
 
 namespace kor::stats {
@@ -23,7 +26,10 @@ using namespace special;
 constexpr double kStirlingFrom = 12.0;
 constexpr double kExponentLimit = 2000.0; // beyond it exp(-t) is far out of range
 constexpr int kMaxSteps = 1000;           // none is known that takes 200
-constexpr double kUniformFrom = 64.0;     // the smaller shape, while |y| <= kUniformWithin
+constexpr double kGammaTo = 160.0;        // a + b: to here 1 / B(a, b) is formed from gamma functions
+constexpr double kGammaLawFrom = 15.0; // the larger shape, while the variable of the smaller is at most kGammaLawWithin
+constexpr double kGammaLawWithin = 0.6;
+constexpr double kUniformFrom = 64.0; // the smaller shape, while |y| <= kUniformWithin
 constexpr double kUniformWithin = 0.4;
 
 // Gamma(a + 1) = sqrt(2 pi a) (a/e)^a S(a), S(a) = factor exp(exponent).
@@ -67,17 +73,17 @@ DoubleDouble log_gamma_increment(double b, double a)
     return (n - 0.5) * extended_log(n / b) + a * (extended_log({b}) - 1.0) + correction + extended_log(ratio);
 }
 
-// Both tails of a law with a < 1 at a small x: lower = (1 + u)(1 + j), 1 + u = x^a / (a B(a, b)).
-Tails from_one_power(double a, double b, DoubleDouble x)
+// Both tails of a law with a < 1 at a small x: lower = (1 + u)(1 + j), 1 + u = x^a / (a B(a, b)), from ln(1 + u).
+Tails from_one_power(double a, double b, double x, DoubleDouble log_power)
 {
     double sum = 0.0, term = 1.0;
     for (int k = 1; k <= kMaxSteps; ++k) {
-        term *= x.hi * (k - b) / k;
-        sum += term / (a + k);
-        if (std::fabs(term) <= kPrecision * std::fabs(sum)) break;
+        term *= x * (k - b) / k;
+        const double part = term / (a + k);
+        sum += part;
+        if (std::fabs(part) <= kPrecision * std::fabs(sum)) break;
     }
     const double j = a * sum;
-    const DoubleDouble log_power = a * extended_log(x) + (log_gamma_increment(b, a) - extended_log_gamma_one_plus(a));
     if (log_power.hi < -kExponentLimit) return {0.0, 1.0};
     const double one_plus_u = extended_exp(log_power).rounded();
     const double u = log_power.hi < -1.0 ? one_plus_u - 1.0 : std::expm1(log_power.hi) + log_power.lo * one_plus_u;
@@ -96,24 +102,33 @@ DoubleDouble power_series(double a, double n, double x)
     return two_sum(1.0, sum);
 }
 
-// lower B(a, b) / (x^a y^b) by the even part of the classical continued fraction, summed from the front. surplus = a y - b x,
-// accurately.
+// lower B(a, b) / (x^a y^b) by the even part of the classical continued fraction, its denominators cleared; surplus = a y - b
+// x, accurately. Numerators and denominators of the convergents grow fast, and are divided by one of them every few steps.
 double continued_fraction(double a, double b, double x, double y, double surplus)
 {
-    const double n_all = a + b;
-    double beta = (a / (a + 1.0)) * (surplus + 1.0);
-    double d = 1.0 / beta, delta = d, sum = d;
-    for (int n = 1; n < kMaxSteps; ++n) {
-        const double odd = a + (2.0 * n - 1.0);
-        const double shared = n * (b - n) * x / odd;
-        const double alpha = (a + (n - 1.0)) * (n_all + (n - 1.0)) * x / odd * shared;
-        beta = n + shared + (a + n) / (odd + 2.0) * (surplus + 1.0 + n * (1.0 + y));
-        d = 1.0 / (beta + alpha * d);
-        delta *= beta * d - 1.0;
-        sum += delta;
-        if (std::fabs(delta) <= 0.5 * kPrecision * std::fabs(sum)) break;
+    constexpr int kStepsAtOnce = 4;
+    const double n_all = a + b, square = x * x;
+    double odd = a - 1.0, next_odd = a + 1.0; // a + 2 n -+ 1
+    double top = a * (surplus + 1.0), last_top = 1.0, bottom = 1.0, last_bottom = 0.0;
+    double before_odd = 1.0;
+    for (int n = 1; n < kMaxSteps;) {
+        for (int step = 0; step < kStepsAtOnce; ++step, ++n) {
+            odd = next_odd, next_odd += 2.0;
+            const double numerator =
+                (a + (n - 1.0)) * (n_all + (n - 1.0)) * (n * (b - n)) * square * (before_odd * next_odd);
+            const double denominator =
+                n * next_odd * (odd + (b - n) * x) + (a + n) * odd * (surplus + 1.0 + n * (1.0 + y));
+            before_odd = odd;
+            const double new_top = denominator * top + numerator * last_top;
+            const double new_bottom = denominator * bottom + numerator * last_bottom;
+            last_top = top, top = new_top, last_bottom = bottom, bottom = new_bottom;
+        }
+        const double scale = 1.0 / top;
+        last_top *= scale, bottom *= scale, last_bottom *= scale, top = 1.0;
+        // The last two convergents, both times last_top.
+        if (std::fabs(last_bottom - last_top * bottom) <= kPrecision * std::fabs(last_bottom)) break;
     }
-    return sum;
+    return (a + 1.0) * bottom;
 }
 
 // A power series takes over from the fraction where its terms fall by half at once.
@@ -177,6 +192,47 @@ double start_odds(double a, double b, double p)
     return y > 0.0 ? std::fmin(a / b, std::exp(log_x) / y) : a / b;
 }
 
+// Tails of the gamma law of shape b <= 1 at u, and u^b exp(-u) / Gamma(b).
+struct GammaPoint {
+    double lower, upper, slope;
+};
+
+GammaPoint gamma_point(double b, DoubleDouble u)
+{
+    constexpr double kUnderflow = 750.0, kScaledErfcFrom = 0.5;
+    if (u.hi > kUnderflow) return {1.0, 0.0, 0.0};
+    if (b == 0.5) {
+        const DoubleDouble z = u.hi > 0.0 ? sqrt(u) : DoubleDouble{0.0};
+        const Exponential e = extended_exp(-u);
+        const double slope =
+            times_power_of_two(z.hi * 0.5641895835477563 * e.value.hi, e.exponent); // z / sqrt(pi) exp(-z^2)
+        if (z.hi < kScaledErfcFrom) {
+            const DoubleDouble erf = extended_erf_near_zero(z);
+            return {erf.rounded(), (1.0 - erf).rounded(), slope};
+        }
+        const double upper = times_power_of_two((e.value * extended_scaled_erfc(z)).rounded(), e.exponent);
+        return {1.0 - upper, upper, slope};
+    }
+    const Tails tails = gamma_tails(b, u.hi);
+    const double slope = b * extended_poisson_term(b, u.hi).rounded(), change = slope * (u.lo / u.hi);
+    return {tails.lower + change, tails.upper - change, slope};
+}
+
+// -ln(1 - x), 0 < x < 1, relative to itself.
+DoubleDouble minus_log_of_complement(DoubleDouble x)
+{
+    constexpr double kSeriesBelow = 0x1p-10;
+    if (x.hi >= kSeriesBelow) return -extended_log(1.0 - x);
+    constexpr std::array kSeries{1.0 / 2.0, 1.0 / 3.0, 1.0 / 4.0, 1.0 / 5.0, 1.0 / 6.0, 1.0 / 7.0};
+    return x + x.hi * x.hi * polynomial(kSeries, x.hi);
+}
+
+// Gamma(x), but Gamma(1 + x) below 1/2.
+DoubleDouble shifted_gamma(double x, double low)
+{
+    return extended_gamma(x < 0.5 ? fast_two_sum(1.0, x) : DoubleDouble{x, low});
+}
+
 bool one_power_suffices(double a, double b, double x) { return a < 1.0 && x <= 0.5 && (b <= 1.0 || b * x <= 1.0); }
 
 } // namespace
@@ -202,12 +258,82 @@ Exponential BinomialTerm::after(DoubleDouble fall) const
     return {e.value * factor_, e.exponent};
 }
 
-BetaLaw::BetaLaw(double a, double b) : a_{a}, b_{b}, term_{a, b}, harmonic_{two_product(a, b) / two_sum(a, b)} {}
+const BetaLaw::Factors &BetaLaw::factors() const
+{
+    if (factors_) return *factors_;
+    const DoubleDouble n = two_sum(a_, b_);
+    if (n.hi > kGammaTo) return factors_.emplace(Factors{BinomialTerm{a_, b_}, two_product(a_, b_) / n});
+    DoubleDouble factor = shifted_gamma(n.hi, n.lo) / (shifted_gamma(a_, 0.0) * shifted_gamma(b_, 0.0));
+    if (a_ < 0.5) factor = factor * a_;
+    if (b_ < 0.5) factor = factor * b_;
+    if (n.hi < 0.5) factor = factor / n;
+    return factors_.emplace(Factors{{}, factor});
+}
 
 Exponential BetaLaw::slope_after(DoubleDouble fall) const
 {
-    const Exponential term = term_.after(fall);
-    return {term.value * harmonic_, term.exponent};
+    const Exponential term = factors().term->after(fall);
+    return {term.value * factors().factor, term.exponent};
+}
+
+Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const
+{
+    if (factors().term) return slope_after(factors().term->fall(x, y));
+    const DoubleDouble exponent = a_ * extended_log(x) + b_ * extended_log(y);
+    if (!(exponent.hi > -kExponentLimit)) return {{0.0}, 0};
+    const Exponential powers = extended_exp(exponent);
+    return {powers.value * factors().factor, powers.exponent};
+}
+
+// With a the larger shape, b <= 1 the smaller, z the variable of a, T = a + (b - 1) / 2 and u = -T ln(z): the tails of the
+// gamma law of shape b at u, and a correction in powers of 1 / (4 T^2).
+std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDouble y) const
+{
+    constexpr int kTerms = 12;
+    constexpr std::array<double, kTerms> kOddFactorials = {1.0,
+                                                           6.0,
+                                                           120.0,
+                                                           5040.0,
+                                                           362880.0,
+                                                           39916800.0,
+                                                           6227020800.0,
+                                                           1307674368000.0,
+                                                           355687428096000.0,
+                                                           121645100408832000.0,
+                                                           51090942171709440000.0,
+                                                           25852016738884976640000.0};
+    constexpr double kNegligible = 0x1p-58;
+    const bool rising = a_ < b_; // the variable of b is x
+    const double a = rising ? b_ : a_, b = rising ? a_ : b_;
+    if (b > 1.0 || a < kGammaLawFrom) return {};
+    const DoubleDouble z = rising ? y : x, rest = rising ? x : y;
+    constexpr double kLeast = 1e-250; // below it products lose their low parts
+    if (rest.hi < kLeast || rest.hi > kGammaLawWithin) return {};
+    const DoubleDouble log_z = minus_log_of_complement(rest);
+
+    const DoubleDouble t = two_sum(a, 0.5 * (b - 1.0));
+    const GammaPoint gamma = gamma_point(b, t * log_z);
+    const double per_square = 0.25 / (t.hi * t.hi), u = t.hi * log_z.hi, quarter = 0.25 * log_z.hi * log_z.hi;
+    std::array<double, kTerms> p;
+    p[0] = 1.0;
+    double whole = 1.0, edge = 0.0, mass = 1.0, correction = 0.0, power = 1.0;
+    for (int n = 1; n < kTerms; ++n) {
+        double sum = (b - 1.0) * n / kOddFactorials[n];
+        for (int m = 1; m < n; ++m) sum += (m * b - n) * p[n - m] / kOddFactorials[m];
+        p[n] = sum / n;
+        const double c = (b + (2 * n - 2)) * (b + (2 * n - 1)) * per_square;
+        whole *= c;
+        edge = c * edge + (u + b + (2 * n - 1)) * per_square * power;
+        power *= quarter;
+        mass += p[n] * whole;
+        correction += p[n] * edge;
+        if (std::fabs(p[n]) * (whole + edge) < kNegligible) break;
+    }
+    const double slope = gamma.slope / mass;
+    const double lower = gamma.lower - slope * correction, upper = gamma.upper + slope * correction;
+    const double at = slope * std::pow(rest.hi / log_z.hi, b) * std::pow(z.hi, 0.5 * (1.0 - b));
+    const double bend = a_ * y.hi - b_ * x.hi;
+    return PointOfLaw{rising ? Tails{lower, upper} : Tails{upper, lower}, at, bend};
 }
 
 // The tail on the side of x from the mean is exp(-z^2) (exp(z^2) erfc(z) / 2 +- S exp(-stirling) / sqrt(2 pi N)), z^2 = fall.
@@ -224,8 +350,8 @@ std::optional<Tails> BetaLaw::by_uniform_expansion(DoubleDouble fall, bool below
     const double side = below == (b_ < a_) ? 1.0 : -1.0;
     const DoubleDouble z = fall.hi > 0.0 ? sqrt(fall) : DoubleDouble{0.0};
     const double y = side * z.hi * std::sqrt(2.0 / n);
-    const double correction = side * uniform_correction(small / large, n, y) * std::exp(term_.log_stirling()) /
-                              std::sqrt(tables::kTwoPi.hi * n);
+    const double correction = side * uniform_correction(small / large, n, y) *
+                              std::exp(factors().term->log_stirling()) / std::sqrt(tables::kTwoPi.hi * n);
     const Exponential e = extended_exp(-fall);
     const DoubleDouble scaled = z.hi >= kScaledErfcFrom ? extended_scaled_erfc(z)
                                                         : extended_exp(fall).value * (1.0 - extended_erf_near_zero(z));
@@ -249,29 +375,47 @@ Tails BetaLaw::by_series(DoubleDouble x, DoubleDouble y, DoubleDouble surplus, E
 
 std::optional<Tails> BetaLaw::by_one_power(DoubleDouble x, DoubleDouble y) const
 {
-    if (one_power_suffices(a_, b_, x.hi)) return from_one_power(a_, b_, x);
+    if (one_power_suffices(a_, b_, x.hi)) return from_one_power(a_, b_, x.hi, log_power(a_, b_, x));
     if (!one_power_suffices(b_, a_, y.hi)) return {};
-    const Tails mirrored = from_one_power(b_, a_, y);
+    const Tails mirrored = from_one_power(b_, a_, y.hi, log_power(b_, a_, y));
     return Tails{mirrored.upper, mirrored.lower};
 }
 
-Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const { return slope_after(term_.fall(x, y)); }
+// ln(x^a / (a B(a, b))), relative to itself.
+DoubleDouble BetaLaw::log_power(double a, double b, DoubleDouble x) const
+{
+    constexpr double kFactorServesFrom =
+        0.0625; // below it a B(a, b) is next to 1, and its logarithm is not known from it
+    if (a >= kFactorServesFrom && !factors().term) return a * extended_log(x) + extended_log(factors().factor / a);
+    return a * extended_log(x) + (log_gamma_increment(b, a) - extended_log_gamma_one_plus(a));
+}
 
 Tails BetaLaw::tails(DoubleDouble x, DoubleDouble y) const
 {
+    if (const auto result = by_gamma_expansion(x, y)) return result->tails;
     if (const auto result = by_one_power(x, y)) return *result;
-    const DoubleDouble fall = term_.fall(x, y), surplus = a_ * y - b_ * x;
+    const DoubleDouble surplus = a_ * y - b_ * x;
+    if (!factors().term) return by_series(x, y, surplus, slope(x, y));
+    const DoubleDouble fall = factors().term->fall(x, y);
     if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return *result;
     return by_series(x, y, surplus, slope_after(fall));
 }
 
 PointOfLaw BetaLaw::at(DoubleDouble x, DoubleDouble y) const
 {
-    const DoubleDouble fall = term_.fall(x, y), surplus = a_ * y - b_ * x;
-    const Exponential slope = slope_after(fall);
-    if (const auto result = by_one_power(x, y)) return {*result, slope.rounded()};
-    if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return {*result, slope.rounded()};
-    return {by_series(x, y, surplus, slope), slope.rounded()};
+    if (const auto result = by_gamma_expansion(x, y)) return *result;
+    const DoubleDouble surplus = a_ * y - b_ * x;
+    const auto point = [&](Tails tails, Exponential slope) { return PointOfLaw{tails, slope.rounded(), surplus.hi}; };
+    if (!factors().term) {
+        const Exponential here = slope(x, y);
+        const auto result = by_one_power(x, y);
+        return point(result ? *result : by_series(x, y, surplus, here), here);
+    }
+    const DoubleDouble fall = factors().term->fall(x, y);
+    const Exponential here = slope_after(fall);
+    if (const auto result = by_one_power(x, y)) return point(*result, here);
+    if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return point(*result, here);
+    return point(by_series(x, y, surplus, here), here);
 }
 
 Tails BetaLaw::tails_at_odds(DoubleDouble w) const

@@ -33,7 +33,7 @@ class BinomialTerm {
 class BetaLaw {
   public:
     // a, b > 0.
-    BetaLaw(double a, double b);
+    BetaLaw(double a, double b) : a_{a}, b_{b} {}
 
     // The tails at x, where y = 1 - x; both positive.
     Tails tails(special::DoubleDouble x, special::DoubleDouble y) const;
@@ -51,15 +51,23 @@ class BetaLaw {
     Quantile odds(Target target) const;
 
   private:
+    // What depends on the shapes alone, formed when it is first wanted.
+    struct Factors {
+        std::optional<BinomialTerm> term; // for large shapes
+        special::DoubleDouble factor;     // 1 / B(a, b), or a b / (a + b) beside the binomial term
+    };
+    const Factors &factors() const;
+
     special::Exponential slope_after(special::DoubleDouble fall) const;
+    special::DoubleDouble log_power(double a, double b, special::DoubleDouble x) const;
     std::optional<Tails> by_one_power(special::DoubleDouble x, special::DoubleDouble y) const;
+    std::optional<PointOfLaw> by_gamma_expansion(special::DoubleDouble x, special::DoubleDouble y) const;
     std::optional<Tails> by_uniform_expansion(special::DoubleDouble fall, bool below) const;
     Tails by_series(special::DoubleDouble x, special::DoubleDouble y, special::DoubleDouble surplus,
                     special::Exponential slope) const;
 
     double a_, b_;
-    BinomialTerm term_;
-    special::DoubleDouble harmonic_; // a b / (a + b)
+    mutable std::optional<Factors> factors_;
 };
 
 } // namespace kor::stats

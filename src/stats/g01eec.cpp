@@ -27,7 +27,8 @@ void g01eec(double x, double a, double b, double /*tol: full accuracy meets any*
 
     const kor::stats::BetaLaw law{a, b};
     const DoubleDouble y = two_sum(1.0, -x);
-    const kor::stats::Tails tails = law.tails({x}, y);
+    const kor::stats::PointOfLaw at = law.at({x}, y);
+    const kor::stats::Tails tails = at.tails;
     if (std::fmin(tails.lower, tails.upper) < kor::kSafeSmall) {
         give(x >= 0.5 ? 1.0 : 0.0, x >= 0.5 ? 0.0 : 1.0, 0.0);
         return report.error<NE_PROBAB_CLOSE_TO_TAIL>();

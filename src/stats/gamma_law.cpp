@@ -48,7 +48,7 @@ Quantile gamma_quantile(double a, Target target)
         [a](double x) {
             const Tails tails = gamma_tails(a, x);
             const special::Exponential term = special::extended_poisson_term(a, x);
-            return PointOfLaw{tails, a * term.rounded()};
+            return PointOfLaw{tails, a * term.rounded(), a - x};
         },
         target, start);
 }

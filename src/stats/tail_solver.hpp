@@ -12,10 +12,10 @@
 
 namespace kor::stats {
 
-// The law at a point: both tails, and slope = d lower / d ln(w).
+// The law at a point: both tails, slope = d lower / d ln(w), and bend = d ln(slope) / d ln(w).
 struct PointOfLaw {
     Tails tails;
-    double slope;
+    double slope, bend;
 };
 
 // What is asked for: the w with lower tail `probability`, or with upper tail `probability`; at most 1/2 serves best.
