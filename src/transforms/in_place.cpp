@@ -72,8 +72,8 @@ namespace {
 
 // What a sweep or the transform of blocks needs on the stack.
 struct alignas(sizeof(double) * kLine) Stack {
-    double table[2 * kLargestBlock];    // of a block, or of a dimension
-    double straight[2 * kLargestBlock]; // a block in its natural order
+    double table[2 * kLargestDimension]; // of a dimension
+    double straight[2 * kLargestBlock];  // a block in its natural order
     double work[8 * kGathered];
     double bases[2 * kLargestDimension];
 };
@@ -98,10 +98,24 @@ void turn_digits(const Index *size, int count, const double *in, double *out)
     }
 }
 
+// The roots for blocks, kept from one call to the next: most programs transform one length again and again.
+const double *table_of_block(Index block)
+{
+    struct Kept {
+        double table[2 * kLargestBlock];
+        Index block;
+    };
+    static thread_local Kept kept;
+    if (kept.block != block) {
+        fill_root_table(block, kept.table);
+        kept.block = block;
+    }
+    return kept.table;
+}
+
 void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, Stack &stack)
 {
-    const Plan plan{kind, d.block, stack.table};
-    fill_root_table(d.block, stack.table);
+    const Plan plan{kind, d.block, table_of_block(d.block)};
     const int dimensions = d.count - d.block_from;
     const Index *const size = d.size + d.block_from;
     const bool complex = kind == Kind::complex;

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/large_pages.hpp"
+
 namespace kor::transforms {
 
 namespace {
@@ -27,7 +29,15 @@ bool Rows::prepare(Index m)
     }
     side_by_side_ = m > 1 && n_ <= kLongestSideBySide && primes_.count() == 0 ? std::min(m, kMostSideBySide) : 1;
     const Index parts = kind_ == Kind::complex ? 2 : 1;
-    return work_.allocate(std::max(plan_.work_size(), kLine + 2 * parts * n_ * side_by_side_));
+    const Index size = std::max(plan_.work_size(), kLine + 2 * parts * n_ * side_by_side_);
+    if (size <= kOnStack) {
+        memory_ = on_stack_;
+        return true;
+    }
+    if (!work_.allocate(size)) return false;
+    memory_ = work_.data();
+    suggest_large_pages(memory_, work_.size() * sizeof(double));
+    return true;
 }
 
 void Rows::transform(Index m, Sequence x)
@@ -38,11 +48,11 @@ void Rows::transform(Index m, Sequence x)
     for (Index i = 0; i < m; i += side_by_side_) {
         const Sequence row{x.re + i * n_, complex ? x.im + i * n_ : nullptr};
         if (side_by_side_ == 1) {
-            plan_.transform(row, row, scale, work_.data());
+            plan_.transform(row, row, scale, memory_);
             continue;
         }
         const Index count = std::min(side_by_side_, m - i), size = n_ * count;
-        double *const start = at_line(work_.data());
+        double *const start = at_line(memory_);
         const Sequence columns{start, complex ? start + size : nullptr};
         const Sequence spare{columns.re + (complex ? 2 : 1) * size, complex ? columns.re + 3 * size : nullptr};
         kernels().transpose(count, n_, row.re, n_, columns.re, count);

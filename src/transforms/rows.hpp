@@ -27,7 +27,12 @@ class Rows {
     Plan plan_;
     Index side_by_side_ = 1; // rows that are transposed and transformed together
     LargePrimes primes_;
+
+    // Work for short sequences is on the stack: asking for memory would take as long as a transform.
+    static constexpr Index kOnStack = 1024;
+    double on_stack_[kOnStack];
     Workspace<double> work_;
+    double *memory_ = nullptr;
 };
 
 // The drivers by kind: false, with the data untouched, when there is no memory.

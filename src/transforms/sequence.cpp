@@ -14,9 +14,9 @@ namespace {
 constexpr Index kShortRow = 96;
 constexpr Index kColumnElements = 768;
 
-// Columns of long sequences: a page of memory should not be visited for a line or two.
+// Columns of long sequences: a page of memory should not be visited for a line or two, whatever fits the second cache.
 constexpr Index kLong = 16384;
-constexpr Index kLongColumnElements = 8192;
+constexpr Index kLongColumnElements = 8192, kLongColumns = 32;
 
 constexpr Index kRowBlock = kLine;
 
@@ -45,8 +45,9 @@ Plan::Plan(Kind kind, Index n, const double *trig)
         columns_ = n;
     }
     row_block_ = std::min(rows_, kRowBlock);
-    column_block_ = std::min(columns_, std::max(kRowBlock, (n < kLong ? kColumnElements : kLongColumnElements) / rows_ /
-                                                               kRowBlock * kRowBlock));
+    const auto columns_of = [&](Index elements) { return elements / rows_ / kRowBlock * kRowBlock; };
+    column_block_ = std::min(columns_, n < kLong ? std::max(columns_of(kColumnElements), kRowBlock)
+                                                 : std::max(columns_of(kLongColumnElements), kLongColumns));
 }
 
 // Blocks of rows or columns; passes go to and fro between the two.
