@@ -8,6 +8,32 @@
 
 KOR_BEGIN_DECLS
 
+/// An interpolant of scattered data, made by e01sac(), read by e01sbc(), released by e01szc().
+typedef struct {
+    Integer stamp1;     ///< -11111 once e01sac() has seen the record
+    Integer stamp2;     ///< -23456 once e01sac() has seen the record
+    Integer setup_ok;   ///< -11111 after a successful e01sac(), 0 after a failure
+    Integer method;     ///< Kor_RC or Kor_Shep
+    Integer m;          ///< number of points
+    double radius;      ///< Kor_Shep: the radius of the weights
+    Boolean has_memory; ///< true while the arrays exist
+    double *x;          ///< `m` abscissae, a copy
+    double *y;          ///< `m` ordinates, a copy
+    double *f;          ///< `m` values, a copy
+    double *quad;       ///< Kor_Shep: 5 `m` coefficients of the nodal quadratics
+    Integer *mesh;      ///< Kor_RC: the triangulation, lists of neighbours (6 `m`+1) and their ends (`m`); Kor_Shep: the points by cells
+    double *grads;      ///< Kor_RC: 2 `m` partial derivatives at the nodes, in x and y in turn; Kor_Shep: the frame of the cells
+} KorScatterRecord;
+
+/// Choices for the method Kor_Shep of e01sac().
+typedef struct {
+    double rnw;    ///< radius of the weights
+    double rnq;    ///< radius of the fits; if greater than 0, both radii are taken as they are, and `nw` and `nq` are set to 0
+    Integer nw;    ///< nodes that the radius of the weights shall hold on average
+    Integer nq;    ///< the same for the radius of the fits; 0 or less: `nw` = 9 and `nq` = 18
+    Integer minnq; ///< on exit: the least number of other nodes within `rnq` of a node
+} KorScatterOptions;
+
 /// \brief The cubic spline through given points.
 ///
 /// The knots are the points but the second and the next to last, so that no conditions are needed at the ends: the first
@@ -205,6 +231,105 @@ void e01bhc(Integer n, const double x[], const double f[], const double d[], dou
 /// \endcode
 void e01dac(Integer mx, Integer my, const double x[], const double y[], const double f[], KorSpline2D *spline,
             KorError *fail);
+
+/// \brief Sets up an interpolant of scattered data in two variables.
+///
+/// Kor_RC joins the points to triangles and puts a smooth piecewise cubic on these: local, quick, at home with clusters; for a
+/// point outside the convex hull it extrapolates linearly. Kor_Shep is a weighted mean of quadratics that are fitted about
+/// each point: smooth, best where the points are spread evenly; it has no value far from all points.
+///
+/// \param[in]  method   Kor_RC (Renka and Cline) or Kor_Shep (modified Shepard)
+/// \param[in]  m        number of points, at least 3
+/// \param[in]  x        `m` abscissae
+/// \param[in]  y        `m` ordinates; x and y in comparable units
+/// \param[in]  f        `m` values
+/// \param[out] comm     the interpolant; what it held before is not looked at. Its arrays are released by e01szc()
+/// \param[in,out] optional for Kor_Shep: the radii, or how many points these shall hold. What is chosen is written back. May be
+///                      null: 9 points for the weights, 18 for the fits. Not looked at for Kor_RC
+/// \param[in,out] fail  the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `method` is neither of the two.
+/// - NE_INT_ARG_LT: `m` is less than 3.
+/// - NE_REAL_ARRAY_CONS: a coordinate or a value is not finite; or, for Kor_Shep, so large or small that squares of distances
+///   leave the range of doubles.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_ALL_DATA_COLLINEAR: Kor_RC: all points lie on one line.
+/// - NE_DATA_NOT_UNIQUE: two points coincide; their indices are counted from 0.
+/// - NE_RAD_PARAM_INVALID: not 0 < `rnw` <= `rnq`.
+/// - NE_NUM_PARAM_INVALID: not 0 < `nw` <= `nq`.
+/// - NW_SPARSE_DATA_FIT: a warning: a node has fewer than 6 others within `rnq`, so that its fit is hardly determined; the
+///   interpolant is set up and may be used.
+///
+/// After an error `setup_ok` is 0 and no array is held; after the warning all is as after success.
+/// \par Accuracy
+/// Both interpolate; both reproduce linear functions to a few units of machine precision, Kor_Shep quadratic ones too, where
+/// its points determine them.
+/// \par Method
+/// Kor_RC: Delaunay triangulation by division and merging with exact predicates (L. Guibas and J. Stolfi, ACM Trans. Graphics
+/// 4 (1985) 74-123), in time O(m log m); gradients of least curvature along the edges, iterated until they stand still
+/// (R. J. Renka and A. K. Cline, Rocky Mountain J. Math. 14 (1984) 223-237); Clough-Tocher elements. Kor_Shep: R. Franke and
+/// G. Nielson, Int. J. Numer. Meth. Engng 15 (1980) 1691-1704; neighbours are found by cells.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// e02ddc() smooths scattered data; e01dac() interpolates on a grid.
+/// \par Example
+/// \code{.c}
+/// KorScatterRecord surface;
+/// e01sac(Kor_RC, m, x, y, f, &surface, NULL, &fail);
+/// e01sbc(&surface, n, px, py, pf, &fail);
+/// e01szc(&surface);
+/// \endcode
+void e01sac(Integer method, Integer m, const double x[], const double y[], const double f[], KorScatterRecord *comm,
+            KorScatterOptions *optional, KorError *fail);
+
+/// \brief Values of an interpolant of scattered data.
+///
+/// \param[in]  comm the interpolant, from e01sac(); not changed, so that threads may share it
+/// \param[in]  n    number of points, at least 1
+/// \param[in]  px   `n` abscissae, in any order; points that follow one another in space are quickest
+/// \param[in]  py   `n` ordinates
+/// \param[out] pf   `n` values
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_NO_SETUP: `comm` has never been set up.
+/// - NE_SETUP_ERROR: its setup has failed.
+/// - NE_STRUCT_CORRUPT: `comm` has been spoilt, or released.
+/// - NE_INT_ARG_LT: `n` is less than 1.
+/// - NE_TRIANG_INVALID: Kor_RC: the triangulation in `comm` has been spoilt; the values of the points before are set.
+/// - NW_VALUE_EXTRAPOLATED: Kor_RC: a warning for each point outside the convex hull of the data; all values are set, and the
+///   last warning stands. A point that is not finite gets NaN.
+/// - NE_BAD_INTERPOLANT: Kor_Shep: no node lies within the radius about this point; the values of the points before are set.
+/// \par Accuracy
+/// Kor_Shep gives exactly `f` at a node, Kor_RC too.
+/// \par Method
+/// Kor_RC: the triangle is found by walking from that of the point before. As e01sac().
+/// \par Thread safety
+/// Safe; threads may share an interpolant.
+/// \par Example
+/// \code{.c}
+/// double px[2] = {0.5, 0.6}, py[2] = {0.25, 0.25}, pf[2];
+/// e01sbc(&surface, 2, px, py, pf, &fail);
+/// \endcode
+void e01sbc(const KorScatterRecord *comm, Integer n, const double px[], const double py[], double pf[], KorError *fail);
+
+/// \brief Releases the arrays of an interpolant of scattered data.
+///
+/// \param[in,out] comm the interpolant; without arrays, because it was released before or its setup has failed, it is left
+///                      alone. Must have been seen by e01sac()
+/// \par Accuracy
+/// No arithmetic is done.
+/// \par Method
+/// The arrays go back by x04bdc().
+/// \par Thread safety
+/// Safe, as long as no other thread uses the interpolant.
+/// \par Example
+/// \code{.c}
+/// e01szc(&surface);
+/// \endcode
+void e01szc(KorScatterRecord *comm);
 
 KOR_END_DECLS
 

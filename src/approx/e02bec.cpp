@@ -35,9 +35,10 @@ class CurveSmoothing {
         // No more knots than the points allow, however many the caller would take.
         limit_ = std::min(limit, m + kOrder);
         const kor::Count size{limit_};
-        memory_ = t_.allocate(size) && c_.allocate(size) && z_.allocate(size) && r_.allocate(size * kor::Count{kOrder}) &&
-                  smooth_z_.allocate(size) && smooth_r_.allocate(size * kor::Count{kOrder + 1}) &&
-                  jumps_.allocate(size * kor::Count{kOrder + 1}) && residuals_.allocate(size) && inside_.allocate(size) &&
+        memory_ = t_.allocate(size) && c_.allocate(size) && z_.allocate(size) &&
+                  r_.allocate(size * kor::Count{kOrder}) && smooth_z_.allocate(size) &&
+                  smooth_r_.allocate(size * kor::Count{kOrder + 1}) && jumps_.allocate(size * kor::Count{kOrder + 1}) &&
+                  residuals_.allocate(size) && inside_.allocate(size) &&
                   basis_.allocate(kor::Count{m} * kor::Count{kOrder}) && spans_.allocate(kor::Count{m});
         knots_ = {t_.data(), kEndKnots, limit_, m, x, inside_.data(), residuals_.data()};
     }
@@ -188,13 +189,14 @@ bool take_up(CurveSmoothing &fit, const KorSplineWarm *warm, const KorSpline *sp
 
 } // namespace
 
-void e02bec(Integer start, Integer m, const double x[], const double y[], const double weights[], double s, Integer nest,
-            double *fp, KorSplineWarm *warmstartinf, KorSpline *spline, KorError *fail)
+void e02bec(Integer start, Integer m, const double x[], const double y[], const double weights[], double s,
+            Integer nest, double *fp, KorSplineWarm *warmstartinf, KorSpline *spline, KorError *fail)
 {
     const kor::Report report{"e02bec", fail};
     if (start != Kor_Cold && start != Kor_Warm) return report.error<NE_BAD_PARAM>("start");
     if (m < kOrder) return report.error<NE_INT_ARG_LT>("m", "4", "m", m);
-    if (!strictly_increasing(report, "x", m, x) || !all_finite(report, "y", m, y) || !weights_positive(report, m, weights))
+    if (!strictly_increasing(report, "x", m, x) || !all_finite(report, "y", m, y) ||
+        !weights_positive(report, m, weights))
         return;
     if (!(s >= 0.0)) return report.error<NE_REAL_ARG_LT>("s", "0.0", "s", s);
     if (nest < kEndKnots) return report.error<NE_SF_D_K_CONS>("nest >= 8", "the spline is cubic", nest, m, s);

@@ -180,3 +180,43 @@ KOR_SPECIMEN(e02bec)
     release(spline);
     release(state);
 }
+
+namespace {
+
+const double kPlaneX[8] = {0.0, 1.0, 0.0, 1.0, 0.5, 0.25, 0.75, 0.4};
+const double kPlaneY[8] = {0.0, 0.0, 1.0, 1.0, 0.45, 0.75, 0.3, 0.1};
+const double kPlaneF[8] = {1.0, 2.0, 0.5, 3.0, 1.5, 2.5, 0.0, 1.0};
+
+} // namespace
+
+KOR_SPECIMEN(e01sac)
+{
+    KorScatterRecord comm{};
+    KorScatterOptions options{2.0, 3.0, 1, 1, 0};
+    call([&](KorError *fail) { e01sac(Kor_Shep, 8, kPlaneX, kPlaneY, kPlaneF, &comm, &options, fail); });
+    outputs(options);
+    if (comm.has_memory) outputs(comm.quad, 40);
+    e01szc(&comm);
+}
+
+KOR_SPECIMEN(e01sbc)
+{
+    KorScatterRecord comm{};
+    KorError quiet{};
+    e01sac(Kor_RC, 8, kPlaneX, kPlaneY, kPlaneF, &comm, nullptr, &quiet);
+    double pf[3] = {99.0};
+    const double px[3] = {0.3, 0.6, 0.9}, py[3] = {0.3, 0.5, 0.2};
+    call([&](KorError *fail) { e01sbc(&comm, 3, px, py, pf, fail); });
+    outputs(pf);
+    e01szc(&comm);
+}
+
+KOR_SPECIMEN_WITHOUT_RECORD(e01szc)
+{
+    KorScatterRecord comm{};
+    KorError quiet{};
+    e01sac(Kor_RC, 8, kPlaneX, kPlaneY, kPlaneF, &comm, nullptr, &quiet);
+    call([&](KorError *) { e01szc(&comm); });
+    outputs(comm.has_memory);
+    e01szc(&comm);
+}
