@@ -375,6 +375,123 @@ void e02bec(Integer start, Integer m, const double x[], const double y[], const 
 void e02dbc(Integer m, const double x[], const double y[], double ff[], const Integer point[], const KorSpline2D *spline,
             KorError *fail);
 
+/// \brief The smoothing bicubic spline for values on a rectangular grid.
+///
+/// The surface counterpart of e02bec(): among the splines on its knots with fp = sum_ij (f_ij - s(`x[i]`, `y[j]`))^2 at most `s`,
+/// the one whose third derivatives jump least.
+///
+/// \param[in]  start   Kor_Cold: from the beginning; Kor_Warm: from the knots and the state that an earlier call with the same
+///                     grid has left
+/// \param[in]  mx      number of grid lines of constant x, at least 4
+/// \param[in]  x       `mx` abscissae, strictly increasing
+/// \param[in]  my      number of grid lines of constant y, at least 4
+/// \param[in]  y       `my` ordinates, strictly increasing
+/// \param[in]  f       `mx` by `my` values, row-major: that at (`x[i]`, `y[j]`) is `f[my * i + j]`
+/// \param[in]  s       the smoothing factor, at least 0; with 0 the spline interpolates. With values of standard deviation
+///                     sigma, sigma^2 (`mx` `my` +- sqrt(2 `mx` `my`)) is right
+/// \param[in]  nxest   the greatest number of knots in x: at least 8, and at least `mx`+4 if `s` is 0; `mx`+4 is always enough
+/// \param[in]  nyest   the greatest number of knots in y: at least 8, and at least `my`+4 if `s` is 0
+/// \param[out] fp      the sum of squares: within 0.001 `s` of `s`; less if no interior knot is needed; 0 for an interpolating
+///                     spline
+/// \param[in,out] warmstartinf what a warm start needs, as in e02bec(); may be null for a cold start
+/// \param[in,out] spline the spline; for a warm start on entry that of the earlier call, whose arrays are replaced. The caller
+///                     releases `lamda`, `mu` and `c`
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `start` is neither Kor_Cold nor Kor_Warm.
+/// - NE_INT_ARG_LT: `mx` or `my` is less than 4.
+/// - NE_NOT_STRICTLY_INCREASING: `x` or `y` is not strictly increasing, or holds a NaN.
+/// - NE_REAL_ARRAY_CONS: a coordinate or a value is not finite.
+/// - NE_REAL_ARG_LT: `s` is less than 0.
+/// - NE_NUM_KNOTS_2D_LT: `nxest` or `nyest` is less than 8.
+/// - NE_SF_D_K_CONS: `s` is 0, and `nxest` is less than `mx`+4 or `nyest` less than `my`+4.
+/// - NE_ENUMTYPE_WARM: `start` is Kor_Warm, but `warmstartinf` and `spline` do not hold the results of an earlier call with
+///   this grid.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_NUM_KNOTS_2D_GT_RECT: more knots are needed than `nxest` and `nyest` allow; the least-squares spline on the knots so
+///   far is returned.
+/// - NE_SPLINE_COEFF_CONV: the smoothing parameter was not found; `s` may be too small. The last spline is returned.
+///
+/// After the last two the outputs are set; after the others they are untouched.
+/// \par Accuracy
+/// |fp - `s`| is less than 0.001 `s`.
+/// \par Method
+/// As e02bec(), with knots added now in x, now in y, and the equations solved one dimension at a time. P. Dierckx, SIAM J.
+/// Numer. Anal. 19 (1982) 1286-1304, and Curve and Surface Fitting with Splines (1993), chapter 5.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// e02dec() and e02dfc() evaluate the spline; e02ddc() takes scattered data.
+/// \par Example
+/// \code{.c}
+/// KorSpline2D spline;
+/// e02dcc(Kor_Cold, mx, x, my, y, f, 0.1, mx + 4, my + 4, &fp, NULL, &spline, &fail);
+/// \endcode
+void e02dcc(Integer start, Integer mx, const double x[], Integer my, const double y[], const double f[], double s,
+            Integer nxest, Integer nyest, double *fp, KorSplineWarm *warmstartinf, KorSpline2D *spline, KorError *fail);
+
+/// \brief The smoothing bicubic spline for scattered data.
+///
+/// As e02dcc(), with points anywhere in the plane and weights: fp = sum (`weights[r]` (`f[r]` - s(`x[r]`, `y[r]`)))^2. Where the
+/// points leave coefficients undetermined, those of least norm are taken. The rectangle of the spline is that of the points.
+///
+/// \param[in]  start   Kor_Cold: from the beginning; Kor_Warm: from the knots and the state that an earlier call with the same
+///                     points has left
+/// \param[in]  m       number of points, at least 16
+/// \param[in]  x       `m` abscissae
+/// \param[in]  y       `m` ordinates
+/// \param[in]  f       `m` values
+/// \param[in]  weights `m` weights, at least 16 of them not 0; a point of weight 0 counts for the rectangle alone. Signs do not
+///                     matter
+/// \param[in]  s       the smoothing factor, greater than 0. With weights that are the reciprocals of the standard deviations
+///                     of `f`, values from m - sqrt(2m) to m + sqrt(2m) are right
+/// \param[in]  nxest   the greatest number of knots in x, at least 8; 5 + sqrt(m) is usually ample
+/// \param[in]  nyest   the greatest number of knots in y, at least 8
+/// \param[out] fp      the sum of squares: within 0.001 `s` of `s`, or less if no interior knot is needed
+/// \param[out] rank    the rank of the equations that have been solved; less than (`nx`-4)(`ny`-4) where coefficients of least
+///                     norm were taken
+/// \param[in,out] warmstartinf what a warm start needs, as in e02bec(); may be null for a cold start
+/// \param[in,out] spline the spline; for a warm start on entry that of the earlier call, whose arrays are replaced. The caller
+///                     releases `lamda`, `mu` and `c`
+/// \param[in,out] fail the error record; may be null, and then a failure ends the process
+///
+/// \par Errors
+/// - NE_BAD_PARAM: `start` is neither Kor_Cold nor Kor_Warm.
+/// - NE_INT_ARG_LT: `m` is less than 16.
+/// - NE_REAL_ARRAY_CONS: a coordinate, a value or a weight is not finite.
+/// - NE_NON_ZERO_WEIGHTS: fewer than 16 weights are not 0.
+/// - NE_ALL_ELEMENTS_EQUAL: all `x`, or all `y`, are equal.
+/// - NE_REAL_ARG_LE: `s` is not greater than 0.
+/// - NE_NUM_KNOTS_2D_LT: `nxest` or `nyest` is less than 8.
+/// - NE_ENUMTYPE_WARM: `start` is Kor_Warm, but `warmstartinf` and `spline` do not hold the results of an earlier call with
+///   these points.
+/// - NE_ALLOC_FAIL: there is not enough memory.
+/// - NE_NUM_KNOTS_2D_GT_SCAT: more knots are needed than `nxest` and `nyest` allow.
+/// - NE_NUM_COEFF_GT: more knots are needed, but there are more coefficients than points already.
+/// - NE_NO_ADDITIONAL_KNOTS: more knots are needed, but a new one would coincide with an old one.
+/// - NE_SPLINE_COEFF_CONV: the smoothing parameter was not found; `s` may be too small.
+///
+/// After the last four the outputs are set, to the last spline; after the others they are untouched.
+/// \par Accuracy
+/// |fp - `s`| is less than 0.001 `s`.
+/// \par Method
+/// As e02bec(); a knot is added where the residuals in a strip between two knots are largest, at their centre of gravity.
+/// P. Dierckx, Curve and Surface Fitting with Splines (1993), chapter 9, and IMA J. Numer. Anal. 1 (1981) 267-283.
+/// \par Thread safety
+/// Safe.
+/// \par See also
+/// e02dec() and e02dfc() evaluate the spline; e01sac() interpolates scattered data.
+/// \par Example
+/// \code{.c}
+/// KorSpline2D spline;
+/// Integer rank;
+/// e02ddc(Kor_Cold, m, x, y, f, weights, m, 20, 20, &fp, &rank, NULL, &spline, &fail);
+/// \endcode
+void e02ddc(Integer start, Integer m, const double x[], const double y[], const double f[], const double weights[], double s,
+            Integer nxest, Integer nyest, double *fp, Integer *rank, KorSplineWarm *warmstartinf, KorSpline2D *spline,
+            KorError *fail);
+
 /// \brief Values of a bicubic spline at a list of points.
 ///
 /// \param[in]  m      number of points, at least 1

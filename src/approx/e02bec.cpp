@@ -9,7 +9,6 @@
 
 #include "approx/arguments.hpp"
 #include "approx/banded_triangle.hpp"
-#include "approx/knot_conditions.hpp"
 #include "approx/smoothing.hpp"
 #include "approx/warm_start.hpp"
 #include "frame/workspace.hpp"
@@ -73,8 +72,9 @@ class CurveSmoothing {
                 first ? 1 : GrowingKnots::number_to_add(state_.added, state_.before - fp_, excess, accuracy_);
             first = false;
             state_.before = fp_;
-            share_residuals();
+            knots_.share_residuals(spans_.data(), [this](Integer i) { return squared_residual(i); });
             knots_.add(state_.added);
+            if (knots_.interpolating()) knots_.start_interpolating();
         }
     }
 
@@ -97,31 +97,15 @@ class CurveSmoothing {
         const BandedTriangle triangle{r_.data(), z_.data(), knots_.basis_size(), kOrder};
         triangle.clear();
         fp_ = 0.0;
-        Integer l = kDegree;
+        knots_.evaluate_basis(spans_.data(), basis_.data());
         for (Integer i = 0; i < m_; ++i) {
-            while (l < knots_.n - kOrder - 1 && x_[i] >= t_[l + 1]) ++l;
-            double *const b = basis_.data() + static_cast<std::ptrdiff_t>(i) * kOrder;
-            spans_[i] = l;
-            basis_values(t_.data(), l, x_[i], b);
+            const double *const b = basis_.data() + static_cast<std::ptrdiff_t>(i) * kOrder;
             double h[kOrder];
             for (int j = 0; j < kOrder; ++j) h[j] = weights_[i] * b[j];
-            const double left = triangle.add_row(l - kDegree, h, kOrder, weights_[i] * y_[i]);
+            const double left = triangle.add_row(spans_[i] - kDegree, h, kOrder, weights_[i] * y_[i]);
             fp_ += left * left;
         }
         triangle.solve(c_.data());
-    }
-
-    // The share of each interval in the sum of squares. A point on a knot belongs to both sides by half.
-    void share_residuals()
-    {
-        std::fill_n(residuals_.data(), knots_.intervals(), 0.0);
-        for (Integer i = 0; i < m_; ++i) {
-            const Integer j = spans_[i] - kDegree;
-            const double square = squared_residual(i);
-            const bool on_knot = j > 0 && spans_[i - 1] - kDegree < j;
-            residuals_[j] += on_knot ? 0.5 * square : square;
-            if (on_knot) residuals_[j - 1] += 0.5 * square;
-        }
     }
 
     // The spline of these knots with the penalty 1/p on the jumps of the third derivative. Rows of the least-squares triangle
@@ -173,16 +157,13 @@ class CurveSmoothing {
 };
 
 // Takes up the knots and the state that an earlier call has left, if they fit these data.
-bool take_up(CurveSmoothing &fit, const KorSplineWarm *warm, const KorSpline *spline, Integer m, const double x[])
+bool take_up(CurveSmoothing &fit, const KorSplineWarm *warm, const KorSpline *spline)
 {
     const WarmReader reader{warm, kReals, kIntegers};
-    if (!reader || spline->lamda == nullptr || spline->n < kEndKnots || spline->n > fit.knots().limit) return false;
     GrowingKnots &knots = fit.knots();
-    knots.n = spline->n;
-    std::copy_n(spline->lamda, knots.n, knots.t);
-    knots.set_ends();
-    if (reader.integer(0) != m || !reader.copy_counts(kIntegers, knots)) return false;
-    if (first_without_point(knots.knots(), m, x) >= 0) return false;
+    if (!reader || reader.integer(0) != knots.m || !take_up_knots(spline->n, spline->lamda, knots) ||
+        !reader.copy_counts(kIntegers, knots))
+        return false;
     fit.state() = {reader.real(0), reader.real(1), reader.integer(1)};
     return true;
 }
@@ -206,7 +187,7 @@ void e02bec(Integer start, Integer m, const double x[], const double y[], const 
     CurveSmoothing fit{m, x, y, weights, s, nest};
     if (!fit) return report.error<NE_ALLOC_FAIL>();
     const bool warm = start == Kor_Warm;
-    if (warm && !take_up(fit, warmstartinf, spline, m, x)) return report.error<NE_ENUMTYPE_WARM>("start");
+    if (warm && !take_up(fit, warmstartinf, spline)) return report.error<NE_ENUMTYPE_WARM>("start");
 
     const Fit outcome = fit.run(warm);
 
@@ -216,10 +197,8 @@ void e02bec(Integer start, Integer m, const double x[], const double y[], const 
     if (!lamda || !c || !memory) return report.error<NE_ALLOC_FAIL>();
     std::copy_n(knots.t, knots.n, lamda.data());
     std::fill(std::copy_n(fit.coefficients(), knots.basis_size(), c.begin()), c.end(), 0.0);
-    memory.real(0, fit.state().of_polynomial);
-    memory.real(1, fit.state().before);
-    memory.integer(0, m);
-    memory.integer(1, fit.state().added);
+    memory.reals({fit.state().of_polynomial, fit.state().before});
+    memory.integers({m, fit.state().added});
     memory.counts(kIntegers, knots);
     memory.hand_over(warm);
     replace(spline->lamda, lamda, warm);

@@ -180,6 +180,32 @@ struct GrowingKnots {
         set_ends();
     }
 
+    // Distributes the squared residuals of the data points over the intervals. A point on a knot belongs to both sides by
+    // half.
+    template <class Square>
+    void share_residuals(const Integer *spans, Square square)
+    {
+        std::fill_n(residuals, intervals(), 0.0);
+        for (Integer i = 0; i < m; ++i) {
+            const Integer j = spans[i] - kDegree;
+            const bool on_knot = j > 0 && spans[i - 1] - kDegree < j;
+            const double whole = square(i);
+            residuals[j] += on_knot ? 0.5 * whole : whole;
+            if (on_knot) residuals[j - 1] += 0.5 * whole;
+        }
+    }
+
+    // The spans and the basis values of all data points, four each.
+    void evaluate_basis(Integer *spans, double *basis) const
+    {
+        Integer l = kDegree;
+        for (Integer i = 0; i < m; ++i) {
+            while (l < n - kOrder - 1 && x[i] >= t[l + 1]) ++l;
+            spans[i] = l;
+            basis_values(t, l, x[i], basis + static_cast<std::ptrdiff_t>(i) * kOrder);
+        }
+    }
+
     // How many knots to add, where the last `added` ones lowered the sum of squares by `gain` and it is `excess` too large.
     static Integer number_to_add(Integer added, double gain, double excess, double accuracy)
     {
@@ -191,11 +217,7 @@ struct GrowingKnots {
     // Adds that many, or all that may be had.
     void add(Integer count)
     {
-        for (Integer k = 0; k < count; ++k) {
-            split_worst();
-            if (interpolating()) return start_interpolating();
-            if (full()) return;
-        }
+        for (Integer k = 0; k < count && !full(); ++k) split_worst();
     }
 };
 

@@ -4,9 +4,13 @@
 // that stems from other data, is told apart by its sizes and by its counts, which must add up to the data points.
 #pragma once
 
+#include <algorithm>
+#include <initializer_list>
+
 #include <kor/e02.h>
 #include <kor/x04.h>
 
+#include "approx/knot_conditions.hpp"
 #include "approx/smoothing.hpp"
 #include "frame/workspace.hpp"
 
@@ -41,6 +45,16 @@ class WarmReader {
     bool right_;
 };
 
+// Takes up the knots of an earlier spline, if they determine one on these data.
+inline bool take_up_knots(Integer n, const double *t, GrowingKnots &knots)
+{
+    if (t == nullptr || n < kEndKnots || n > knots.limit) return false;
+    knots.n = n;
+    std::copy_n(t, n, knots.t);
+    knots.set_ends();
+    return first_without_point(knots.knots(), knots.m, knots.x) < 0;
+}
+
 // Releases what a warm start has replaced; a cold start does not look at what was there.
 template <class T>
 void replace(T *&old, Workspace<T> &fresh, bool warm)
@@ -61,13 +75,13 @@ class WarmWriter {
         }
     }
     explicit operator bool() const { return warm_ == nullptr || (reals_ && integers_); }
-    void real(Integer i, double value)
+    void reals(std::initializer_list<double> values)
     {
-        if (warm_ != nullptr) reals_[i] = value;
+        if (warm_ != nullptr) std::copy(values.begin(), values.end(), reals_.begin());
     }
-    void integer(Integer i, Integer value)
+    void integers(std::initializer_list<Integer> values)
     {
-        if (warm_ != nullptr) integers_[i] = value;
+        if (warm_ != nullptr) std::copy(values.begin(), values.end(), integers_.begin());
     }
     void counts(Integer first, const GrowingKnots &knots)
     {
@@ -86,6 +100,33 @@ class WarmWriter {
     KorSplineWarm *warm_;
     Workspace<double> reals_;
     Workspace<Integer> integers_;
+};
+
+// The arrays of a bicubic spline on its way to the caller.
+class SurfaceWriter {
+  public:
+    SurfaceWriter(const Knots &x, const Knots &y)
+        : x_{x}, y_{y}, lamda_{Count{x.n}}, mu_{Count{y.n}}, c_{Count{x.basis_size()} * Count{y.basis_size()}}
+    {
+    }
+    SurfaceWriter(const GrowingKnots &x, const GrowingKnots &y) : SurfaceWriter{x.knots(), y.knots()} {}
+    explicit operator bool() const { return lamda_ && mu_ && c_; }
+
+    void hand_over(const double *coefficients, KorSpline2D *spline, bool warm_start)
+    {
+        std::copy_n(x_.t, x_.n, lamda_.data());
+        std::copy_n(y_.t, y_.n, mu_.data());
+        std::copy_n(coefficients, c_.size(), c_.data());
+        spline->nx = x_.n;
+        spline->ny = y_.n;
+        replace(spline->lamda, lamda_, warm_start);
+        replace(spline->mu, mu_, warm_start);
+        replace(spline->c, c_, warm_start);
+    }
+
+  private:
+    Knots x_, y_;
+    Workspace<double> lamda_, mu_, c_;
 };
 
 } // namespace kor::approx

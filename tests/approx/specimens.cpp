@@ -220,3 +220,17 @@ KOR_SPECIMEN_WITHOUT_RECORD(e01szc)
     outputs(comm.has_memory);
     e01szc(&comm);
 }
+
+KOR_SPECIMEN(e02dcc)
+{
+    double f[36];
+    for (int i = 0; i < 36; ++i) f[i] = (7 * i) % 11;
+    KorSpline2D spline{};
+    KorSplineWarm state{};
+    double fp = 99.0;
+    call([&](KorError *fail) { e02dcc(Kor_Cold, 6, kX, 6, kX, f, 20.0, 10, 10, &fp, &state, &spline, fail); });
+    outputs(fp, spline.nx, spline.ny);
+    if (spline.c != nullptr) outputs(spline.c, (spline.nx - 4) * (spline.ny - 4));
+    release(spline);
+    release(state);
+}
