@@ -1,8 +1,8 @@
 /// \file f03.h
 /// Chapter f03: determinants, with the factorisations that give them.
 ///
-/// A determinant is a mantissa and an exponent of 2, which reach beyond the range of doubles. Matrices are row-major, with the
-/// length of a row of the array after them.
+/// A determinant is a mantissa and an exponent of 2, which reach beyond the range of doubles. Matrices are row-major, with
+/// the length of a row of the array after them.
 #ifndef KOR_F03_H
 #define KOR_F03_H
 

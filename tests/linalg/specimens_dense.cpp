@@ -75,3 +75,84 @@ KOR_SPECIMEN_WITHOUT_RECORD(f01adc)
     call([&](KorError *) { f01adc(3, s.a, 3); });
     outputs(s);
 }
+
+namespace {
+
+// Rectangles, more rows than columns and fewer, and what belongs to them.
+struct Rectangles {
+    double tall[12] = {1.0, 2.0, -0.5, 0.3, 1.5, 0.7, -1.2, 0.1, 2.2, 0.9, -0.4, 0.6}, wide[12], square[9], c[8], z[9];
+    double zeta[4] = {9.0, 9.0, 9.0, 9.0}, work[16] = {}, d[3] = {9.0, 9.0, 9.0}, e[3] = {9.0, 9.0, 9.0};
+    double b[4] = {1.0, 2.0, 3.0, -1.0}, sigma = 9.0;
+    Complex ztall[12], zwide[12], theta[4] = {}, zc[8];
+    Integer perm[3] = {-1, -1, -1}, rank = -1, jmax = -1, row[4] = {1, 2, 2, 2};
+    Boolean svd = 9, unused[11] = {}; // no padding: the bytes are compared
+
+    Rectangles()
+    {
+        for (int i = 0; i < 12; ++i) {
+            wide[i] = tall[(5 * i) % 12];
+            ztall[i] = {tall[i], wide[i]};
+            zwide[i] = {wide[i], -tall[i]};
+        }
+        for (int i = 0; i < 9; ++i) z[i] = square[i] = tall[i] + (i % 4 == 0 ? 4.0 : 0.0);
+        for (int i = 0; i < 8; ++i) {
+            c[i] = wide[i];
+            zc[i] = ztall[i];
+        }
+    }
+    void make_definite()
+    {
+        for (int i = 0; i < 9; ++i) square[i] = i % 4 == 0 ? 6.0 : 0.5;
+    }
+    void make_band() // tridiagonal
+    {
+        for (int i = 0; i < 7; ++i) tall[i] = i % 2 == 0 ? 3.0 : 0.5;
+    }
+};
+
+} // namespace
+
+#define RECTANGLE_SPECIMEN(name, prepare, ...)                                                                         \
+    KOR_SPECIMEN(name)                                                                                                 \
+    {                                                                                                                  \
+        Rectangles r;                                                                                                  \
+        prepare;                                                                                                       \
+        call([&](KorError *fail) { __VA_ARGS__; });                                                                    \
+        outputs(r);                                                                                                    \
+    }
+
+RECTANGLE_SPECIMEN(f01qcc, , f01qcc(4, 3, r.tall, 3, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01rcc, , f01rcc(4, 3, r.ztall, 3, r.theta, fail))
+RECTANGLE_SPECIMEN(f01qdc, f01qcc(4, 3, r.tall, 3, r.zeta, nullptr),
+                   f01qdc(Transpose, Kor_ElementsSeparate, 4, 3, r.tall, 3, r.zeta, 2, r.c, 2, fail))
+RECTANGLE_SPECIMEN(f01rdc, f01rcc(4, 3, r.ztall, 3, r.theta, nullptr),
+                   f01rdc(NoTranspose, Kor_ElementsSeparate, 4, 3, r.ztall, 3, r.theta, 2, r.zc, 2, fail))
+RECTANGLE_SPECIMEN(f01qec, f01qcc(4, 3, r.tall, 3, r.zeta, nullptr),
+                   f01qec(Kor_ElementsSeparate, 4, 3, 3, r.tall, 3, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01rec, f01rcc(4, 3, r.ztall, 3, r.theta, nullptr),
+                   f01rec(Kor_ElementsSeparate, 4, 3, 3, r.ztall, 3, r.theta, fail))
+RECTANGLE_SPECIMEN(f01qfc, , f01qfc(VariablePivot, 4, 3, r.tall, 3, r.zeta, r.perm, r.work, fail))
+RECTANGLE_SPECIMEN(f01qjc, , f01qjc(3, 4, r.wide, 4, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01rjc, , f01rjc(3, 4, r.zwide, 4, r.theta, fail))
+RECTANGLE_SPECIMEN(f01qkc, f01qjc(3, 4, r.wide, 4, r.zeta, nullptr),
+                   f01qkc(Kor_ElementsSeparate, 3, 4, 3, r.wide, 4, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01rkc, f01rjc(3, 4, r.zwide, 4, r.theta, nullptr),
+                   f01rkc(Kor_ElementsSeparate, 3, 4, 3, r.zwide, 4, r.theta, fail))
+RECTANGLE_SPECIMEN(f01qac, , f01qac(4, 3, r.tall, 3, r.c, 2, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01qbc, , f01qbc(3, 4, r.wide, 4, r.c, 2, r.zeta, fail))
+RECTANGLE_SPECIMEN(f01crc, , f01crc(4, 3, r.tall, fail))
+RECTANGLE_SPECIMEN(f01lzc, , f01lzc(3, r.square, 3, r.square, 3, 1, r.b, 1, 1, r.c, 2, 2, 1, r.z, 3, 3, r.d, r.e, fail))
+RECTANGLE_SPECIMEN(f01bqc, r.make_definite(), f01bqc(3, r.square, 3, r.d, &r.jmax, fail))
+RECTANGLE_SPECIMEN(f01mcc, r.make_band(), f01mcc(4, r.tall, 7, r.row, r.wide, r.zeta, fail))
+RECTANGLE_SPECIMEN(f04mcc, r.make_band(), f04mcc(Kor_LX, 4, 1, r.tall, 7, nullptr, r.row, r.b, 1, r.zeta, 1, fail))
+RECTANGLE_SPECIMEN(f04jac, , f04jac(4, 3, r.tall, 3, r.b, 1e-10, &r.svd, &r.sigma, &r.rank, r.work, fail))
+RECTANGLE_SPECIMEN(f04jdc, , f04jdc(3, 4, r.wide, 4, r.b, 1e-10, &r.svd, &r.sigma, &r.rank, r.work, fail))
+RECTANGLE_SPECIMEN(f04jgc, , f04jgc(4, 3, r.tall, 3, r.b, 1e-10, &r.svd, &r.sigma, &r.rank, r.work, fail))
+RECTANGLE_SPECIMEN(f04yac, , f04yac(0, 3, 0.5, 3, r.square, 3, 0, nullptr, nullptr, fail))
+KOR_SPECIMEN_WITHOUT_RECORD(f04aqc)
+{
+    double l[] = {1.0, 0.5, 1.0}, d[] = {4.0, 2.0}, b[] = {1.0, 2.0};
+    Integer row[] = {1, 2};
+    call([&](KorError *) { f04aqc(2, l, d, row, b); });
+    outputs(b, 2);
+}
