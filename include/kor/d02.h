@@ -40,7 +40,7 @@ typedef struct {
     double h;                ///< next step to try
     double hold;             ///< last step taken
     double havg;             ///< smoothed step
-    double last_err;         ///< error of the last step, weighted
+    double last_root;        ///< error of the last step, relative to the tolerance, to the power `expon`
     double max_err;          ///< largest error found by the assessment, weighted
     double t_max_err;        ///< where it was found
     int64_t fcn_count;       ///< evaluations since the last warning

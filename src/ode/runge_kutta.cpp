@@ -162,13 +162,22 @@ RungeKutta::Try RungeKutta::attempt()
     return {pair_error(state_.method, n_, state_.h, y_, y_new_, k, thres_), false};
 }
 
-// The factor to the next step, before its bounds. Besides the error it looks at the trend of the error per unit step.
-double RungeKutta::next_factor(double error) const
+// The root of an error, relative to the tolerance, to which the step is proportional.
+double RungeKutta::error_root(double error) const
 {
-    double tau = std::pow(error / state_.tol, state_.expon);
-    if (!state_.first && error > 0.0 && state_.last_err > 0.0) {
-        const double now = std::pow(error, state_.expon) / std::fabs(state_.h);
-        const double before = std::pow(state_.last_err, state_.expon) / std::fabs(state_.hold);
+    const double x = error / state_.tol;
+    if (state_.method == 1) return std::cbrt(x);
+    if (state_.method == 3) return std::sqrt(std::sqrt(std::sqrt(x)));
+    return std::pow(x, state_.expon);
+}
+
+// The factor to the next step, before its bounds. Besides the error it looks at the trend of the error per unit step.
+double RungeKutta::next_factor(double root) const
+{
+    double tau = root;
+    if (!state_.first && root > 0.0 && state_.last_root > 0.0) {
+        const double now = root / std::fabs(state_.h);
+        const double before = state_.last_root / std::fabs(state_.hold);
         if (now < kTrendLimit * before && before < kTrendLimit * now) tau *= now / before;
     }
     return kSafety < tau * kFirstGrow ? kSafety / tau : kFirstGrow;
@@ -208,13 +217,14 @@ StepStatus RungeKutta::step()
             double factor = kShrink;
             if (!failed && !state_.first)
                 // In this order a NaN gives the bound.
-                factor = std::max(kShrink, kSafety * std::pow(state_.tol / result.error, state_.expon));
+                factor = std::max(kShrink, kSafety / error_root(result.error));
             state_.h *= factor;
             failed = true;
             continue;
         }
 
-        const double factor = next_factor(result.error);
+        const double root = error_root(result.error);
+        const double factor = next_factor(root);
         if (state_.phase1 && state_.may_grow && !state_.last && factor > kFirstWorthwhile) {
             state_.h *= factor;
             continue;
@@ -224,12 +234,12 @@ StepStatus RungeKutta::step()
             state_.last = false;
             return StepStatus::assessment_failed;
         }
-        move_on(result.error, failed, factor);
+        move_on(root, failed, factor);
         return StepStatus::taken;
     }
 }
 
-void RungeKutta::move_on(double error, bool failed, double factor)
+void RungeKutta::move_on(double root, bool failed, double factor)
 {
     factor = std::min(factor, failed ? 1.0 : kGrow);
     factor = std::max(factor, kShrink);
@@ -239,7 +249,7 @@ void RungeKutta::move_on(double error, bool failed, double factor)
     state_.h *= factor;
     state_.havg = state_.first ? state_.hold : (1.0 - kSmoothing) * state_.havg + kSmoothing * state_.hold;
     state_.first = state_.phase1 = false;
-    state_.last_err = error;
+    state_.last_root = root;
     state_.told = state_.tnow;
     state_.tnow = t;
     state_.at_stop = state_.last;

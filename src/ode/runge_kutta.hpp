@@ -88,8 +88,9 @@ class RungeKutta {
     void limit_step_to_end();
     Try attempt();
     double restraint(double t, const double *stage_y, const double *stage_yp) const;
-    double next_factor(double error) const;
-    void move_on(double error, bool failed, double factor);
+    double error_root(double error) const;
+    double next_factor(double root) const;
+    void move_on(double root, bool failed, double factor);
     bool assess();
     bool stiffness_is_due(bool much_work);
     bool looks_stiff();
