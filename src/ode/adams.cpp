@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "frame/constants.hpp"
+#include "ode/step_root.hpp"
 
 namespace kor::ode {
 
@@ -32,6 +33,13 @@ constexpr double kErrorConstant[] = {
     2224234463.0 / 475517952000.0,
 };
 
+// 1/i, from i = 1.
+constexpr auto kReciprocals = [] {
+    std::array<double, Adams::kMaxOrder + 3> r{};
+    for (int i = 1; i < Adams::kMaxOrder + 3; ++i) r[i] = 1.0 / i;
+    return r;
+}();
+
 constexpr double kAim = 0.5;        // of the error allowed: what a new step is chosen for
 constexpr double kFirstStep = 0.25; // caution about the first step
 constexpr double kShrinkMost = 0.5; // the factor of a step that has to shrink lies between these
@@ -39,6 +47,7 @@ constexpr double kShrinkLeast = 0.9;
 constexpr double kFailureFactor = 0.5;
 constexpr double kHopelessFactor = 0.1; // when the error is not even finite
 constexpr int kRestartAfter = 3;        // failures in a row: the past is of no use any more
+constexpr int kLine = 8;                // components at a time: a cache line of each difference
 constexpr int kLowOrder = 4;
 constexpr double kStretch = 1.1;
 
@@ -62,7 +71,7 @@ void Adams::lay_out(double *work)
     y_try_ = take(1);
     predicted_ = take(1);
     yp_predicted_ = take(1);
-    weight_ = take(1);
+    reciprocal_weight_ = take(1);
     rounding_ = take(1);
     rounding_predicted_ = take(1);
     closing_ = take(1);
@@ -102,11 +111,12 @@ double Adams::smallest_step() const { return std::max(4.0 * kPrecision * std::fa
 bool Adams::weigh(const Tolerances &tolerances)
 {
     for (std::size_t i = 0; i < n_; ++i) {
-        weight_[i] = tolerances.weight(i, y_[i]);
-        if (!(weight_[i] > 0.0) && !std::isnan(weight_[i])) {
+        const double weight = tolerances.weight(i, y_[i]);
+        if (weight == 0.0) {
             bad_component_ = static_cast<Integer>(i);
             return false;
         }
+        reciprocal_weight_[i] = 1.0 / weight;
     }
     return true;
 }
@@ -115,7 +125,7 @@ bool Adams::weigh(const Tolerances &tolerances)
 void Adams::choose_first_step()
 {
     double slope = 0.0;
-    for (std::size_t i = 0; i < n_; ++i) slope += square(phi(1)[i] / weight_[i]);
+    for (std::size_t i = 0; i < n_; ++i) slope += square(phi(1)[i] * reciprocal_weight_[i]);
     slope = std::sqrt(slope);
     double size = std::fabs(h_);
     if (1.0 < 16.0 * slope * size * size) size = kFirstStep / std::sqrt(slope);
@@ -141,8 +151,7 @@ void Adams::find_coefficients()
         sigma_[i + 1] = i * alpha_[i] * sigma_[i];
     }
     // g_i is the first of a triangle of repeated integrals, of which one column is kept.
-    OrderArray column;
-    for (int q = 1; q <= k_ + 1; ++q) column[q] = 1.0 / q;
+    OrderArray column = kReciprocals;
     g_[1] = 1.0;
     for (int i = 2; i <= k_ + 1; ++i) {
         for (int q = 1; q <= k_ + 2 - i; ++q) column[q] -= alpha_[i - 1] * column[q + 1];
@@ -153,20 +162,57 @@ void Adams::find_coefficients()
 
 // The predicted solution, and the differences that the new point will have if the prediction of its slope is right. Each sum is
 // carried with what it lost by rounding.
+template <int width>
+void Adams::predict_components(std::size_t first)
+{
+    double sum[width] = {}, difference[width] = {};
+    for (int i = k_; i >= 1; --i) {
+        const double beta = beta_[i], g = g_[i];
+        const double *__restrict from = phi(i) + first;
+        double *__restrict to = expected(i) + first;
+        for (int l = 0; l < width; ++l) {
+            const double term = beta * from[l];
+            sum[l] += g * term;
+            difference[l] += term;
+            to[l] = difference[l];
+        }
+    }
+    for (int l = 0; l < width; ++l) {
+        const double y = y_[first + l], change = h_ * sum[l] - rounding_[first + l];
+        predicted_[first + l] = y + change;
+        rounding_predicted_[first + l] = (predicted_[first + l] - y) - change;
+    }
+}
+
+// The differences at the new point, from the slope there.
+template <int width>
+void Adams::update_components(std::size_t first)
+{
+    double surprise[width];
+    for (int l = 0; l < width; ++l) {
+        surprise[l] = yp_predicted_[first + l] - expected(1)[first + l];
+        phi(k_ + 2)[first + l] = surprise[l] - phi(k_ + 1)[first + l];
+        phi(k_ + 1)[first + l] = surprise[l];
+    }
+    for (int i = k_; i >= 1; --i) {
+        const double *__restrict from = expected(i) + first;
+        double *__restrict to = phi(i) + first;
+        for (int l = 0; l < width; ++l) to[l] = from[l] + surprise[l];
+    }
+}
+
 void Adams::predict()
 {
-    for (std::size_t l = 0; l < n_; ++l) {
-        double sum = 0.0, difference = 0.0;
-        for (int i = k_; i >= 1; --i) {
-            const double term = beta_[i] * phi(i)[l];
-            sum += g_[i] * term;
-            difference += term;
-            expected(i)[l] = difference;
-        }
-        const double change = h_ * sum - rounding_[l];
-        predicted_[l] = y_[l] + change;
-        rounding_predicted_[l] = (predicted_[l] - y_[l]) - change;
-    }
+    std::size_t l = 0;
+    for (; l + kLine <= n_; l += kLine) predict_components<kLine>(l);
+    for (; l < n_; ++l) predict_components<1>(l);
+}
+
+void Adams::update_differences()
+{
+    std::size_t l = 0;
+    for (; l + kLine <= n_; l += kLine) update_components<kLine>(l);
+    for (; l < n_; ++l) update_components<1>(l);
 }
 
 Adams::Errors Adams::estimate() const
@@ -175,25 +221,23 @@ Adams::Errors Adams::estimate() const
     const double *e1 = expected(1);
     const double *ek = expected(k_), *ek1 = expected(std::max(k_ - 1, 1));
     for (std::size_t l = 0; l < n_; ++l) {
-        const double reciprocal = 1.0 / weight_[l];
+        const double reciprocal = reciprocal_weight_[l];
         const double surprise = yp_predicted_[l] - e1[l];
         here += square(surprise * reciprocal);
         below += square((ek[l] + surprise) * reciprocal);
         below2 += square((ek1[l] + surprise) * reciprocal);
     }
-    const double size = std::fabs(h_);
     Errors errors{};
     errors.order = k_;
-    here = size * std::sqrt(here);
-    errors.test = here * (g_[k_] - g_[k_ + 1]);
-    errors.at_order = here * sigma_[k_ + 1] * kErrorConstant[k_];
+    errors.test = here * square(h_ * (g_[k_] - g_[k_ + 1]));
+    errors.at_order = here * square(h_ * sigma_[k_ + 1] * kErrorConstant[k_]);
     if (k_ >= 2) {
-        errors.below = size * std::sqrt(below) * sigma_[k_] * kErrorConstant[k_ - 1];
-        if (k_ == 2 && errors.below <= 0.5 * errors.at_order) errors.order = 1;
+        errors.below = below * square(h_ * sigma_[k_] * kErrorConstant[k_ - 1]);
+        if (k_ == 2 && errors.below <= square(0.5) * errors.at_order) errors.order = 1;
     }
     if (k_ >= 3) {
-        errors.above2 = size * std::sqrt(below2) * sigma_[k_ - 1] * kErrorConstant[k_ - 2];
-        if (std::max(errors.below, errors.above2) <= errors.at_order) errors.order = k_ - 1;
+        const double two_below = below2 * square(h_ * sigma_[k_ - 1] * kErrorConstant[k_ - 2]);
+        if (std::max(errors.below, two_below) <= errors.at_order) errors.order = k_ - 1;
     }
     return errors;
 }
@@ -218,12 +262,7 @@ bool Adams::correct(Derivative f)
     t_ = t_end_;
     // The slope lands where the prediction was: no difference is touched before it is known.
     f(t_, y_, yp_predicted_);
-    for (std::size_t l = 0; l < n_; ++l) {
-        const double surprise = yp_predicted_[l] - e1[l];
-        phi(k_ + 2)[l] = surprise - phi(k_ + 1)[l];
-        phi(k_ + 1)[l] = surprise;
-        for (int i = k_; i >= 1; --i) phi(i)[l] = expected(i)[l] + surprise;
-    }
+    update_differences();
     std::copy_n(psi_next_.begin() + 1, k_, psi_.begin() + 1);
     return true;
 }
@@ -241,12 +280,12 @@ void Adams::choose_next(const Errors &errors)
     } else if (equal_steps_ > k_ && k_ < kMaxOrder) {
         // Only after equal steps the next difference tells the error of order k+1.
         double above = 0.0;
-        for (std::size_t l = 0; l < n_; ++l) above += square(phi(k_ + 2)[l] / weight_[l]);
-        above = std::fabs(h_) * kErrorConstant[k_ + 1] * std::sqrt(above);
+        for (std::size_t l = 0; l < n_; ++l) above += square(phi(k_ + 2)[l] * reciprocal_weight_[l]);
+        above *= square(h_ * kErrorConstant[k_ + 1]);
         if (k_ > 1 && errors.below <= std::min(error, above)) {
             order = k_ - 1;
             error = errors.below;
-        } else if (k_ > 1 ? above < error : above < 0.5 * error) {
+        } else if (above < (k_ > 1 ? error : square(0.5) * error)) {
             order = k_ + 1;
             error = above;
         }
@@ -254,11 +293,11 @@ void Adams::choose_next(const Errors &errors)
     k_ = order;
     h_old_ = h_;
     // Doubling keeps the points equally spaced for longer than a best step would.
-    const double doubled = error * std::ldexp(1.0, k_ + 1);
-    if (growing_ || doubled <= kAim) {
+    const double doubling = 1 << (k_ + 1);
+    if (growing_ || error * square(doubling) <= square(kAim)) {
         h_ *= 2.0;
-    } else if (error > kAim) {
-        const double factor = std::pow(kAim / error, 1.0 / (k_ + 1));
+    } else if (error > square(kAim)) {
+        const double factor = step_root(square(kAim) / error, 0.5 / (k_ + 1));
         h_ *= std::clamp(factor, kShrinkMost, kShrinkLeast);
     }
     h_ = direction_ * std::max(std::fabs(h_), smallest_step());
@@ -274,8 +313,7 @@ void Adams::fail(const Errors &errors, int failures)
         // Order one knows nothing of the past; from there order and step may grow as at the start.
         k_ = 1;
         growing_ = true;
-        if (failures > kRestartAfter && kAim < 0.25 * errors.at_order)
-            factor = std::min(factor, std::sqrt(kAim / errors.at_order));
+        if (failures > kRestartAfter) factor = std::min(factor, step_root(square(kAim) / errors.at_order, 0.25));
     }
     h_ *= factor;
     equal_steps_ = 0;
@@ -286,7 +324,7 @@ AdamsOutcome Adams::step(Derivative f, const Tolerances &tolerances, double t_st
 {
     if (!weigh(tolerances)) return AdamsOutcome::zero_weight;
     double rounding = 0.0;
-    for (std::size_t i = 0; i < n_; ++i) rounding += square(y_[i] / weight_[i]);
+    for (std::size_t i = 0; i < n_; ++i) rounding += square(y_[i] * reciprocal_weight_[i]);
     rounding = 2.0 * kPrecision * std::sqrt(rounding);
     if (rounding > kAim) {
         tolerance_factor_ = 2.0 * rounding * (1.0 + 4.0 * kPrecision);
@@ -329,8 +367,7 @@ AdamsOutcome Adams::step(Derivative f, const Tolerances &tolerances, double t_st
 // For a point hi from t: what phi_i contributes to the change of y, in units of hi, and to y'.
 void Adams::integral_coefficients(double hi, int terms, double *integral, double *value) const
 {
-    OrderArray column;
-    for (int q = 1; q <= terms; ++q) column[q] = 1.0 / q;
+    OrderArray column = kReciprocals;
     integral[1] = 1.0;
     value[1] = 1.0;
     for (int i = 2; i <= terms; ++i) {

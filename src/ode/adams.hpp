@@ -75,11 +75,12 @@ class Adams {
   private:
     // Arrays over the order count from 1, as the formulae do.
     using OrderArray = std::array<double, kMaxOrder + 3>;
+    // Squares of estimates of the local error.
     struct Errors {
-        double at_order;      // of the step as it was taken
-        double below, above2; // of orders k-1 and k-2
-        double test;          // what must not exceed 1
-        int order;            // the better of k and k-1
+        double test;     // of the step as it was taken: must not exceed 1
+        double at_order; // of order k
+        double below;    // of order k-1
+        int order;       // the better of k and k-1
     };
     static constexpr int kRows = kMaxOrder + 2;
     static constexpr int kVectors = 2 * kRows + 9;
@@ -91,6 +92,11 @@ class Adams {
     void choose_first_step();
     void find_coefficients();
     void predict();
+    void update_differences();
+    template <int width>
+    void predict_components(std::size_t first);
+    template <int width>
+    void update_components(std::size_t first);
     Errors estimate() const;
     bool correct(Derivative f);
     void choose_next(const Errors &errors);
@@ -99,8 +105,8 @@ class Adams {
     void integral_coefficients(double hi, int terms, double *integral, double *value) const;
     void close_interpolant();
 
-    double *phi_, *expected_, *y_, *y_old_, *predicted_, *yp_predicted_, *weight_, *rounding_, *rounding_predicted_,
-        *closing_, *y_try_;
+    double *phi_, *expected_, *y_, *y_old_, *predicted_, *yp_predicted_, *reciprocal_weight_, *rounding_,
+        *rounding_predicted_, *closing_, *y_try_;
     std::size_t n_;
     double t_, t_old_, t_end_, h_, h_old_, direction_, tolerance_factor_;
     OrderArray psi_, psi_next_, alpha_, beta_, sigma_, g_;

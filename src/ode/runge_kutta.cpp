@@ -7,6 +7,7 @@
 
 #include "frame/constants.hpp"
 #include "ode/runge_kutta_formula.hpp"
+#include "ode/step_root.hpp"
 
 namespace kor::ode {
 
@@ -162,22 +163,13 @@ RungeKutta::Try RungeKutta::attempt()
     return {pair_error(state_.method, n_, state_.h, y_, y_new_, k, thres_), false};
 }
 
-// The root of an error, relative to the tolerance, to which the step is proportional.
-double RungeKutta::error_root(double error) const
-{
-    const double x = error / state_.tol;
-    if (state_.method == 1) return std::cbrt(x);
-    if (state_.method == 3) return std::sqrt(std::sqrt(std::sqrt(x)));
-    return std::pow(x, state_.expon);
-}
-
 // The factor to the next step, before its bounds. Besides the error it looks at the trend of the error per unit step.
 double RungeKutta::next_factor(double root) const
 {
     double tau = root;
     if (!state_.first && root > 0.0 && state_.last_root > 0.0) {
-        const double now = root / std::fabs(state_.h);
-        const double before = state_.last_root / std::fabs(state_.hold);
+        // The errors per unit step, crosswise.
+        const double now = root * std::fabs(state_.hold), before = state_.last_root * std::fabs(state_.h);
         if (now < kTrendLimit * before && before < kTrendLimit * now) tau *= now / before;
     }
     return kSafety < tau * kFirstGrow ? kSafety / tau : kFirstGrow;
@@ -217,13 +209,13 @@ StepStatus RungeKutta::step()
             double factor = kShrink;
             if (!failed && !state_.first)
                 // In this order a NaN gives the bound.
-                factor = std::max(kShrink, kSafety / error_root(result.error));
+                factor = std::max(kShrink, kSafety / step_root(result.error / state_.tol, state_.expon));
             state_.h *= factor;
             failed = true;
             continue;
         }
 
-        const double root = error_root(result.error);
+        const double root = result.error > 0.0 ? step_root(result.error / state_.tol, state_.expon) : 0.0;
         const double factor = next_factor(root);
         if (state_.phase1 && state_.may_grow && !state_.last && factor > kFirstWorthwhile) {
             state_.h *= factor;

@@ -88,7 +88,6 @@ class RungeKutta {
     void limit_step_to_end();
     Try attempt();
     double restraint(double t, const double *stage_y, const double *stage_yp) const;
-    double error_root(double error) const;
     double next_factor(double root) const;
     void move_on(double root, bool failed, double factor);
     bool assess();
