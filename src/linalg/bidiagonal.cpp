@@ -11,6 +11,7 @@
 #include "linalg/lapack.hpp"
 #include "linalg/reflected_rows.hpp"
 #include "linalg/reflection.hpp"
+#include "linalg/roomy_copy.hpp"
 #include "linalg/scalar.hpp"
 #include "linalg/transpose.hpp"
 
@@ -78,8 +79,12 @@ bool reduce_in_blocks(Integer n, T *a, double *d, double *e, double *left, doubl
     const Workspace<T> work(Count{lwork} + Count{n} * 2);
     if (!work) return false;
     T *const tau_left = work.data() + lwork, *const tau_right = tau_left + n;
+    const RoomyCopy<T> matrix{n, n, a, n};
+    if (!matrix) return false;
     transpose_in_place<false>(n, a, n);
-    lapack::gebrd(n, n, a, n, d, e, tau_left, tau_right, work.data(), lwork);
+    matrix.take();
+    lapack::gebrd(n, n, matrix.data(), n, d, e, tau_left, tau_right, work.data(), lwork);
+    matrix.give_back();
     transpose_in_place<false>(n, a, n);
     const RowMajor<T> A{a, n};
     for (Integer k = 0; k < n; ++k) {

@@ -6,6 +6,8 @@
 
 #include <cblas.h>
 
+#include <cstddef>
+
 #include <kor.h>
 
 namespace kor::blas {
@@ -75,7 +77,25 @@ inline void gemv(Layout layout, Integer trans, Integer m, Integer n, double alph
 inline void gemv(Layout layout, Integer trans, Integer m, Integer n, const Complex &alpha, const Complex *a,
                  Integer lda, const Complex *x, Integer incx, const Complex &beta, Complex *y, Integer incy)
 {
-    cblas_zgemv(native(layout), trans_of(trans), m, n, &alpha, a, lda, x, incx, &beta, y, incy);
+    // OpenBLAS 0.3.21 reads elements beyond the end of an x that is not contiguous, where x holds the factors of a combination
+    // of columns, as it sees them: x is gathered then.
+    constexpr Integer kPart = 128;
+    const bool by_rows = layout == kRowMajor;
+    const bool combines = by_rows == (trans != NoTranspose);
+    const Integer count = by_rows ? m : n;
+    if (!combines || incx == 1 || count < 1) {
+        cblas_zgemv(native(layout), trans_of(trans), m, n, &alpha, a, lda, x, incx, &beta, y, incy);
+        return;
+    }
+    const Complex one{1.0, 0.0};
+    const Complex *const first = incx > 0 ? x : x - std::ptrdiff_t{count - 1} * incx;
+    for (Integer done = 0; done < count; done += kPart) {
+        const Integer part = count - done < kPart ? count - done : kPart;
+        Complex gathered[kPart];
+        for (std::ptrdiff_t i = 0; i < part; ++i) gathered[i] = first[(done + i) * incx];
+        cblas_zgemv(native(layout), trans_of(trans), by_rows ? part : m, by_rows ? n : part, &alpha,
+                    a + std::ptrdiff_t{done} * lda, lda, gathered, 1, done == 0 ? &beta : &one, y, incy);
+    }
 }
 inline void gbmv(Layout layout, Integer trans, Integer m, Integer n, Integer kl, Integer ku, double alpha,
                  const double *a, Integer lda, const double *x, Integer incx, double beta, double *y, Integer incy)

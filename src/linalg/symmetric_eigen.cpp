@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
@@ -14,6 +15,7 @@
 #include "linalg/cholesky.hpp"
 #include "linalg/lapack.hpp"
 #include "linalg/magnitude.hpp"
+#include "linalg/roomy_copy.hpp"
 #include "linalg/transpose.hpp"
 #include "linalg/tridiagonal.hpp"
 #include "linalg/tridiagonal_ql.hpp"
@@ -60,7 +62,8 @@ KOR_CLONES bool iterate(Integer n, double *d, double *e, Complex *qt, Integer td
 template <Scalar T>
 class EigenRoom {
   public:
-    EigenRoom(bool vectors, Integer n) : job_{vectors ? 'V' : 'N'}
+    // For the matrix a of order n, as it will be when it is diagonalised.
+    EigenRoom(bool vectors, Integer n, T *a, Integer tda) : job_{vectors ? 'V' : 'N'}
     {
         // Beyond, the work space is counted in more than an Integer.
         constexpr Integer kGreatestOrder = 30000;
@@ -75,21 +78,26 @@ class EigenRoom {
         lapack::heevd(job_, 'U', n, &unused, n, &values, &best_work, &best_rwork, &best_iwork, {-1, -1, -1});
         constexpr bool complex = std::is_same_v<T, Complex>;
         size_ = {static_cast<Integer>(real(best_work)), complex ? static_cast<Integer>(best_rwork) : 1, best_iwork};
-        is_there_ = work_.allocate(size_.work) && rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
+        matrix_.emplace(n, n, a, tda);
+        is_there_ =
+            *matrix_ && work_.allocate(size_.work) && rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
     }
     explicit operator bool() const { return is_there_; }
 
-    EigenOutcome divide_and_conquer(Integer n, T *a, Integer tda, double *values) const
+    EigenOutcome divide_and_conquer(Integer n, double *values) const
     {
-        return lapack::heevd(job_, 'U', n, a, tda, values, work_.data(), rwork_.data(), iwork_.data(), size_) == 0
-                   ? EigenOutcome::success
-                   : EigenOutcome::no_convergence;
+        matrix_->take();
+        const Integer info = lapack::heevd(job_, 'U', n, matrix_->data(), matrix_->td(), values, work_.data(),
+                                           rwork_.data(), iwork_.data(), size_);
+        if (job_ == 'V') matrix_->give_back();
+        return info == 0 ? EigenOutcome::success : EigenOutcome::no_convergence;
     }
 
   private:
     bool is_there_ = false;
     char job_;
     lapack::Room size_{};
+    std::optional<RoomyCopy<T>> matrix_;
     Workspace<T> work_;
     Workspace<double> rwork_;
     Workspace<Integer> iwork_;
@@ -124,7 +132,7 @@ EigenOutcome values_of(Integer n, T *a, Integer tda, double *values, const Eigen
     const Magnitude magnitude = magnitude_of_lower(n, a, tda);
     if (!magnitude.is_finite()) return EigenOutcome::no_convergence;
     return n <= kSmall ? solve_small(false, n, a, tda, magnitude.scaling(), values)
-                       : room.divide_and_conquer(n, a, tda, values);
+                       : room.divide_and_conquer(n, values);
 }
 
 template <Scalar T>
@@ -138,7 +146,7 @@ EigenOutcome vectors_of(Integer n, const T *a, Integer tda, double *values, T *v
         transpose_in_place<false>(n, v, tdv);
         return outcome;
     }
-    const EigenOutcome outcome = room.divide_and_conquer(n, v, tdv, values);
+    const EigenOutcome outcome = room.divide_and_conquer(n, values);
     transpose_in_place<true>(n, v, tdv);
     return outcome;
 }
@@ -146,13 +154,13 @@ EigenOutcome vectors_of(Integer n, const T *a, Integer tda, double *values, T *v
 template <Scalar T>
 EigenOutcome all_values(Integer n, T *a, Integer tda, double *values)
 {
-    const EigenRoom<T> room{false, n};
+    const EigenRoom<T> room{false, n, a, tda};
     return room ? values_of(n, a, tda, values, room) : EigenOutcome::no_memory;
 }
 template <Scalar T>
 EigenOutcome all_vectors(Integer n, const T *a, Integer tda, double *values, T *v, Integer tdv)
 {
-    const EigenRoom<T> room{true, n};
+    const EigenRoom<T> room{true, n, v, tdv};
     return room ? vectors_of(n, a, tda, values, v, tdv, room) : EigenOutcome::no_memory;
 }
 
@@ -214,7 +222,7 @@ void recover_vectors(Integer n, Integer first, Integer last, const double *b, In
 
 EigenOutcome definite_eigenvalues(Integer n, double *a, Integer tda, double *b, Integer tdb, double *values)
 {
-    const EigenRoom<double> room{false, n};
+    const EigenRoom<double> room{false, n, a, tda};
     if (!room) return EigenOutcome::no_memory;
     // The eigenvalues come last: until then their array holds the diagonal of the factor.
     if (reduce_to_standard(n, a, tda, b, tdb, values) != 0) return EigenOutcome::not_positive_definite;
@@ -224,7 +232,7 @@ EigenOutcome definite_eigenvalues(Integer n, double *a, Integer tda, double *b, 
 EigenOutcome definite_eigenvectors(Integer n, double *a, Integer tda, double *b, Integer tdb, double *values, double *v,
                                    Integer tdv)
 {
-    const EigenRoom<double> room{true, n};
+    const EigenRoom<double> room{true, n, v, tdv};
     const Workspace<double> dl(Count{n});
     if (!room || !dl) return EigenOutcome::no_memory;
     if (reduce_to_standard(n, a, tda, b, tdb, dl.data()) != 0) return EigenOutcome::not_positive_definite;

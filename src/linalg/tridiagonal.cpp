@@ -13,6 +13,7 @@
 #include "linalg/inner_product.hpp"
 #include "linalg/lapack.hpp"
 #include "linalg/reflection.hpp"
+#include "linalg/roomy_copy.hpp"
 #include "linalg/scalar.hpp"
 
 namespace kor::linalg {
@@ -90,17 +91,21 @@ void form_basis(Integer n, T *a, Integer tda, const T *work)
 template <Scalar T>
 bool reduce_in_blocks(bool want_basis, Integer n, T *a, Integer tda, double *d, double *e)
 {
+    const RoomyCopy<T> matrix{n, n, a, tda};
+    if (!matrix) return false;
     T best[2], unused;
-    lapack::hetrd('U', n, a, tda, d, e + 1, &unused, &best[0], -1);
-    lapack::orgtr('U', n, a, tda, &unused, &best[1], -1);
+    lapack::hetrd('U', n, matrix.data(), matrix.td(), d, e + 1, &unused, &best[0], -1);
+    lapack::orgtr('U', n, matrix.data(), matrix.td(), &unused, &best[1], -1);
     const Integer lwork = static_cast<Integer>(std::max(real(best[0]), real(best[1])));
     Workspace<T> work(Count{lwork} + n);
     if (!work) return false;
     T *const tau = work.data() + lwork;
-    lapack::hetrd('U', n, a, tda, d, e + 1, tau, work.data(), lwork);
+    matrix.take();
+    lapack::hetrd('U', n, matrix.data(), matrix.td(), d, e + 1, tau, work.data(), lwork);
     e[0] = 0.0;
+    if (want_basis) lapack::orgtr('U', n, matrix.data(), matrix.td(), tau, work.data(), lwork);
+    matrix.give_back();
     if (!want_basis) return true;
-    lapack::orgtr('U', n, a, tda, tau, work.data(), lwork);
     if constexpr (std::is_same_v<T, Complex>)
         for (std::ptrdiff_t i = 0; i < n; ++i)
             for (std::ptrdiff_t j = 0; j < n; ++j) a[i * tda + j] = conj(a[i * tda + j]);
