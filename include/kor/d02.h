@@ -259,6 +259,7 @@ void d02pxc(Integer neq, double twant, Integer reqest, Integer nwant, double ywa
 /// - NE_PREV_CALL_INI: an earlier call of this routine was invalid.
 /// - NE_MISSING_CALL: no step has been taken yet.
 /// - NE_RK_DIRECTION_POS, NE_RK_DIRECTION_NEG: `tend_new` is not ahead of the current point.
+/// - NE_REAL_ARG_CONS: `tend_new` is infinite, or too far away for a double.
 /// - NE_RK_STEP: `tend_new` is too close to it.
 /// \par Method
 /// The step in hand is kept; the next one is cut to meet the new end if it must be.

@@ -17,6 +17,7 @@ void d02pwc(double tend_new, KorRKState *state, KorError *fail)
         if (state->dir > 0.0) return report.error<NE_RK_DIRECTION_POS>("tend_new", tend_new, state->tnow);
         return report.error<NE_RK_DIRECTION_NEG>("tend_new", tend_new, state->tnow);
     }
+    if (!std::isfinite(ahead)) return report.error<NE_REAL_ARG_CONS>("tend_new", tend_new, "abs(tend_new-t) finite");
     RungeKutta integration{*state, nullptr};
     const double least = integration.smallest_step(state->tnow, tend_new);
     if (!(ahead >= least)) return report.error<NE_RK_STEP>(least);

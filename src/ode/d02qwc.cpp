@@ -118,7 +118,8 @@ void d02qwc(Integer state, Integer neqf, Boolean vectol, const double atol[], co
 
     std::copy_n(rtol, tolerances, opt->rtol);
     std::copy_n(atol, tolerances, opt->atol);
-    opt->state = state;
+    // Where nothing has been integrated yet there is nothing to continue.
+    opt->state = integration_of(*opt).adams.size() > 0 ? state : Kor_NewStart;
     opt->alter_g = alter_g;
     opt->sophist = sophist;
     if (alter_g) opt->events_stale = true;

@@ -359,6 +359,11 @@ TEST(Adams, RestartsFromAnotherState)
     ASSERT_EQ(run.setup(Kor_ReStart), NE_NOERROR);
     ASSERT_EQ(run.go(3.0), NE_NOERROR);
     EXPECT_NEAR(run.y[0], 0.5 * std::cos(1.0), 1e-6);
+    // A setup to continue what has not begun begins it.
+    Journey changed{oscillator(), {}};
+    ASSERT_EQ(changed.setup(Kor_Continue), NE_NOERROR);
+    ASSERT_EQ(changed.go(1.0), NE_NOERROR);
+    EXPECT_LT(changed.error(), 1e-6);
     // Back again is a start, too.
     ASSERT_EQ(run.setup(Kor_ReStart), NE_NOERROR);
     ASSERT_EQ(run.go(2.0), NE_NOERROR);
@@ -489,6 +494,28 @@ TEST(AdamsEvents, PolesJumpsAndRubbishAreToldApart)
     Journey rubbish{oscillator(), {.neqg = 1}, [](double, const double *, const double *, Integer) { return kNaN; }};
     ASSERT_EQ(rubbish.go(5.0), NE_NOERROR);
     EXPECT_EQ(rubbish.t, 5.0);
+}
+
+TEST(AdamsEvents, ComeBackwardsToo)
+{
+    for (const bool sophist : {false, true}) {
+        InitialValues wave = oscillator();
+        wave.t0 = 4.0;
+        wave.y0 = wave.solution(4.0);
+        Journey run{wave,
+                    {.neqg = 2, .sophist = sophist, .crit = true, .tcrit = 0.3},
+                    [](double, const double *y, const double *, Integer k) { return y[k - 1]; }};
+        ASSERT_EQ(run.go(0.3), NE_NOERROR);
+        EXPECT_NEAR(run.t, kPi, 1e-6);
+        ASSERT_EQ(run.go(0.3), NE_NOERROR);
+        EXPECT_NEAR(run.t, 0.5 * kPi, 1e-6);
+        EXPECT_EQ(run.opt.root_index, 2);
+        ASSERT_EQ(run.go(0.3), NE_NOERROR);
+        EXPECT_EQ(run.t, 0.3);
+        EXPECT_LT(run.error(), 1e-6);
+        run.go(0.2);
+        EXPECT_REPORT(run.fail, NE_TOUT_TCRIT, 0.2, 0.3);
+    }
 }
 
 TEST(AdamsEvents, StopEachStepWhereAsked)

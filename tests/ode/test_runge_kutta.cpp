@@ -327,6 +327,8 @@ TEST(RungeKutta, GuardsTheCallingOrder)
         EXPECT_REPORT(run.fail, NE_RK_DIRECTION_POS, "tend_new", 0.0, run.t);
         run.end(kNaN);
         EXPECT_EQ(run.fail.code, NE_RK_DIRECTION_POS);
+        run.end(std::numeric_limits<double>::infinity());
+        EXPECT_EQ(run.fail.code, NE_REAL_ARG_CONS);
         run.end(run.t * (1.0 + 4e-16));
         EXPECT_EQ(run.fail.code, NE_RK_STEP);
         // None of these has hurt the integration.
