@@ -3,7 +3,7 @@
 
 #include "frame/report.hpp"
 #include "frame/views.hpp"
-#include "ode/deferred_correction.hpp"
+#include "ode/boundary_solver.hpp"
 
 namespace kor::ode {
 

@@ -1,5 +1,5 @@
-// Boundary value problems by deferred correction.
-#include "ode/deferred_correction.hpp"
+// Boundary value problems on one mesh: Simpson's equations, the Newton iteration, corrections and the error estimate.
+#include "ode/boundary_solver.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -12,45 +12,16 @@ namespace kor::ode {
 
 namespace {
 
-constexpr int kNewtonLimit = 60;
-constexpr int kContinuationNewton = 12; // steps of the Newton iteration at a new value of eps
 constexpr double kLeastDamping = 1e-6;
 constexpr double kKeepFactors = 0.1; // contraction at which the old factors go on
-constexpr int kMeshes = 60;
-constexpr Integer kFullMeshes = 12;     // meshes with as many points as are allowed
-constexpr Integer kRoughFullMeshes = 3; // the same while the error estimate is not to be trusted
-constexpr double kNewtonPart = 0.01;    // of the tolerance: what the Newton iteration may leave
-constexpr double kSafety = 0.2;         // of the tolerance: what a new mesh aims at
-constexpr Integer kMostParts = 8;       // of an interval, in one go
-constexpr Integer kMostRoughParts = 4;  // while the error estimate is not to be trusted
+constexpr double kNewtonPart = 0.01; // of the tolerance: what the Newton iteration may leave
+constexpr double kStalled =
+    1e-11; // corrections that contract no more are rounding errors below this part of the solution
 constexpr int kNodeVectors = kMostNodes + 2 * kMostInner;
 constexpr int kNodeIterations = 10;
 constexpr double kNodePart = 1e-3; // of the tolerance: what their iteration may leave
 constexpr int kCorrections = 8;
 constexpr double kMeaningful = 0.3; // a correction beyond this part of the solution tells nothing
-constexpr double kRounding = 1e3 * kPrecision;
-constexpr int kContinuationSteps = 500;
-constexpr double kCreeping = 1e-5; // steps so short get nowhere
-constexpr double kCrude = 1e-3;    // relative accuracy on the way to eps = 1
-constexpr double kParameterDifference = 1e-6;
-// The path from mild slopes to the true ones: where it begins, and its first step in the logarithm.
-constexpr double kMildStiffness = 5.0;
-constexpr double kLeastStrength = 1e-12, kMostStrength = 0.1;
-constexpr double kFirstStrengthening = 1.0;
-constexpr double kMostStrengthening = 2.0, kLeastStrengthening = 0.02;
-
-// Simpson's equations on an interval of length h, at its middle.
-double middle_value(double h, double y0, double y1, double f0, double f1)
-{
-    return 0.5 * (y0 + y1) + 0.125 * h * (f0 - f1);
-}
-
-// The cubic through values and slopes at both ends, at the part u of the interval.
-double cubic(double u, double h, double y0, double y1, double f0, double f1)
-{
-    const double v = 1.0 - u;
-    return v * v * (1.0 + 2.0 * u) * y0 + u * u * (1.0 + 2.0 * v) * y1 + h * u * v * (v * f0 - u * f1);
-}
 
 } // namespace
 
@@ -72,10 +43,13 @@ bool BoundarySolver::allocate(const BoundaryProblem &problem, Integer mnp)
         next += size.value();
         return mine;
     };
-    for (double **v : {&y_, &f_, &middle_, &rows_, &delta_, &bar_, &trial_, &new_y_, &kept_y_, &tangent_, &first_y_,
-                       &best_y_, &good_y_, &guess_})
+    for (double **v : {&y_, &f_, &middle_, &rows_, &delta_, &bar_, &trial_, &new_y_, &tangent_, &guess_})
         *v = take(vectors);
-    for (double **v : {&x_, &new_x_, &kept_x_, &defects_, &first_x_, &best_x_, &good_x_}) *v = take(points);
+    for (double **v : {&x_, &new_x_, &defects_}) *v = take(points);
+    for (Snapshot *snapshot : {&kept_, &good_, &first_, &best_}) {
+        snapshot->x = take(points);
+        snapshot->y = take(vectors);
+    }
     for (double **v : {&conditions_, &scales_, &errors_, &shifted_}) *v = take(n);
     nodes_ = take(n * kNodeVectors);
     for (double **v : {&at_left_, &at_right_, &a_, &b_}) *v = take(n * n);
@@ -403,7 +377,7 @@ bool BoundarySolver::newton(double tol, int limit)
                 break;
             }
             // Corrections that are all rounding errors contract no more.
-            if (damping == 1.0 && length <= 1e-11) return residual(y_);
+            if (damping == 1.0 && length <= kStalled) return residual(y_);
             if (!first) {
                 if (!residual(y_)) return false;
                 break;
@@ -450,400 +424,6 @@ bool BoundarySolver::correct(double tol)
         for (Integer c = 0; c < n_; ++c) defects_[i] = std::max(defects_[i], std::fabs(next[c] - here[c]));
     }
     return smooth_ = true;
-}
-
-// Where the tolerance is missed, it is by rounding errors.
-bool BoundarySolver::only_roundoff(double tol) const
-{
-    for (Integer c = 0; c < n_; ++c)
-        if (errors_[c] > tol && errors_[c] > kRounding * scales_[c]) return false;
-    return true;
-}
-
-// ---- The mesh ----
-
-void BoundarySolver::keep()
-{
-    kept_intervals_ = intervals_;
-    std::copy_n(x_, intervals_ + 1, kept_x_);
-    std::copy_n(y_, size(), kept_y_);
-}
-
-void BoundarySolver::restore()
-{
-    intervals_ = kept_intervals_;
-    std::copy_n(kept_x_, intervals_ + 1, x_);
-    std::copy_n(kept_y_, size(), y_);
-}
-
-void BoundarySolver::keep_best()
-{
-    best_intervals_ = intervals_;
-    std::copy_n(x_, intervals_ + 1, best_x_);
-    std::copy_n(y_, size(), best_y_);
-}
-
-void BoundarySolver::restore_best()
-{
-    intervals_ = best_intervals_;
-    std::copy_n(best_x_, intervals_ + 1, x_);
-    std::copy_n(best_y_, size(), y_);
-}
-
-void BoundarySolver::keep_good()
-{
-    good_intervals_ = intervals_;
-    std::copy_n(x_, intervals_ + 1, good_x_);
-    std::copy_n(y_, size(), good_y_);
-}
-
-void BoundarySolver::restore_good()
-{
-    intervals_ = good_intervals_;
-    std::copy_n(good_x_, intervals_ + 1, x_);
-    std::copy_n(good_y_, size(), y_);
-}
-
-// Point `at` of the new mesh: x in an interval of the old one. The cubic is trusted where the corrections are.
-void BoundarySolver::put_point(Integer at, Integer interval, double x)
-{
-    const std::ptrdiff_t n = n_;
-    const double h = x_[interval + 1] - x_[interval], u = (x - x_[interval]) / h;
-    const double *y0 = y_ + n * interval, *y1 = y0 + n, *f0 = f_ + n * interval, *f1 = f0 + n;
-    new_x_[at] = x;
-    for (Integer c = 0; c < n_; ++c)
-        new_y_[n * at + c] = smooth_ ? cubic(u, h, y0[c], y1[c], f0[c], f1[c]) : (1.0 - u) * y0[c] + u * y1[c];
-}
-
-void BoundarySolver::adopt(Integer intervals)
-{
-    new_x_[intervals] = x_[intervals_];
-    std::copy_n(y_ + std::ptrdiff_t{n_} * intervals_, n_, new_y_ + std::ptrdiff_t{n_} * intervals);
-    intervals_ = intervals;
-    std::swap(x_, new_x_);
-    std::swap(y_, new_y_);
-}
-
-void BoundarySolver::subdivide(const Integer *parts)
-{
-    Integer at = 0;
-    for (Integer i = 0; i < intervals_; ++i)
-        for (Integer k = 0; k < parts[i]; ++k, ++at) {
-            put_point(at, i, x_[i] + (x_[i + 1] - x_[i]) * k / parts[i]);
-            if (k == 0) std::copy_n(y_ + std::ptrdiff_t{n_} * i, n_, new_y_ + std::ptrdiff_t{n_} * at);
-        }
-    adopt(at);
-}
-
-bool BoundarySolver::halve()
-{
-    if (2 * std::ptrdiff_t{intervals_} >= mnp_) return false;
-    std::fill_n(parts_.data(), intervals_, 2);
-    smooth_ = false;
-    subdivide(parts_.data());
-    return true;
-}
-
-// A new mesh of so many intervals, defects_ (any measure of what an interval deserves) shared out evenly.
-void BoundarySolver::redistribute(Integer intervals)
-{
-    double total = 0.0;
-    for (Integer i = 0; i < intervals_; ++i) total += defects_[i];
-    const double share = total / intervals;
-    Integer at = 0;
-    double before = 0.0;
-    for (Integer i = 0; i < intervals_; ++i) {
-        for (; at < intervals && at * share < before + defects_[i]; ++at) {
-            const double part = std::max(0.0, (at * share - before) / defects_[i]);
-            put_point(at, i, x_[i] + (x_[i + 1] - x_[i]) * part);
-        }
-        before += defects_[i];
-    }
-    // Rounding errors in the sum may leave the last point over.
-    for (; at < intervals; ++at)
-        put_point(at, intervals_ - 1, x_[intervals_] - (x_[intervals_] - x_[intervals_ - 1]) * 1e-3 * (intervals - at));
-    adopt(intervals);
-}
-
-// How much of the ups and downs of the solution, and of the range, lies in each interval.
-void BoundarySolver::measure_variation()
-{
-    for (Integer c = 0; c < n_; ++c) {
-        double least = y(0)[c], greatest = least;
-        for (Integer i = 1; i <= intervals_; ++i) {
-            least = std::min(least, y(i)[c]);
-            greatest = std::max(greatest, y(i)[c]);
-        }
-        shifted_[c] = greatest - least;
-    }
-    for (Integer i = 0; i < intervals_; ++i) {
-        double most = 0.0;
-        for (Integer c = 0; c < n_; ++c)
-            if (shifted_[c] > 0.0) most = std::max(most, std::fabs(y(i + 1)[c] - y(i)[c]) / shifted_[c]);
-        defects_[i] = most + (x_[i + 1] - x_[i]) / (x_[intervals_] - x_[0]);
-    }
-}
-
-// The next mesh. False when no mesh of mnp points promises more.
-bool BoundarySolver::refine(double tol)
-{
-    // The parts that each interval deserves, up to a factor. Defects are proportional to h^7, and parts that are proportional to
-    // their roots make their sum least. Without them the ups and downs of the solution have to serve.
-    constexpr double kPower = 7.0;
-    double sum = 0.0, roots = 0.0;
-    if (smooth_) {
-        for (Integer i = 0; i < intervals_; ++i) {
-            sum += defects_[i];
-            defects_[i] = std::pow(defects_[i], 1.0 / kPower);
-        }
-    } else {
-        measure_variation();
-    }
-    for (Integer i = 0; i < intervals_; ++i) {
-        // An interval of a few units in the last place of x is as short as it can be.
-        if (x_[i + 1] - x_[i] < kRounding * std::max(std::fabs(x_[i]), std::fabs(x_[i + 1]))) defects_[i] = 0.0;
-        roots += defects_[i];
-    }
-    if (!(roots > 0.0)) {
-        std::fill_n(defects_, intervals_, 1.0);
-        roots = sum = intervals_;
-    }
-    double factor = 2.0 * intervals_ / roots;
-    if (smooth_) {
-        const double error = *std::max_element(errors_, errors_ + n_);
-        factor =
-            std::min(std::pow(error / sum * roots / (kSafety * tol), 1.0 / (kPower - 1.0)), 4.0 * intervals_ / roots);
-    }
-    Integer total = 0;
-    const Integer most = smooth_ ? kMostParts : kMostRoughParts;
-    double wanted = 0.0;
-    for (Integer i = 0; i < intervals_; ++i) {
-        const double parts = factor * defects_[i];
-        wanted += parts;
-        parts_[i] = std::clamp<Integer>(static_cast<Integer>(std::ceil(std::min(parts, 1e6) - 0.1)), 1, most);
-        total += parts_[i];
-    }
-    if (total < mnp_ && total > intervals_) {
-        subdivide(parts_.data());
-        return true;
-    }
-    if (++full_meshes_ > (smooth_ ? kFullMeshes : kRoughFullMeshes)) return false;
-    // Points move from where they are idle. Every interval keeps a little, so that nothing is lost from sight.
-    const double least = 0.1 * roots / intervals_;
-    for (Integer i = 0; i < intervals_; ++i) defects_[i] = std::max(defects_[i], least);
-    redistribute(
-        std::min<Integer>(mnp_ - 1, std::max<Integer>(intervals_, static_cast<Integer>(std::min(1.2 * wanted, 1e9)))));
-    return true;
-}
-
-// Solves for the present eps to `tol`, on as many meshes as it takes. The solution and its mesh are the best in every case.
-BoundaryStatus BoundarySolver::adapt(double tol)
-{
-    bool solved = false; // on some mesh
-    full_meshes_ = 0;
-    keep();
-    for (int mesh = 0; mesh < kMeshes; ++mesh) {
-        std::copy_n(y_, size(), guess_);
-        if (!newton(tol, kNewtonLimit)) {
-            if (conditions_singular_) return BoundaryStatus::singular_conditions;
-            std::copy_n(guess_, size(), y_);
-            if (halve()) continue;
-            restore();
-            return solved ? BoundaryStatus::mesh : BoundaryStatus::first_mesh;
-        }
-        solved = true;
-        if (correct(tol)) {
-            const double error = *std::max_element(errors_, errors_ + n_);
-            std::copy_n(trial_, size(), y_);
-            if (error <= tol) return BoundaryStatus::solved;
-            if (only_roundoff(tol)) return BoundaryStatus::roundoff;
-        }
-        keep();
-        if (!refine(tol)) return BoundaryStatus::mesh;
-    }
-    restore();
-    return BoundaryStatus::mesh;
-}
-
-// ---- Continuation ----
-
-void BoundarySolver::set_parameter(double value)
-{
-    parameter_ = value;
-    if (path_ == Path::eps)
-        eps_ = value;
-    else
-        strength_ = std::exp(value);
-}
-
-// The derivative of the solution by the parameter, into tangent_. False when nothing depends on it.
-bool BoundarySolver::tangent()
-{
-    const std::ptrdiff_t n = n_;
-    double greatest = 0.0;
-    const auto note = [&greatest](double value) { greatest = std::max(greatest, std::fabs(value)); };
-    if (path_ == Path::eps && problem_->slope_by_eps != nullptr) {
-        for (Integer i = 0; i <= intervals_; ++i) (*problem_->slope_by_eps)(x_[i], eps_, y(i), bar_ + n * i);
-        for (Integer i = 0; i < intervals_; ++i) {
-            const double h = x_[i + 1] - x_[i];
-            for (Integer c = 0; c < n_; ++c)
-                shifted_[c] = middle_value(h, y(i)[c], y(i + 1)[c], f_[n * i + c], f_[n * (i + 1) + c]);
-            (*problem_->slope_by_eps)(x_[i] + 0.5 * h, eps_, shifted_, nodes_);
-            for (Integer c = 0; c < n_; ++c) {
-                double &row = rows_[n * i + c];
-                row = h / 6.0 * (bar_[n * i + c] + 4.0 * nodes_[c] + bar_[n * (i + 1) + c]);
-                note(row);
-            }
-        }
-        (*problem_->conditions_by_eps)(eps_, y(0), y(intervals_), conditions_);
-        for (Integer c = 0; c < n_; ++c) {
-            conditions_[c] = -conditions_[c];
-            note(conditions_[c]);
-        }
-    } else {
-        const double here = parameter_;
-        residual(y_);
-        std::copy_n(rows_, n * intervals_, bar_);
-        std::copy_n(conditions_, n_, scales_);
-        set_parameter(here + kParameterDifference);
-        const double step = parameter_ - here;
-        residual(y_);
-        set_parameter(here);
-        for (std::ptrdiff_t i = 0; i < n * intervals_; ++i) {
-            rows_[i] = (rows_[i] - bar_[i]) / step;
-            note(rows_[i]);
-        }
-        for (Integer c = 0; c < n_; ++c) {
-            conditions_[c] = (conditions_[c] - scales_[c]) / step;
-            note(conditions_[c]);
-        }
-    }
-    system_.solve(conditions_, rows_, tangent_);
-    if (!std::isfinite(norm(tangent_))) std::fill_n(tangent_, size(), 0.0);
-    return greatest > 0.0;
-}
-
-// A derivative may vanish at one point; here are two.
-bool BoundarySolver::depends_on_parameter(double other)
-{
-    const double here = parameter_;
-    residual(y_);
-    std::copy_n(rows_, std::ptrdiff_t{n_} * intervals_, bar_);
-    std::copy_n(conditions_, n_, scales_);
-    set_parameter(other);
-    residual(y_);
-    set_parameter(here);
-    return !std::equal(rows_, rows_ + std::ptrdiff_t{n_} * intervals_, bar_) ||
-           !std::equal(conditions_, conditions_ + n_, scales_);
-}
-
-// Along a path of problems whose parameter goes from `start` to `end`. `step` is the first step, and becomes the last one.
-BoundaryStatus BoundarySolver::follow(Path path, double start, double end, double tol, double *step)
-{
-    path_ = path;
-    set_parameter(start);
-    const auto crude = [&] {
-        find_scales();
-        return std::max(tol, kCrude * *std::max_element(scales_, scales_ + n_));
-    };
-    const auto hopeless = [](BoundaryStatus status) {
-        return status == BoundaryStatus::first_mesh || status == BoundaryStatus::singular_conditions;
-    };
-    if (const BoundaryStatus status = adapt(crude()); hopeless(status)) return status;
-    double next = *step, here = start;
-    for (int count = 0; count < kContinuationSteps; ++count) {
-        // Factors and defects at the solution, then along its tangent.
-        if (newton(crude(), kNewtonLimit) && factor()) {
-            if (!tangent() && !depends_on_parameter(end)) return BoundaryStatus::no_dependence;
-            keep_good();
-            here = parameter_;
-        } else {
-            // So close to where solutions end that Simpson's equations have none: from the last point again, but not so far.
-            if (count == 0) {
-                restore();
-                return BoundaryStatus::continuation;
-            }
-            restore_good();
-            set_parameter(here);
-            next *= 0.5;
-        }
-        BoundaryStatus status = BoundaryStatus::continuation;
-        for (bool easy = true; status == BoundaryStatus::continuation; easy = false) {
-            *step = next = std::min(next, end - here);
-            if (!(next > (path == Path::eps ? kPrecision : kLeastStrengthening))) return BoundaryStatus::increment;
-            set_parameter(here + next >= end - kPrecision ? end : here + next);
-            for (std::ptrdiff_t i = 0; i < size(); ++i) y_[i] = good_y_[i] + (parameter_ - here) * tangent_[i];
-            if (newton(crude(), kContinuationNewton)) {
-                // A mesh that suits this problem suits the next one.
-                status = adapt(crude());
-                // Layers may have run away from the mesh.
-                if (path == Path::strength && status == BoundaryStatus::mesh && !smooth_)
-                    status = BoundaryStatus::continuation;
-                if (status == BoundaryStatus::first_mesh) status = BoundaryStatus::continuation;
-            }
-            if (conditions_singular_) return BoundaryStatus::singular_conditions;
-            if (status == BoundaryStatus::continuation) {
-                restore_good();
-                set_parameter(here);
-                next *= 0.5;
-            } else if (easy) {
-                next *= 2.0;
-                if (path == Path::strength) next = std::min(next, kMostStrengthening);
-            }
-        }
-        if (parameter_ == end) return adapt(tol);
-    }
-    return *step <= kCreeping ? BoundaryStatus::increment : BoundaryStatus::continuation;
-}
-
-// A bound on how fast solutions can change, times the length of the range.
-double BoundarySolver::stiffness()
-{
-    const std::ptrdiff_t n = n_;
-    find_scales();
-    double greatest = 0.0;
-    for (Integer i = 0; i <= intervals_; ++i) {
-        slope(x_[i], y(i), f_ + n * i);
-        jacobian(x_[i], y(i), f_ + n * i, a_);
-        for (Integer r = 0; r < n_; ++r) {
-            double sum = 0.0;
-            for (Integer c = 0; c < n_; ++c) sum += std::fabs(a_[n * r + c]);
-            if (std::isfinite(sum)) greatest = std::max(greatest, sum);
-        }
-    }
-    return greatest * (x_[intervals_] - x_[0]);
-}
-
-BoundaryStatus BoundarySolver::solve(const BoundaryProblem &problem, double tol, double *deleps)
-{
-    problem_ = &problem;
-    conditions_singular_ = false;
-    strength_ = 1.0;
-    if (deleps != nullptr && *deleps > 0.0) return follow(Path::eps, 0.0, 1.0, tol, deleps);
-
-    eps_ = 1.0;
-    const Integer first = intervals_;
-    std::copy_n(x_, intervals_ + 1, first_x_);
-    std::copy_n(y_, size(), first_y_);
-    const BoundaryStatus direct = adapt(tol);
-    if (direct != BoundaryStatus::first_mesh && !(direct == BoundaryStatus::mesh && !smooth_)) return direct;
-
-    // Layers that no mesh has found, or a first approximation too far off: with all slopes reduced the problem is smooth, and its
-    // solutions lead the mesh to the layers while the slopes grow to what they are.
-    keep_best();
-    const auto begin_again = [&] {
-        intervals_ = first;
-        std::copy_n(first_x_, first + 1, x_);
-        std::copy_n(first_y_, size(), y_);
-    };
-    begin_again();
-    double step = kFirstStrengthening;
-    const double start = std::log(std::clamp(kMildStiffness / stiffness(), kLeastStrength, kMostStrength));
-    const BoundaryStatus led = follow(Path::strength, start, 0.0, tol, &step);
-    strength_ = 1.0;
-    if (led == BoundaryStatus::solved || led == BoundaryStatus::roundoff || led == BoundaryStatus::mesh) return led;
-    restore_best();
-    return direct;
 }
 
 } // namespace kor::ode

@@ -10,6 +10,7 @@
 
 #include <kor.h>
 
+#include "frame/constants.hpp"
 #include "frame/function_ref.hpp"
 #include "frame/workspace.hpp"
 #include "ode/block_system.hpp"
@@ -33,6 +34,22 @@ struct BoundaryProblem {
     const SlopeFunction *slope_by_eps = nullptr;
     const ConditionsFunction *conditions_by_eps = nullptr;
 };
+
+inline constexpr int kNewtonLimit = 60;               // steps of the iteration
+inline constexpr double kRounding = 1e3 * kPrecision; // parts of the solution that small may be rounding errors
+
+// Simpson's equations on an interval of length h take this value in its middle.
+inline double middle_value(double h, double y0, double y1, double f0, double f1)
+{
+    return 0.5 * (y0 + y1) + 0.125 * h * (f0 - f1);
+}
+
+// The cubic through values and slopes at both ends, at the part u of the interval.
+inline double cubic(double u, double h, double y0, double y1, double f0, double f1)
+{
+    const double v = 1.0 - u;
+    return v * v * (1.0 + 2.0 * u) * y0 + u * u * (1.0 + 2.0 * v) * y1 + h * u * v * (v * f0 - u * f1);
+}
 
 // The numbers are the statuses of the kernel.
 enum class BoundaryStatus : Integer {
@@ -66,67 +83,82 @@ class BoundarySolver {
     BoundaryStatus solve(const BoundaryProblem &problem, double tol, double *deleps);
 
   private:
+    struct Snapshot {
+        Integer intervals = 0;
+        double *x, *y;
+    };
     enum class Path { eps, strength };
 
     std::ptrdiff_t size() const { return std::ptrdiff_t{n_} * (intervals_ + 1); }
-    bool residual(const double *y);
+    double *at_point(Integer i) { return jacobians_.data() + std::ptrdiff_t{n_} * n_ * 2 * i; }
+    double *at_middle(Integer i) { return at_point(i) + std::ptrdiff_t{n_} * n_; }
+
+    // boundary_equations.cpp: on one mesh
+    void slope(double x, const double *y, double *f);
     void find_slopes(const double *y);
     double find_conditions(const double *y);
+    bool residual(const double *y);
     bool find_nodes(const LobattoRule &rule, Integer i, const double *y, double tol);
     bool residual(const LobattoRule &rule, const double *y, double tol);
+    void jacobian(double x, const double *y, const double *f, double *j);
+    void conditions_jacobian();
     bool find_jacobians();
     bool factor();
     bool build(const LobattoRule &rule);
-    double *at_point(Integer i) { return jacobians_.data() + std::ptrdiff_t{n_} * n_ * 2 * i; }
-    double *at_middle(Integer i) { return at_point(i) + std::ptrdiff_t{n_} * n_; }
-    bool newton(double tol, int limit);
-    void jacobian(double x, const double *y, const double *f, double *j);
-    void conditions_jacobian();
     void find_scales();
     double norm(const double *delta) const;
     bool negligible(const double *delta, double tol) const;
-    BoundaryStatus adapt(double tol);
+    bool newton(double tol, int limit);
     bool correct(double tol);
-    bool only_roundoff(double tol) const;
-    void measure_variation();
-    bool refine(double tol);
-    bool halve();
-    void subdivide(const Integer *parts);
-    void redistribute(Integer intervals);
+
+    // boundary_mesh.cpp: from mesh to mesh
+    void save(Snapshot &snapshot) const;
+    void load(const Snapshot &snapshot);
     void put_point(Integer at, Integer interval, double x);
     void adopt(Integer intervals);
-    void keep();
-    void restore();
-    void keep_good();
-    void restore_good();
-    void keep_best();
-    void restore_best();
-    void slope(double x, const double *y, double *f);
+    void subdivide(const Integer *parts);
+    bool halve();
+    void redistribute(Integer intervals);
+    void measure_variation();
+    bool refine(double tol);
+    bool only_roundoff(double tol) const;
+    BoundaryStatus adapt(double tol);
+
+    // boundary_path.cpp: from problem to problem
     void set_parameter(double value);
-    BoundaryStatus follow(Path path, double start, double end, double tol, double *step);
     bool tangent();
     bool depends_on_parameter(double other);
     double stiffness();
+    BoundaryStatus follow(Path path, double start, double end, double tol, double *step);
 
     const BoundaryProblem *problem_ = nullptr;
-    Integer n_ = 0, mnp_ = 0, intervals_ = 0, kept_intervals_ = 0, best_intervals_ = 0, good_intervals_ = 0;
-    double eps_ = 1.0;
-    double strength_ = 1.0; // a factor of all slopes
+    Integer n_ = 0, mnp_ = 0, intervals_ = 0;
+
     Path path_ = Path::eps;
     double parameter_ = 1.0; // of the path: eps_, or the logarithm of strength_
-    bool conditions_singular_ = false, smooth_ = false;
+    double eps_ = 1.0;
+    double strength_ = 1.0; // a factor of all slopes
+
+    bool conditions_singular_ = false;
+    bool smooth_ = false;     // the corrections converge, and errors_ and defects_ can be trusted
     Integer full_meshes_ = 0; // meshes of mnp points so far
+
     BlockSystem system_;
-    Workspace<double> block_;
-    Workspace<double> jacobians_;
+    Workspace<double> block_, jacobians_;
     Workspace<double> stages_; // factors for the inner nodes, 3n by 3n for each interval
-    Workspace<Integer> pivots_;
-    Workspace<Integer> parts_;
-    double *x_, *y_, *f_, *middle_, *rows_, *delta_, *bar_, *trial_;
-    double *new_x_, *new_y_, *kept_x_, *kept_y_, *tangent_, *defects_, *first_x_, *first_y_, *best_x_, *best_y_,
-        *good_x_, *good_y_, *guess_;
+    Workspace<Integer> pivots_, parts_;
+
+    // A vector at each point, or in each interval.
+    double *y_, *f_, *middle_, *rows_, *delta_, *bar_, *trial_, *new_y_, *tangent_, *guess_;
+    // A number for each point, or each interval.
+    double *x_, *new_x_, *defects_;
+    Snapshot kept_, good_, first_,
+        best_; // the last mesh solved, the last point of the path, the start, the direct attempt
+    // One vector, or a few.
+    double *conditions_, *scales_, *errors_, *shifted_, *nodes_;
+    // Matrices.
+    double *at_left_, *at_right_, *a_, *b_;
     double *inner_, *by_left_, *by_right_; // of the inner nodes: Jacobians, derivatives by the values at the ends
-    double *conditions_, *scales_, *errors_, *shifted_, *nodes_, *at_left_, *at_right_, *a_, *b_;
 };
 
 } // namespace kor::ode
