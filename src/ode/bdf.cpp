@@ -341,7 +341,9 @@ class Method {
     {
         ++st_.jacobians;
         core_.formed_here = 1;
-        std::fill_n(a_.jacobian, std::ptrdiff_t{n_} * n_, 0.0);
+        // Differences within a known band leave what is outside as it is: zero.
+        if (st_.jacobian == KOR_BDF_ANALYTIC || !core_.structure_known)
+            std::fill_n(a_.jacobian, std::ptrdiff_t{n_} * n_, 0.0);
         if (st_.jacobian == KOR_BDF_ANALYTIC) {
             core_.phase = BdfPhase::jacobian;
             return Turn::jacobian;
