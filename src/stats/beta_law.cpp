@@ -29,7 +29,7 @@ constexpr int kMaxSteps = 1000;           // none is known that takes 200
 constexpr double kGammaTo = 160.0;        // a + b: to here 1 / B(a, b) is formed from gamma functions
 constexpr double kGammaLawFrom = 15.0; // the larger shape, while the variable of the smaller is at most kGammaLawWithin
 constexpr double kGammaLawWithin = 0.6;
-constexpr double kUniformFrom = 64.0; // the smaller shape, while |y| <= kUniformWithin
+constexpr double kUniformFrom = 300.0; // the smaller shape, while |y| <= kUniformWithin
 constexpr double kUniformWithin = 0.4;
 
 // Gamma(a + 1) = sqrt(2 pi a) (a/e)^a S(a), S(a) = factor exp(exponent).
@@ -44,15 +44,16 @@ StirlingRatio stirling_ratio(double a)
     return {a - a * extended_log({a}), gamma / sqrt(tables::kTwoPi * a)};
 }
 
-// a (mu - ln(1 + mu)), one_plus_mu given beside mu because mu may be next to -1.
-DoubleDouble deviance(double a, DoubleDouble mu, DoubleDouble one_plus_mu)
+// a (mu - ln(1 + mu)); one_plus_mu() is called where mu is so near -1 that it tells too little.
+template <class OnePlusMu>
+DoubleDouble deviance(double a, DoubleDouble mu, const OnePlusMu &one_plus_mu)
 {
     constexpr double kSeriesBelow = 0x1p-6;
     if (std::fabs(mu.hi) < kSeriesBelow) {
         const double cube = mu.hi * mu.hi * mu.hi * polynomial(tables::kLessLogSeries, mu.hi);
         return a * (square(mu).scaled(0.5) + cube);
     }
-    return a * (mu - extended_log(one_plus_mu));
+    return a * (mu - extended_log(mu.hi > -0.5 ? 1.0 + mu : one_plus_mu()));
 }
 
 // ln Gamma(b + a) - ln Gamma(b) for a <= 1, relative to itself.
@@ -102,33 +103,26 @@ DoubleDouble power_series(double a, double n, double x)
     return two_sum(1.0, sum);
 }
 
-// lower B(a, b) / (x^a y^b) by the even part of the classical continued fraction, its denominators cleared; surplus = a y - b
-// x, accurately. Numerators and denominators of the convergents grow fast, and are divided by one of them every few steps.
+// lower B(a, b) / (x^a y^b) by the even part of the classical continued fraction, summed from the front by Steed's method;
+// surplus = a y - b x, accurately. (The recurrences of numerators and denominators would do without the divisions, and lose
+// digits where b < 1.)
 double continued_fraction(double a, double b, double x, double y, double surplus)
 {
-    constexpr int kStepsAtOnce = 4;
-    const double n_all = a + b, square = x * x;
-    double odd = a - 1.0, next_odd = a + 1.0; // a + 2 n -+ 1
-    double top = a * (surplus + 1.0), last_top = 1.0, bottom = 1.0, last_bottom = 0.0;
-    double before_odd = 1.0;
-    for (int n = 1; n < kMaxSteps;) {
-        for (int step = 0; step < kStepsAtOnce; ++step, ++n) {
-            odd = next_odd, next_odd += 2.0;
-            const double numerator =
-                (a + (n - 1.0)) * (n_all + (n - 1.0)) * (n * (b - n)) * square * (before_odd * next_odd);
-            const double denominator =
-                n * next_odd * (odd + (b - n) * x) + (a + n) * odd * (surplus + 1.0 + n * (1.0 + y));
-            before_odd = odd;
-            const double new_top = denominator * top + numerator * last_top;
-            const double new_bottom = denominator * bottom + numerator * last_bottom;
-            last_top = top, top = new_top, last_bottom = bottom, bottom = new_bottom;
-        }
-        const double scale = 1.0 / top;
-        last_top *= scale, bottom *= scale, last_bottom *= scale, top = 1.0;
-        // The last two convergents, both times last_top.
-        if (std::fabs(last_bottom - last_top * bottom) <= kPrecision * std::fabs(last_bottom)) break;
+    const double n_all = a + b;
+    double per_odd = 1.0 / (a + 1.0); // 1 / (a + 2 n + 1)
+    double beta = a * per_odd * (surplus + 1.0);
+    double d = 1.0 / beta, delta = d, sum = d;
+    for (int n = 1; n < kMaxSteps; ++n) {
+        const double shared = n * (b - n) * x * per_odd;
+        const double alpha = (a + (n - 1.0)) * (n_all + (n - 1.0)) * x * per_odd * shared;
+        per_odd = 1.0 / (a + (2.0 * n + 1.0));
+        beta = n + shared + (a + n) * per_odd * (surplus + 1.0 + n * (1.0 + y));
+        d = 1.0 / (beta + alpha * d);
+        delta *= beta * d - 1.0;
+        sum += delta;
+        if (std::fabs(delta) <= 0.5 * kPrecision * std::fabs(sum)) break;
     }
-    return (a + 1.0) * bottom;
+    return sum;
 }
 
 // A power series takes over from the fraction where its terms fall by half at once.
@@ -150,11 +144,10 @@ double uniform_correction(double r, double n, double y)
     double sum = 0.0, last = 1.0, power = 1.0;
     for (int k = 1; k < kTerms; ++k) {
         // The coefficients of y^k of the square and the cube, without what h[k] adds to them.
-        double of_square = 0.0, of_cube = 0.0;
-        for (int i = 1; i < k; ++i) {
-            of_square += h[i] * h[k - i];
-            of_cube += square[i] * h[k - i];
-        }
+        double of_square = k % 2 == 0 ? 0.5 * h[k / 2] * h[k / 2] : 0.0, of_cube = 0.0;
+        for (int i = 1; 2 * i < k; ++i) of_square += h[i] * h[k - i];
+        of_square *= 2.0;
+        for (int i = 1; i < k; ++i) of_cube += square[i] * h[k - i];
         of_cube += of_square;
         h[k] = -(of_cube + (1.0 - r) * square[k - 1] - (k >= 2 ? r * h[k - 2] : 0.0)) / (k + 2.0);
         square[k] = of_square + 2.0 * h[k];
@@ -171,25 +164,38 @@ double uniform_correction(double r, double n, double y)
 // Odds to start from for a lower tail of p; 0 where they are below the doubles.
 double start_odds(double a, double b, double p)
 {
-    // The leading power of the lower tail, x^a / (a B): an upper bound of it for b >= 1.
-    const double log_beta = (extended_log_gamma(a) + extended_log_gamma(b) - extended_log_gamma(a + b)).hi;
-    const double log_x = (std::log(p) + std::log(a) + log_beta) / a;
-    if (log_x < std::log(kSmallest)) return 0.0;
     double start = 0.0;
     if (a > 0.75 && b > 0.75) {
         // Carter's approximation to Fisher's z.
-        const double y = p <= 0.5 ? normal_upper_quantile(p) : -normal_upper_quantile(1.0 - p);
+        const double y = rough_normal_upper_quantile(p);
         const double r = (y * y - 3.0) / 6.0, s = 1.0 / (2.0 * a - 1.0), t = 1.0 / (2.0 * b - 1.0);
         const double h = 2.0 / (s + t);
         if (h + r > 0.0) {
             const double z = y * std::sqrt(h + r) / h - (t - s) * (r + 5.0 / 6.0 - 2.0 / (3.0 * h));
             start = a / b * std::exp(-2.0 * z);
         }
+        constexpr double kGoodWithin = 3.0;
+        if (start > 0.0 && std::fabs(y) < kGoodWithin) return start;
     }
+    // The leading power of the lower tail, x^a / (a B): an upper bound of it for b >= 1.
+    const double log_beta = log_gamma(a) + log_gamma(b) - log_gamma(a + b);
+    const double log_x = (std::log(p) + std::log(a) + log_beta) / a;
+    if (log_x < std::log(kSmallest)) return 0.0;
     if (b >= 1.0) return std::fmax(start, std::exp(std::fmin(log_x, 0.0)));
     if (start > 0.0) return start;
     const double y = -std::expm1(log_x);
     return y > 0.0 ? std::fmin(a / b, std::exp(log_x) / y) : a / b;
+}
+
+// The same for the law of t^2 / df, shapes 1/2 and b: t^2 is near (df - 1/2) (exp(z^2 / (df - 1/2)) - 1), z normal.
+double start_odds_of_student(double b, Target target)
+{
+    constexpr double kProportionalBelow = 1e-3;
+    const double p = target.probability;
+    const double z = target.upper             ? rough_normal_upper_quantile(0.5 * p)
+                     : p < kProportionalBelow ? p * 1.2533141373155003
+                                              : rough_normal_upper_quantile(0.5 - 0.5 * p);
+    return std::expm1(std::fmin(z * z / (2.0 * b - 0.5), 600.0));
 }
 
 // Tails of the gamma law of shape b <= 1 at u, and u^b exp(-u) / Gamma(b).
@@ -237,17 +243,23 @@ bool one_power_suffices(double a, double b, double x) { return a < 1.0 && x <= 0
 
 } // namespace
 
-BinomialTerm::BinomialTerm(double a, double b) : a_{a}, b_{b}, n_{two_sum(a, b)}
+BinomialTerm::BinomialTerm(double a, double b) : a_{a}, b_{b}
 {
-    const StirlingRatio of_n = stirling_ratio(n_.hi), of_a = stirling_ratio(a), of_b = stirling_ratio(b);
+    const DoubleDouble n = two_sum(a, b);
+    const StirlingRatio of_n = stirling_ratio(n.hi), of_a = stirling_ratio(a), of_b = stirling_ratio(b);
     exponent_ = of_n.exponent - of_a.exponent - of_b.exponent;
-    factor_ = sqrt(n_ / (tables::kTwoPi * a) / b) * (of_n.factor / (of_a.factor * of_b.factor));
+    factor_ = sqrt(n / (tables::kTwoPi * a) / b) * (of_n.factor / (of_a.factor * of_b.factor));
 }
 
-DoubleDouble BinomialTerm::fall(DoubleDouble x, DoubleDouble y) const
+DoubleDouble fall_of_powers(double a, double b, DoubleDouble x, DoubleDouble y, DoubleDouble surplus)
 {
-    const DoubleDouble surplus = b_ * x - a_ * y;
-    return deviance(a_, surplus / a_, n_ * x / a_) + deviance(b_, -surplus / b_, n_ * y / b_);
+    return deviance(a, -surplus / a, [&] { return two_sum(a, b) * x / a; }) +
+           deviance(b, surplus / b, [&] { return two_sum(a, b) * y / b; });
+}
+
+Exponential BinomialTerm::at(DoubleDouble x, DoubleDouble y) const
+{
+    return after(fall_of_powers(a_, b_, x, y, a_ * y - b_ * x));
 }
 
 Exponential BinomialTerm::after(DoubleDouble fall) const
@@ -258,11 +270,13 @@ Exponential BinomialTerm::after(DoubleDouble fall) const
     return {e.value * factor_, e.exponent};
 }
 
+bool BetaLaw::large() const { return a_ + b_ > kGammaTo; }
+
 const BetaLaw::Factors &BetaLaw::factors() const
 {
     if (factors_) return *factors_;
     const DoubleDouble n = two_sum(a_, b_);
-    if (n.hi > kGammaTo) return factors_.emplace(Factors{BinomialTerm{a_, b_}, two_product(a_, b_) / n});
+    if (large()) return factors_.emplace(Factors{BinomialTerm{a_, b_}, two_product(a_, b_) / n});
     DoubleDouble factor = shifted_gamma(n.hi, n.lo) / (shifted_gamma(a_, 0.0) * shifted_gamma(b_, 0.0));
     if (a_ < 0.5) factor = factor * a_;
     if (b_ < 0.5) factor = factor * b_;
@@ -278,7 +292,7 @@ Exponential BetaLaw::slope_after(DoubleDouble fall) const
 
 Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const
 {
-    if (factors().term) return slope_after(factors().term->fall(x, y));
+    if (large()) return slope_after(fall_of_powers(a_, b_, x, y, a_ * y - b_ * x));
     const DoubleDouble exponent = a_ * extended_log(x) + b_ * extended_log(y);
     if (!(exponent.hi > -kExponentLimit)) return {{0.0}, 0};
     const Exponential powers = extended_exp(exponent);
@@ -287,7 +301,7 @@ Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const
 
 // With a the larger shape, b <= 1 the smaller, z the variable of a, T = a + (b - 1) / 2 and u = -T ln(z): the tails of the
 // gamma law of shape b at u, and a correction in powers of 1 / (4 T^2).
-std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDouble y) const
+std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDouble y, bool with_slope) const
 {
     constexpr int kTerms = 12;
     constexpr std::array<double, kTerms> kOddFactorials = {1.0,
@@ -331,9 +345,11 @@ std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDoub
     }
     const double slope = gamma.slope / mass;
     const double lower = gamma.lower - slope * correction, upper = gamma.upper + slope * correction;
-    const double at = slope * std::pow(rest.hi / log_z.hi, b) * std::pow(z.hi, 0.5 * (1.0 - b));
-    const double bend = a_ * y.hi - b_ * x.hi;
-    return PointOfLaw{rising ? Tails{lower, upper} : Tails{upper, lower}, at, bend};
+    const Tails tails = rising ? Tails{lower, upper} : Tails{upper, lower};
+    if (!with_slope) return PointOfLaw{tails, 0.0, 0.0};
+    const double from_gamma = std::sqrt(z.hi) * (b == 0.5 ? std::sqrt(rest.hi / (log_z.hi * std::sqrt(z.hi)))
+                                                          : std::pow(rest.hi / (log_z.hi * std::sqrt(z.hi)), b));
+    return PointOfLaw{tails, slope * from_gamma, a_ * y.hi - b_ * x.hi};
 }
 
 // The tail on the side of x from the mean is exp(-z^2) (exp(z^2) erfc(z) / 2 +- S exp(-stirling) / sqrt(2 pi N)), z^2 = fall.
@@ -350,8 +366,10 @@ std::optional<Tails> BetaLaw::by_uniform_expansion(DoubleDouble fall, bool below
     const double side = below == (b_ < a_) ? 1.0 : -1.0;
     const DoubleDouble z = fall.hi > 0.0 ? sqrt(fall) : DoubleDouble{0.0};
     const double y = side * z.hi * std::sqrt(2.0 / n);
-    const double correction = side * uniform_correction(small / large, n, y) *
-                              std::exp(factors().term->log_stirling()) / std::sqrt(tables::kTwoPi.hi * n);
+    const auto stirling = [](double x) { return (1.0 / 12.0 - (1.0 / 360.0 - 1.0 / (1260.0 * x * x)) / (x * x)) / x; };
+    const double log_stirling = stirling(small + large) - stirling(small) - stirling(large);
+    const double correction =
+        side * uniform_correction(small / large, n, y) * std::exp(log_stirling) / std::sqrt(tables::kTwoPi.hi * n);
     const Exponential e = extended_exp(-fall);
     const DoubleDouble scaled = z.hi >= kScaledErfcFrom ? extended_scaled_erfc(z)
                                                         : extended_exp(fall).value * (1.0 - extended_erf_near_zero(z));
@@ -386,32 +404,32 @@ DoubleDouble BetaLaw::log_power(double a, double b, DoubleDouble x) const
 {
     constexpr double kFactorServesFrom =
         0.0625; // below it a B(a, b) is next to 1, and its logarithm is not known from it
-    if (a >= kFactorServesFrom && !factors().term) return a * extended_log(x) + extended_log(factors().factor / a);
+    if (a >= kFactorServesFrom && !large()) return a * extended_log(x) + extended_log(factors().factor / a);
     return a * extended_log(x) + (log_gamma_increment(b, a) - extended_log_gamma_one_plus(a));
 }
 
 Tails BetaLaw::tails(DoubleDouble x, DoubleDouble y) const
 {
-    if (const auto result = by_gamma_expansion(x, y)) return result->tails;
+    if (const auto result = by_gamma_expansion(x, y, false)) return result->tails;
     if (const auto result = by_one_power(x, y)) return *result;
     const DoubleDouble surplus = a_ * y - b_ * x;
-    if (!factors().term) return by_series(x, y, surplus, slope(x, y));
-    const DoubleDouble fall = factors().term->fall(x, y);
+    if (!large()) return by_series(x, y, surplus, slope(x, y));
+    const DoubleDouble fall = fall_of_powers(a_, b_, x, y, surplus);
     if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return *result;
     return by_series(x, y, surplus, slope_after(fall));
 }
 
 PointOfLaw BetaLaw::at(DoubleDouble x, DoubleDouble y) const
 {
-    if (const auto result = by_gamma_expansion(x, y)) return *result;
+    if (const auto result = by_gamma_expansion(x, y, true)) return *result;
     const DoubleDouble surplus = a_ * y - b_ * x;
     const auto point = [&](Tails tails, Exponential slope) { return PointOfLaw{tails, slope.rounded(), surplus.hi}; };
-    if (!factors().term) {
+    if (!large()) {
         const Exponential here = slope(x, y);
         const auto result = by_one_power(x, y);
         return point(result ? *result : by_series(x, y, surplus, here), here);
     }
-    const DoubleDouble fall = factors().term->fall(x, y);
+    const DoubleDouble fall = fall_of_powers(a_, b_, x, y, surplus);
     const Exponential here = slope_after(fall);
     if (const auto result = by_one_power(x, y)) return point(*result, here);
     if (const auto result = by_uniform_expansion(fall, surplus.hi >= 0.0)) return point(*result, here);
@@ -428,7 +446,10 @@ Quantile BetaLaw::odds(Target target) const
 {
     const bool upper = target.upper;
     const double p = target.probability;
-    const double start = upper ? 1.0 / start_odds(b_, a_, p) : start_odds(a_, b_, p);
+    const double start = a_ == 0.5   ? start_odds_of_student(b_, target)
+                         : b_ == 0.5 ? 1.0 / start_odds_of_student(a_, {!upper, p})
+                         : upper     ? 1.0 / start_odds(b_, a_, p)
+                                     : start_odds(a_, b_, p);
     if (start < kSmallest || start > 1.0 / kSmallest) return {upper ? HUGE_VAL : 0.0, true};
     return solve_tail(
         [this](double w) {

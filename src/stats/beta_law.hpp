@@ -16,19 +16,19 @@ class BinomialTerm {
     BinomialTerm(double a, double b);
 
     // x and y positive. Relative error about 2^-52 down to 1e-300, for a and b up to 1e10.
-    special::Exponential at(special::DoubleDouble x, special::DoubleDouble y) const { return after(fall(x, y)); }
+    special::Exponential at(special::DoubleDouble x, special::DoubleDouble y) const;
 
-    // How far below its maximum, at x = a / (a + b), the logarithm of x^a y^b lies; and the term from there.
-    special::DoubleDouble fall(special::DoubleDouble x, special::DoubleDouble y) const;
+    // The same from fall_of_powers() there.
     special::Exponential after(special::DoubleDouble fall) const;
-
-    // For large shapes: minus the sum of Stirling's corrections, those of a and b less that of a + b.
-    double log_stirling() const { return exponent_.hi; }
 
   private:
     double a_, b_;
-    special::DoubleDouble n_, exponent_, factor_;
+    special::DoubleDouble exponent_, factor_;
 };
+
+// How far below its maximum, at x = a / (a + b), the logarithm of x^a y^b lies; surplus = a y - b x.
+special::DoubleDouble fall_of_powers(double a, double b, special::DoubleDouble x, special::DoubleDouble y,
+                                     special::DoubleDouble surplus);
 
 class BetaLaw {
   public:
@@ -56,12 +56,14 @@ class BetaLaw {
         std::optional<BinomialTerm> term; // for large shapes
         special::DoubleDouble factor;     // 1 / B(a, b), or a b / (a + b) beside the binomial term
     };
+    bool large() const;
     const Factors &factors() const;
 
     special::Exponential slope_after(special::DoubleDouble fall) const;
     special::DoubleDouble log_power(double a, double b, special::DoubleDouble x) const;
     std::optional<Tails> by_one_power(special::DoubleDouble x, special::DoubleDouble y) const;
-    std::optional<PointOfLaw> by_gamma_expansion(special::DoubleDouble x, special::DoubleDouble y) const;
+    std::optional<PointOfLaw> by_gamma_expansion(special::DoubleDouble x, special::DoubleDouble y,
+                                                 bool with_slope) const;
     std::optional<Tails> by_uniform_expansion(special::DoubleDouble fall, bool below) const;
     Tails by_series(special::DoubleDouble x, special::DoubleDouble y, special::DoubleDouble surplus,
                     special::Exponential slope) const;

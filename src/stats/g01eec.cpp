@@ -33,7 +33,12 @@ void g01eec(double x, double a, double b, double /*tol: full accuracy meets any*
         give(x >= 0.5 ? 1.0 : 0.0, x >= 0.5 ? 0.0 : 1.0, 0.0);
         return report.error<NE_PROBAB_CLOSE_TO_TAIL>();
     }
-    const Exponential slope = law.slope({x}, y);
-    give(tails.lower, tails.upper, times_power_of_two((slope.value / y / x).rounded(), slope.exponent));
+    constexpr double kNoLongerNormal = 1e-290; // a slope so small may have lost digits that the density still has
+    const auto density = [&] {
+        if (at.slope > kNoLongerNormal) return at.slope / (y.hi * x);
+        const Exponential slope = law.slope({x}, y);
+        return times_power_of_two((slope.value / y / x).rounded(), slope.exponent);
+    };
+    give(tails.lower, tails.upper, density());
     report.success();
 }

@@ -11,10 +11,7 @@ namespace kor::stats {
 namespace {
 
 // Where P = x^a / Gamma(a + 1): a lower bound of the quantile, and sharp for small ones.
-double small_quantile(double a, double p)
-{
-    return std::exp((std::log(p) + special::extended_log_gamma(a + 1.0).hi) / a);
-}
+double small_quantile(double a, double p) { return std::exp((std::log(p) + special::log_gamma(a + 1.0)) / a); }
 
 } // namespace
 
@@ -32,9 +29,7 @@ Quantile gamma_quantile(double a, Target target)
     if (p > 0.0 && p <= 0.5 && start < kSmallest) return {0.0, true};
     if (a > 0.5) {
         // Wilson and Hilferty: the cube root is nearly normal.
-        const double z = (target.upper ? 1.0 : -1.0) * (target.probability <= 0.5
-                                                            ? normal_upper_quantile(target.probability)
-                                                            : -normal_upper_quantile(1.0 - target.probability));
+        const double z = (target.upper ? 1.0 : -1.0) * rough_normal_upper_quantile(target.probability);
         const double c = 1.0 / (9.0 * a);
         const double cube_root = 1.0 - c + z * std::sqrt(c);
         if (cube_root > 0.0) start = std::fmax(start, a * cube_root * cube_root * cube_root);
@@ -44,11 +39,14 @@ Quantile gamma_quantile(double a, Target target)
         if (far > 1.0) start = std::fmin(far, std::fmax(start, 1.0));
     }
     if (start < kSmallest) start = kSmallest;
+    // The slope guides the steps, and need not be as good as the tails.
+    const double log_factor = special::log_gamma(a);
     return solve_tail(
-        [a](double x) {
-            const Tails tails = gamma_tails(a, x);
-            const special::Exponential term = special::extended_poisson_term(a, x);
-            return PointOfLaw{tails, a * term.rounded(), a - x};
+        [a, log_factor](double x) {
+            constexpr double kLogarithmsTo = 1e4;
+            const double slope = a <= kLogarithmsTo ? std::exp(a * std::log(x) - x - log_factor)
+                                                    : a * special::extended_poisson_term(a, x).rounded();
+            return PointOfLaw{gamma_tails(a, x), slope, a - x};
         },
         target, start);
 }

@@ -55,12 +55,15 @@ Quantile t_two_sided_quantile(Target target, double df)
         return {target.upper ? normal_upper_quantile(half) : normal_central_quantile(half), true};
     }
     const BetaLaw law{0.5, 0.5 * df};
-    if (!target.upper) {
+    constexpr double kNearMedian = 1e-8; // of the probability: only below it t may be below kLinearBelow
+    constexpr double kLogPowerFrom = 20.723265836946414; // ln(kPowerFrom)
+    if (!target.upper && target.probability < kNearMedian) {
         const double linear = (0.5 * target.probability * sqrt(DoubleDouble{df}) / reciprocal_beta(law)).rounded();
         if (linear < kLinearBelow) return {linear, true};
-    } else {
+    }
+    // The tail there is at most kPowerFrom^-df.
+    if (target.upper && std::log(target.probability) < 1.0 - kLogPowerFrom * df) {
         const DoubleDouble log_ratio = (log_tail_factor(law, df) - extended_log({target.probability})) / df;
-        constexpr double kLogPowerFrom = 20.723265836946414; // ln(kPowerFrom)
         if (log_ratio.hi > kLogPowerFrom)
             return {(extended_exp(log_ratio + extended_log({df}).scaled(0.5))).rounded(), true};
     }

@@ -1,8 +1,8 @@
-// Quantiles of laws on the positive half-line, by Newton's method for ln(tail) as a function of s = ln(w).
+// Quantiles of laws on the positive half-line, by Halley's method for ln(tail) as a function of s = ln(w).
 //
 // The logarithm of a gamma variable, and of the odds of a beta variable, has a log-concave density, and so both its tails
 // are log-concave in s: from one side Newton's steps approach the root monotonically, from the other side the first step
-// crosses it. The bracket matters only where a tail underflows.
+// crosses it. Halley's correction is kept within a factor of two of them. The bracket matters only where a tail underflows.
 #pragma once
 
 #include <cmath>
@@ -38,7 +38,7 @@ constexpr int kMaxNewtonSteps = 200; // none is known that takes 20
 template <class Law>
 Quantile solve_tail(const Law &law, Target target, double start)
 {
-    constexpr double kLast = 1e-8; // Newton's error is about the square of the residual
+    constexpr double kLast = 2e-7; // the error is about the cube of the residual
     constexpr double kLongestStep = 40.0;
     double low = 0.0, high = std::numeric_limits<double>::infinity();
     double w = start;
@@ -55,7 +55,11 @@ Quantile solve_tail(const Law &law, Target target, double start)
             const double residual = std::fabs(tail / target.probability - 1.0) < 0.5
                                         ? std::log1p((tail - target.probability) / target.probability)
                                         : std::log(tail) - std::log(target.probability);
-            double change = residual * (tail / at.slope) * (target.upper ? 1.0 : -1.0);
+            // Newton's step, and the ratio of the second derivative to the square of the first.
+            const double per_slope = tail / at.slope;
+            const double curvature = (target.upper ? -at.bend : at.bend) * per_slope - 1.0;
+            double change = residual * per_slope * (target.upper ? 1.0 : -1.0);
+            change /= std::fmax(0.5, std::fmin(2.0, 1.0 - 0.5 * residual * curvature));
             change = std::fmax(-kLongestStep, std::fmin(kLongestStep, change));
             next = std::fabs(change) < 0.5 ? w + w * std::expm1(change) : w * std::exp(change);
             last = std::fabs(residual) < kLast || std::fabs(change) < 0.5 * std::numeric_limits<double>::epsilon();
