@@ -86,22 +86,21 @@ class SplitContestant : public Contestant {
     Shape shape_;
     Doubles re_, im_;
     double factor_ = 1.0;
+    KorError fail_{};
 };
 
 class Multiple : public SplitContestant {
   public:
     Multiple(Data data, Shape shape) : SplitContestant{data, shape}, trig_(2 * static_cast<std::size_t>(shape.n))
     {
-        KorError fail{};
-        c06gzc(shape.n, trig_.data(), &fail);
+        c06gzc(shape.n, trig_.data(), &fail_);
     }
     void run() override
     {
-        KorError fail{};
         if (im_.empty())
-            c06fpc(shape_.m, shape_.n, re_.data(), trig_.data(), &fail);
+            c06fpc(shape_.m, shape_.n, re_.data(), trig_.data(), &fail_);
         else
-            c06frc(shape_.m, shape_.n, re_.data(), im_.data(), trig_.data(), &fail);
+            c06frc(shape_.m, shape_.n, re_.data(), im_.data(), trig_.data(), &fail_);
     }
 
   private:
@@ -113,11 +112,10 @@ class InPlace : public SplitContestant {
     using SplitContestant::SplitContestant;
     void run() override
     {
-        KorError fail{};
         if (im_.empty())
-            c06eac(shape_.n, re_.data(), &fail);
+            c06eac(shape_.n, re_.data(), &fail_);
         else
-            c06ecc(shape_.n, re_.data(), im_.data(), &fail);
+            c06ecc(shape_.n, re_.data(), im_.data(), &fail_);
     }
     static bool suits(int n)
     {

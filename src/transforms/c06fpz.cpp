@@ -27,10 +27,11 @@ void factorise(Number n, Factors &factors)
 
 Factors c06fpz(Index n)
 {
-    if (n == 1) return {{1}, 1};
     Factors factors;
     factors.count = 0;
-    if (n <= INT32_MAX)
+    if (n == 1)
+        factors.factor[factors.count++] = 1;
+    else if (n <= INT32_MAX)
         factorise(static_cast<uint32_t>(n), factors);
     else
         factorise(static_cast<uint64_t>(n), factors);

@@ -113,12 +113,34 @@ KOR_INLINE void complex_row(const Radix &radix, const Block &block, Index a, Seq
     }
 }
 
+// Rows of a single element have nothing to fill registers with: the lanes go across them. Covers the rows 1..count by
+// body(access, row), or returns false.
+template <class Radix, class Body>
+KOR_INLINE bool across_rows(const Block &block, Index count, Body body)
+{
+    if constexpr (Radix::kInRegisters) {
+        const bool gapless = block.in_row == 1 && block.out_row == 1;
+        if (!gapless || block.width != 1 || block.before != 1 || block.spread != 1 || count < kLanes) return false;
+        for (Index i = 0; i < count; i += kLanes) body(Full{}, 1 + std::min(i, count - kLanes));
+        return true;
+    }
+    return false;
+}
+
 template <class Radix>
 void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence out)
 {
     const Radix radix{stage};
     const Block block = merged(given);
     complex_row(radix, block, 0, in, out, NoTwiddle{});
+    const bool done = across_rows<Radix>(
+        block, block.after - 1, [&](auto full, Index a) __attribute__((always_inline)) {
+            const Index to = a * radix.radix;
+            const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, a};
+            complex_butterfly(radix, ToAfar{full, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
+                              Rows{{out.re + to, out.im + to}, 1}, NoTwiddle{}, twiddle);
+        });
+    if (done) return;
     for (Index a = 1; a < block.after; ++a) complex_row(radix, block, a, in, out, SameForAll{stage, a * block.spread});
 }
 

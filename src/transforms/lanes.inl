@@ -39,6 +39,35 @@ struct One {
     KOR_INLINE void store_mirrored(double *p, double v) const { *p = v; }
 };
 
+// Elements that stand `stride` apart.
+KOR_INLINE Lanes load_strided(const double *p, Index stride)
+{
+#if KOR_LANES == 8
+    return Lanes{p[0],          p[stride],     p[2 * stride], p[3 * stride],
+                 p[4 * stride], p[5 * stride], p[6 * stride], p[7 * stride]};
+#elif KOR_LANES == 4
+    return Lanes{p[0], p[stride], p[2 * stride], p[3 * stride]};
+#else
+    return Lanes{p[0], p[stride]};
+#endif
+}
+KOR_INLINE void store_strided(double *p, Index stride, Lanes v)
+{
+    KOR_UNROLL for (int i = 0; i < kLanes; ++i) p[i * stride] = v[i];
+}
+
+// Lanes that stand for neighbours on one side of a pass and for elements far apart on the other.
+struct FromAfar : Full {
+    Index stride;
+    KOR_INLINE Lanes load(const double *p) const { return load_strided(p, stride); }
+    KOR_INLINE Lanes load_mirrored(const double *p) const { return load_strided(p, -stride); }
+};
+struct ToAfar : Full {
+    Index stride;
+    KOR_INLINE void store(double *p, Lanes v) const { store_strided(p, stride, v); }
+    KOR_INLINE void store_mirrored(double *p, Lanes v) const { store_strided(p, -stride, v); }
+};
+
 // Lanes that stand for sequences side by side: mirrored places of all of them are consecutive as well.
 template <class Access>
 struct SideBySide : Access {

@@ -168,6 +168,7 @@ struct RealDirection {
     {
         real_butterfly_at_half(args...);
     }
+    using Afar = FromAfar;
     static constexpr bool kToLong = true;
 };
 struct HermitianDirection {
@@ -186,6 +187,7 @@ struct HermitianDirection {
     {
         hermitian_butterfly_at_half(args...);
     }
+    using Afar = ToAfar;
     static constexpr bool kToLong = false;
 };
 
@@ -221,7 +223,14 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
         block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
             Direction::at_zero(radix, access, layout, r, from, to, kUnscaled);
         });
-    for (Index f = 1; 2 * f < r; ++f)
+    const Index pairs = (r - 1) / 2; // of f and its mirror
+    const bool done = across_rows<Radix>(
+        block, pairs, [&](auto full, Index f) __attribute__((always_inline)) {
+            const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, f};
+            Direction::between(radix, typename Direction::Afar{full, layout.short_step}, layout, r, f, in, out,
+                               twiddle);
+        });
+    for (Index f = 1; f <= pairs && !done; ++f)
         over_rows<Radix>(
             block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
                 Direction::between(radix, access, layout, r, f, from, to, SameForAll{stage, f * block.spread});

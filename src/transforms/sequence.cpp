@@ -85,28 +85,27 @@ void in_ranges(Index count, Index step, Body body)
     for (Index i = 0; i < count; i += step) body(std::min(i, count - step));
 }
 
-// The pass of a stage for rows: those without twiddle factors scale.
-void pass_rows(const Kernels &kernel, Kind kind, const Stage &stage, const Block &block, Sequence in, Sequence out,
-               double scale)
+// The passes over rows for one kind of data: those without twiddle factors scale.
+struct Passes {
+    decltype(Kernels::complex_pass) pass;
+    decltype(Kernels::complex_whole) whole;
+
+    void operator()(const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) const
+    {
+        block.after == 1 ? whole(stage, block, in, out, scale) : pass(stage, block, in, out);
+    }
+};
+Passes passes_of(const Kernels &kernel, Kind kind)
 {
-    if (block.after == 1) {
-        switch (kind) {
-        case Kind::complex:
-            return kernel.complex_whole(stage, block, in, out, scale);
-        case Kind::real:
-            return kernel.real_whole(stage, block, in, out, scale);
-        case Kind::hermitian:
-            return kernel.hermitian_whole(stage, block, in, out, scale);
-        }
-    }
     switch (kind) {
-    case Kind::complex:
-        return kernel.complex_pass(stage, block, in, out);
     case Kind::real:
-        return kernel.real_pass(stage, block, in, out);
+        return {kernel.real_pass, kernel.real_whole};
     case Kind::hermitian:
-        return kernel.hermitian_pass(stage, block, in, out);
+        return {kernel.hermitian_pass, kernel.hermitian_whole};
+    case Kind::complex:
+        break;
     }
+    return {kernel.complex_pass, kernel.complex_whole};
 }
 
 } // namespace
@@ -115,7 +114,7 @@ void transform_whole(Kind kind, Index n, Sequence x, double scale)
 {
     // A butterfly reads all before it writes.
     const Stage stage{n, 1, 1, nullptr, nullptr, nullptr};
-    pass_rows(kernels_for_length(n), kind, stage, {1, 1, 1, 1, 1}, x, x, scale);
+    passes_of(kernels_for_length(n), kind).whole(stage, {1, 1, 1, 1, 1}, x, x, scale);
 }
 
 void Plan::transform(Sequence in, Sequence out, double scale, double *work) const
@@ -136,14 +135,14 @@ void Plan::transform(Sequence in, Sequence out, double scale, double *work) cons
 Sequence Plan::transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const
 {
     const Kernels &kernel = batch >= kernels().lanes ? kernels() : *kernel_;
+    const Passes pass = passes_of(kernel, kind_);
     const int end = stages_.count - 1;
     const Array one{x, batch}, other{spare, batch};
     const bool reversed = kind_ == Kind::real;
     return run_passes(reversed ? end : 0, reversed ? 0 : end, one, kNone, one, other,
                       [&](int i, Array from, Array to) {
                           const Stage &stage = stages_.stage[i];
-                          pass_rows(kernel, kind_, stage, {stage.before, stage.after, batch, batch, batch}, from.at,
-                                    to.at, scale);
+                          pass(stage, {stage.before, stage.after, batch, batch, batch}, from.at, to.at, scale);
                       })
         .at;
 }
@@ -151,20 +150,30 @@ Sequence Plan::transform_side_by_side(Index batch, Sequence x, Sequence spare, d
 void Plan::transform_in_one_sweep(Sequence in, Sequence out, double scale, double *work) const
 {
     const Index part = whole_lines(n_);
-    const Sequence one{work, out.im != nullptr ? work + part : nullptr};
-    const Sequence other = shifted(one, out.im != nullptr ? 2 * part : part);
-    const int end = stages_.count - 1;
-    const bool reversed = kind_ == Kind::real;
-    // A single pass has a single butterfly, which reads all before it writes: it may go from an array to itself.
-    run_passes(reversed ? end : 0, reversed ? 0 : end, {in, 1}, {out, 1}, {one, 1}, {other, 1},
-               [&](int i, Array from, Array to) {
-                   const Stage &stage = stages_.stage[i];
-                   pass_rows(*kernel_, kind_, stage, {stage.before, stage.after, 1, 1, 1}, from.at, to.at, scale);
-               });
+    const bool complex = out.im != nullptr;
+    double *const one = work, *const other = work + (complex ? 2 : 1) * part;
+    const Passes pass = passes_of(*kernel_, kind_);
+    const int step = kind_ == Kind::real ? -1 : 1;
+    // A single pass has a single butterfly, which reads all before it writes: it may go from an array to itself. The
+    // pointers are kept apart: pairs of them would be put together in memory, and waited for.
+    double *from = in.re, *from_im = in.im;
+    int i = step < 0 ? stages_.count - 1 : 0;
+    for (int left = stages_.count; left > 0; --left, i += step) {
+        double *to = from == one ? other : one, *to_im = complex ? to + part : nullptr;
+        if (left == 1) {
+            to = out.re;
+            to_im = out.im;
+        }
+        const Stage &stage = stages_.stage[i];
+        pass(stage, {stage.before, stage.after, 1, 1, 1}, {from, from_im}, {to, to_im}, scale);
+        from = to;
+        from_im = to_im;
+    }
 }
 
 void Plan::transform_complex(Sequence in, Sequence out, double scale, double *work) const
 {
+    const Passes pass = passes_of(*kernel_, kind_);
     const Index part = whole_lines(n_);
     const Sequence middle{work, work + part};
     const Blocks both = blocks(work + 2 * part);
@@ -187,14 +196,14 @@ void Plan::transform_complex(Sequence in, Sequence out, double scale, double *wo
         run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block,
                    {both.block(1, size, true), width}, [&](int i, Array from, Array to) {
                        const Stage &stage = stages_.stage[i];
-                       pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row},
-                                 from.at, to.at, scale);
+                       pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at, to.at, scale);
                    });
     });
 }
 
 void Plan::transform_real(Sequence in, Sequence out, double scale, double *work) const
 {
+    const Passes pass = passes_of(*kernel_, kind_);
     double *const middle = work;
     const Blocks both = blocks(work + whole_lines(n_));
 
@@ -204,20 +213,18 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
             stages_.count - 1, lead_, {shifted(in, first), rows_}, kNone, {both.block(0, 0, false), width},
             {both.block(1, 0, false), width}, [&](int i, Array from, Array to) {
                 const Stage &stage = stages_.stage[i];
-                pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at,
-                          to.at, scale);
+                pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at, to.at, scale);
             });
         kernel_->transpose(columns_, width, done.at.re, width, middle + first * columns_, columns_);
     });
 
     // Columns 0 and Q/2 are real, or real but for their twiddle factors; the others come in conjugate pairs.
-    run_passes(lead_ - 1, 0, {{middle, nullptr}, columns_}, {out, columns_}, {both.block(0, 0, false), 1},
-               {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
-                   const Stage &stage = stages_.stage[i];
-                   pass_rows(*kernel_, kind_, stage,
-                             {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at,
-                             1.0);
-               });
+    run_passes(
+        lead_ - 1, 0, {{middle, nullptr}, columns_}, {out, columns_}, {both.block(0, 0, false), 1},
+        {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
+            const Stage &stage = stages_.stage[i];
+            pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at, 1.0);
+        });
     const auto columns_back = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
         const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
@@ -253,16 +260,16 @@ void Plan::transform_real(Sequence in, Sequence out, double scale, double *work)
 
 void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *work) const
 {
+    const Passes pass = passes_of(*kernel_, kind_);
     double *const middle = work;
     const Blocks both = blocks(work + whole_lines(n_));
 
-    run_passes(0, lead_ - 1, {in, columns_}, {{middle, nullptr}, columns_}, {both.block(0, 0, false), 1},
-               {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
-                   const Stage &stage = stages_.stage[i];
-                   pass_rows(*kernel_, kind_, stage,
-                             {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at,
-                             1.0);
-               });
+    run_passes(
+        0, lead_ - 1, {in, columns_}, {{middle, nullptr}, columns_}, {both.block(0, 0, false), 1},
+        {both.block(1, 0, false), 1}, [&](int i, Array from, Array to) {
+            const Stage &stage = stages_.stage[i];
+            pass(stage, {stage.before, stage.after / columns_, 1, from.row, to.row, columns_}, from.at, to.at, 1.0);
+        });
     const auto columns_forward = [&](Index first, Index width, bool packed) {
         const Index size = rows_ * width;
         const Array block0{both.block(0, size, true), width}, block1{both.block(1, size, true), width};
@@ -301,8 +308,7 @@ void Plan::transform_hermitian(Sequence in, Sequence out, double scale, double *
         run_passes(lead_, stages_.count - 1, block, {shifted(out, first), rows_}, block,
                    {both.block(1, 0, false), width}, [&](int i, Array from, Array to) {
                        const Stage &stage = stages_.stage[i];
-                       pass_rows(*kernel_, kind_, stage, {stage.before / rows_, stage.after, width, from.row, to.row},
-                                 from.at, to.at, scale);
+                       pass(stage, {stage.before / rows_, stage.after, width, from.row, to.row}, from.at, to.at, scale);
                    });
     });
 }

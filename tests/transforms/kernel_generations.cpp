@@ -38,13 +38,16 @@ class Collected {
 
 constexpr Index kBatch = 3;
 
-// Each element of the sequence is a row of kBatch numbers.
+// Each element of the sequence is a row of one number, or of several.
 void rows(Collected &to, const Stage &stage, std::size_t n)
 {
-    const Block block{stage.before, stage.after, kBatch, kBatch, kBatch};
     const Kernels &kernel = to.kernel();
-    for (const auto pass : {kernel.complex_pass, kernel.real_pass, kernel.hermitian_pass})
-        to.run(kBatch * n, kBatch * n, [&](Sequence x, Sequence y) { pass(stage, block, x, y); });
+    for (const Index batch : {Index{1}, kBatch}) {
+        const Block block{stage.before, stage.after, batch, batch, batch};
+        const std::size_t size = static_cast<std::size_t>(batch) * n;
+        for (const auto pass : {kernel.complex_pass, kernel.real_pass, kernel.hermitian_pass})
+            to.run(size, size, [&](Sequence x, Sequence y) { pass(stage, block, x, y); });
+    }
 }
 void without_twiddles(Collected &to, const Stage &stage, std::size_t n)
 {
