@@ -28,6 +28,12 @@ void dgesvd_(const char *, const char *, const int *, const int *, double *, con
              const int *, double *, const int *, double *, const int *, int *, std::size_t, std::size_t);
 void dgesdd_(const char *, const int *, const int *, double *, const int *, double *, double *, const int *, double *,
              const int *, double *, const int *, int *, int *, std::size_t);
+void dsygv_(const int *, const char *, const char *, const int *, double *, const int *, double *, const int *,
+            double *, double *, const int *, int *, std::size_t, std::size_t);
+void zheev_(const char *, const char *, const int *, Complex *, const int *, double *, Complex *, const int *, double *,
+            int *, std::size_t, std::size_t);
+void zgesdd_(const char *, const int *, const int *, Complex *, const int *, double *, Complex *, const int *,
+             Complex *, const int *, Complex *, const int *, double *, int *, int *, std::size_t);
 void dgeev_(const char *, const char *, const int *, double *, const int *, double *, double *, double *, const int *,
             double *, const int *, double *, const int *, int *, std::size_t, std::size_t);
 }
@@ -122,7 +128,7 @@ void add_symmetric(int n)
             dsyev_(job, "L", &n, x->a.data(), &n, x->s.data(), x->work.data(), &lwork, &info, 1, 1);
         };
         qr();
-        add(name + "/LAPACK syev", qr, {.error = error(true)});
+        add(name + "/LAPACK QR", qr, {.error = error(true)});
         const auto divide = [=] {
             int info;
             x->a = a;
@@ -130,7 +136,7 @@ void add_symmetric(int n)
                     1, 1);
         };
         divide();
-        add(name + "/LAPACK syevd", divide, {.error = error(true)});
+        add(name + "/LAPACK D&C", divide, {.error = error(true)});
 #ifdef KOR_HAVE_EIGEN
         const Eigen::MatrixXd m = Eigen::Map<const Eigen::MatrixXd>(a.data(), n, n);
         auto *const solver = new Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd>(n);
@@ -179,7 +185,7 @@ void add_singular(int n)
                     &lwork, &info, 1, 1);
         };
         qr();
-        add(name + "/LAPACK gesvd", qr, {.error = vectors ? reconstruction(n, a, x->q, x->s, x->p) : -1.0});
+        add(name + "/LAPACK QR", qr, {.error = vectors ? reconstruction(n, a, x->q, x->s, x->p) : -1.0});
         const auto divide = [=] {
             int info;
             x->a = a;
@@ -187,7 +193,7 @@ void add_singular(int n)
                     x->iwork.data(), &info, 1);
         };
         divide();
-        add(name + "/LAPACK gesdd", divide, {.error = vectors ? reconstruction(n, a, x->q, x->s, x->p) : -1.0});
+        add(name + "/LAPACK D&C", divide, {.error = vectors ? reconstruction(n, a, x->q, x->s, x->p) : -1.0});
 #ifdef KOR_HAVE_EIGEN
         const Eigen::MatrixXd m = Eigen::Map<const Eigen::MatrixXd>(a.data(), n, n);
         const unsigned options = vectors ? Eigen::ComputeThinU | Eigen::ComputeThinV : 0;
@@ -232,7 +238,7 @@ void add_general(int n)
                 worst = std::max(worst, static_cast<double>(std::abs(sum)) / length(a) * 0x1p53 / n);
             }
         add(name + "/KOR", ours, {.error = worst});
-        add(name + "/LAPACK geev", [=] {
+        add(name + "/LAPACK QR", [=] {
             int info;
             x->a = a;
             dgeev_("N", vectors ? "V" : "N", &n, x->a.data(), &n, x->s.data(), x->t.data(), x->q.data(), &n,
@@ -257,11 +263,103 @@ void add_general(int n)
     }
 }
 
+void add_complex(int n)
+{
+    auto *x = new Arrays(n);
+    auto *work = new std::vector<Complex>(10 * n * n + 1000);
+    auto *p = new std::vector<Complex>(n * n);
+    const std::vector<double> re = random_matrix(n, true), im = random_matrix(n, false);
+    std::vector<Complex> hermitian(n * n), general(n * n);
+    for (int i = 0; i < n; ++i)
+        for (int j = 0; j < n; ++j) {
+            hermitian[i * n + j] = {re[i * n + j], i == j ? 0.0 : i > j ? im[i * n + j] : -im[j * n + i]};
+            general[i * n + j] = {re[i * n + j], im[i * n + j]};
+        }
+    const int lwork = static_cast<int>(work->size());
+    const std::string of = ", n = " + std::to_string(n);
+    for (const bool vectors : {true, false}) {
+        const std::string name = (vectors ? "Hermitian, vectors" : "Hermitian, values") + of;
+        const auto a = hermitian;
+        add(name + "/KOR", [=] {
+            KorError fail{};
+            x->v = a;
+            if (vectors)
+                f02axc(n, x->v.data(), n, x->s.data(), x->v.data(), n, &fail);
+            else
+                f02awc(n, x->v.data(), n, x->s.data(), &fail);
+        });
+        add(name + "/LAPACK QR", [=] {
+            int info;
+            x->v = a;
+            zheev_(vectors ? "V" : "N", "L", &n, x->v.data(), &n, x->s.data(), work->data(), &lwork, x->work.data(),
+                   &info, 1, 1);
+        });
+#ifdef KOR_HAVE_EIGEN
+        const Eigen::MatrixXcd m =
+            Eigen::Map<const Eigen::MatrixXcd>(reinterpret_cast<const std::complex<double> *>(a.data()), n, n);
+        auto *const solver = new Eigen::SelfAdjointEigenSolver<Eigen::MatrixXcd>(n);
+        add(name + "/Eigen",
+            [=] { keep(solver->compute(m, vectors ? Eigen::ComputeEigenvectors : Eigen::EigenvaluesOnly)); });
+#endif
+    }
+    const auto a = general;
+    add("complex SVD" + of + "/KOR", [=] {
+        KorError fail{};
+        Integer iter, failinfo;
+        x->v = a;
+        f02xec(n, n, x->v.data(), n, 0, nullptr, 0, 1, nullptr, 0, x->s.data(), 1, p->data(), n, &iter, x->t.data(),
+               &failinfo, &fail);
+    });
+    auto *q = new std::vector<Complex>(n * n);
+    add("complex SVD" + of + "/LAPACK D&C", [=] {
+        int info;
+        x->v = a;
+        zgesdd_("S", &n, &n, x->v.data(), &n, x->s.data(), p->data(), &n, q->data(), &n, work->data(), &lwork,
+                x->work.data(), x->iwork.data(), &info, 1);
+    });
+}
+
+void add_definite(int n)
+{
+    auto *x = new Arrays(n);
+    const std::vector<double> a = random_matrix(n, true), b0 = random_matrix(n, false);
+    std::vector<double> b(n * n);
+    for (int i = 0; i < n; ++i)
+        for (int j = 0; j < n; ++j) {
+            b[i * n + j] = i == j ? 1.0 : 0.0;
+            for (int k = 0; k < n; ++k) b[i * n + j] += b0[k * n + i] * b0[k * n + j] / n;
+        }
+    const int lwork = static_cast<int>(x->work.size());
+    const std::string name = "definite pair, n = " + std::to_string(n);
+    add(name + "/KOR", [=] {
+        KorError fail{};
+        x->a = a;
+        x->p = b;
+        f02aec(n, x->a.data(), n, x->p.data(), n, x->s.data(), x->q.data(), n, &fail);
+    });
+    add(name + "/LAPACK QR", [=] {
+        const int itype = 1;
+        int info;
+        x->a = a;
+        x->p = b;
+        dsygv_(&itype, "V", "L", &n, x->a.data(), &n, x->p.data(), &n, x->s.data(), x->work.data(), &lwork, &info, 1,
+               1);
+    });
+#ifdef KOR_HAVE_EIGEN
+    const Eigen::MatrixXd A = Eigen::Map<const Eigen::MatrixXd>(a.data(), n, n),
+                          B = Eigen::Map<const Eigen::MatrixXd>(b.data(), n, n);
+    auto *const solver = new Eigen::GeneralizedSelfAdjointEigenSolver<Eigen::MatrixXd>(n);
+    add(name + "/Eigen", [=] { keep(solver->compute(A, B)); });
+#endif
+}
+
 const bool registered = [] {
     for (const int n : {3, 4, 6, 10, 16, 24, 32, 48, 64, 100, 300}) {
         add_symmetric(n);
         add_singular(n);
         add_general(n);
+        add_complex(n);
+        add_definite(n);
     }
     return true;
 }();

@@ -631,7 +631,7 @@ void f02wec(Integer m, Integer n, double a[], Integer tda, Integer ncolb, double
 /// \par Accuracy
 /// As f02wec().
 /// \par Method
-/// As f02wec(); the bidiagonal matrix is real.
+/// As f02wec(), by LAPACK from min(m, n) = 25 on; the bidiagonal matrix is real.
 /// \par Thread safety
 /// Safe.
 /// \par Example

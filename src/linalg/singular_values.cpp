@@ -26,7 +26,14 @@ namespace {
 constexpr Integer kSmallOrder = 40;
 constexpr Integer kSmallSize = 4096;
 
-bool is_small(Integer m, Integer n) { return std::min(m, n) <= kSmallOrder && m <= kSmallSize / n; }
+template <Scalar T>
+constexpr Integer kWorthwhileOrder = std::is_same_v<T, Complex> ? 24 : kSmallOrder;
+
+template <Scalar T>
+bool is_small(Integer m, Integer n)
+{
+    return std::min(m, n) <= kWorthwhileOrder<T> && m <= kSmallSize / n;
+}
 
 // Values alone: from so many on LAPACK's dqds is quicker.
 constexpr Integer kWorthQds = 12;
@@ -221,7 +228,7 @@ SingularOutcome decompose(Integer m, Integer n, T *a, Integer tda, Integer ncolb
         record.failures = r;
         return SingularOutcome::no_convergence;
     }
-    if (is_small(m, n))
+    if (is_small<T>(m, n))
         return decompose_small(m, n, a, tda, ncolb, b, tdb, values, vectors, record, magnitude.scaling());
 
     if (record.e != nullptr) std::fill(record.e, record.e + (r - 1), 0.0);
