@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "frame/workspace.hpp"
 #include "sparse/growing_array.hpp"
@@ -78,10 +79,14 @@ class NodeElimination {
     Factorised hand_over(const Storage &, CholeskyResult &);
 
   private:
-    // A stretch of the store.
+    // A stretch of the store. Long lists have a table by which a node is found in them: without it the neighbours of a node
+    // with very many would each search all of its list.
     struct List {
         std::size_t start;
         Integer count, room;
+        std::size_t table;  // its start
+        Integer table_size; // a power of 2; 0: there is none
+        Integer table_used; // slots that are not kNeverUsed
     };
 
     bool allocate();
@@ -89,6 +94,14 @@ class NodeElimination {
     bool take_out(Integer node, Integer stage);
     double repaired_pivot(Integer node);
     bool append(Integer i, const Neighbour &);
+    Neighbour &element(const List &list, Integer place) const
+    {
+        return store_[list.start + static_cast<std::size_t>(place)];
+    }
+    Integer &slot_of(const List &list, Integer node) const;
+    bool make_table(List &);
+    bool enter(List &, Integer place);
+    void remove(List &, Integer node);
     bool is_to_be_dropped(Integer level, double value) const
     {
         return rules_.fill_level >= 0 ? level > rules_.fill_level : std::abs(value) < drop_threshold_;
@@ -101,6 +114,7 @@ class NodeElimination {
     Workspace<double> diagonal_; // of live nodes; the reciprocal of the pivot of others
     Workspace<List> lists_;      // neighbours of live nodes; a column of L for others
     GrowingArray<Neighbour> store_;
+    GrowingArray<Integer> tables_; // of places in the lists
     Workspace<Integer> place_of_;  // of a neighbour in the list at work, or kNone
     Workspace<double> multiplier_; // of the neighbours of the node that is taken out
     NodesByCount by_count_;
@@ -118,7 +132,7 @@ bool NodeElimination::allocate()
 bool NodeElimination::build_graph()
 {
     std::fill(diagonal_.begin(), diagonal_.end(), 0.0);
-    std::fill(lists_.begin(), lists_.end(), List{0, 0, 0});
+    std::fill(lists_.begin(), lists_.end(), List{});
     std::fill(place_of_.begin(), place_of_.end(), kNone);
     double greatest = 0.0;
     for (Integer p = 0; p < a_.nnz; ++p) {
@@ -141,18 +155,71 @@ bool NodeElimination::build_graph()
             diagonal_[i] = a_.value[p] * (1.0 + rules_.diagonal_scale);
             continue;
         }
-        store_[lists_[i].start + static_cast<std::size_t>(lists_[i].count++)] = {a_.value[p], j, 0};
-        store_[lists_[j].start + static_cast<std::size_t>(lists_[j].count++)] = {a_.value[p], i, 0};
+        element(lists_[i], lists_[i].count++) = {a_.value[p], j, 0};
+        element(lists_[j], lists_[j].count++) = {a_.value[p], i, 0};
     }
     return true;
 }
 
-// A list that is full moves to the end of the store, into twice the room.
+constexpr Integer kNeverUsed = -1, kNoLonger = -2; // slots of a table without a place
+constexpr Integer kLong = 64;                      // elements of a list that is worth a table
+
+// Where a node is entered in the table of its list, or the slot where it would be.
+Integer &NodeElimination::slot_of(const List &list, Integer node) const
+{
+    const auto mask = static_cast<std::uint32_t>(list.table_size - 1);
+    Integer *const table = tables_.data() + list.table;
+    for (std::uint32_t at = (static_cast<std::uint32_t>(node) * 0x9e3779b9u >> 7) & mask;; at = (at + 1) & mask) {
+        Integer &slot = table[at];
+        if (slot == kNeverUsed || (slot >= 0 && element(list, slot).node == node)) return slot;
+    }
+}
+
+// A new table for all of a list, a quarter full.
+bool NodeElimination::make_table(List &list)
+{
+    constexpr Integer kMostEntered = 1 << 28; // so that the size of a table is an Integer
+    if (list.count > kMostEntered) return false;
+    Integer size = 4 * kLong;
+    while (size / 4 < list.count) size *= 2;
+    if (size != list.table_size) {
+        list.table = tables_.size();
+        list.table_size = size;
+        if (!tables_.reserve(list.table + static_cast<std::size_t>(size))) return false;
+        tables_.resize(list.table + static_cast<std::size_t>(size));
+    }
+    std::fill_n(tables_.data() + list.table, size, kNeverUsed);
+    list.table_used = list.count;
+    for (Integer place = 0; place < list.count; ++place) slot_of(list, element(list, place).node) = place;
+    return true;
+}
+
+// Enters the last element of a list with a table.
+bool NodeElimination::enter(List &list, Integer place)
+{
+    if (2 * list.table_used >= list.table_size) return make_table(list);
+    slot_of(list, element(list, place).node) = place;
+    ++list.table_used;
+    return true;
+}
+
+// Takes a node out of a list with a table; the last element takes its place.
+void NodeElimination::remove(List &list, Integer node)
+{
+    Integer &slot = slot_of(list, node);
+    const Integer place = slot, last = list.count - 1;
+    if (place != last) slot_of(list, element(list, last).node) = place;
+    slot = kNoLonger;
+    element(list, place) = element(list, last);
+    --list.count;
+}
+
+// A list that is full moves to the end of the store, into twice the room, at most that for all nodes.
 bool NodeElimination::append(Integer i, const Neighbour &neighbour)
 {
     List &list = lists_[i];
     if (list.count == list.room) {
-        const Integer room = 2 * list.room + 2;
+        const auto room = static_cast<Integer>(std::min<std::int64_t>(a_.n, 2 * std::int64_t{list.room} + 2));
         const std::size_t start = store_.size();
         if (!store_.reserve(start + static_cast<std::size_t>(room))) return false;
         store_.resize(start + static_cast<std::size_t>(room));
@@ -160,8 +227,8 @@ bool NodeElimination::append(Integer i, const Neighbour &neighbour)
         list.start = start;
         list.room = room;
     }
-    store_[list.start + static_cast<std::size_t>(list.count++)] = neighbour;
-    return true;
+    element(list, list.count++) = neighbour;
+    return list.table_size == 0 || enter(list, list.count - 1);
 }
 
 // A pivot that is not safely positive makes way for the sum of moduli beside it.
@@ -169,7 +236,7 @@ double NodeElimination::repaired_pivot(Integer node)
 {
     const List &list = lists_[node];
     double sum = 0.0;
-    for (Integer s = 0; s < list.count; ++s) sum += std::abs(store_[list.start + static_cast<std::size_t>(s)].value);
+    for (Integer s = 0; s < list.count; ++s) sum += std::abs(element(list, s).value);
     const double pivot = diagonal_[node];
     if (is_safe_pivot(pivot, sum)) return pivot;
     ++modified_pivots_;
@@ -193,13 +260,17 @@ bool NodeElimination::take_out(Integer node, Integer stage)
         const Integer i = parent.node;
         diagonal_[i] -= multiplier_[s] * parent.value;
 
-        // Look up the neighbours of i, and take the node out of their list.
+        // Take the node out of the list of i, and note where its other neighbours are.
         List &list = lists_[i];
         const Integer old_count = list.count;
-        for (Integer t = 0; t < list.count; ++t) {
-            Neighbour *const of_i = store_.data() + list.start;
-            if (of_i[t].node == node) of_i[t] = of_i[--list.count];
-            if (t < list.count) place_of_[of_i[t].node] = t;
+        const bool has_table = list.table_size > 0;
+        if (has_table) {
+            remove(list, node);
+        } else {
+            for (Integer t = 0; t < list.count; ++t) {
+                if (element(list, t).node == node) element(list, t) = element(list, --list.count);
+                if (t < list.count) place_of_[element(list, t).node] = t;
+            }
         }
         for (Integer t = 0; t < count; ++t) {
             if (t == s) continue;
@@ -207,18 +278,21 @@ bool NodeElimination::take_out(Integer node, Integer stage)
             // The same product at both ends of the element, to the last bit.
             const double change = i < other.node ? multiplier_[s] * other.value : multiplier_[t] * parent.value;
             const Integer level = std::max(parent.level, other.level) + 1;
-            if (place_of_[other.node] != kNone) {
-                Neighbour &element = store_[list.start + static_cast<std::size_t>(place_of_[other.node])];
-                element.value -= change;
-                element.level = std::min(element.level, level);
+            const Integer place = has_table ? slot_of(list, other.node) : place_of_[other.node];
+            if (place >= 0) {
+                Neighbour &target = element(list, place);
+                target.value -= change;
+                target.level = std::min(target.level, level);
             } else if (is_to_be_dropped(level, change)) {
                 if (rules_.modified) diagonal_[i] -= change;
             } else if (!append(i, {-change, other.node, level})) {
                 return false;
             }
         }
-        for (Integer t = 0; t < list.count; ++t)
-            place_of_[store_[list.start + static_cast<std::size_t>(t)].node] = kNone;
+        if (!has_table) {
+            for (Integer t = 0; t < list.count; ++t) place_of_[element(list, t).node] = kNone;
+            if (list.count > kLong && !make_table(list)) return false;
+        }
         if (picks_order()) {
             by_count_.remove(i, old_count);
             by_count_.insert(i, list.count);
@@ -257,8 +331,7 @@ Factorised NodeElimination::hand_over(const Storage &storage, CholeskyResult &re
     Workspace<Integer> &place = place_of_;
     std::fill(place.begin(), place.end(), 1);
     for (const List &list : lists_)
-        for (Integer s = 0; s < list.count; ++s)
-            ++place[stage_of_[store_[list.start + static_cast<std::size_t>(s)].node]];
+        for (Integer s = 0; s < list.count; ++s) ++place[stage_of_[element(list, s).node]];
     Integer next = a_.nnz;
     for (Integer k = 0; k < a_.n; ++k) {
         result.row_start[k] = next + 1;
@@ -277,8 +350,8 @@ Factorised NodeElimination::hand_over(const Storage &storage, CholeskyResult &re
         const List &list = lists_[order_[k]];
         put(k, k, diagonal_[order_[k]]); // all that is left of it has been put
         for (Integer s = 0; s < list.count; ++s) {
-            const Neighbour &element = store_[list.start + static_cast<std::size_t>(s)];
-            put(stage_of_[element.node], k, element.value);
+            const Neighbour &neighbour = element(list, s);
+            put(stage_of_[neighbour.node], k, neighbour.value);
         }
         result.order[k] = order_[k] + 1;
     }

@@ -378,6 +378,7 @@ class InPlaceElimination {
 
 bool InPlaceElimination::run(const Matrix &a, bool modified)
 {
+    constexpr Integer kMuchLonger = 16; // pays for the search
     find_row_starts(a, start_.data());
     std::fill(place_.begin(), place_.end(), -1);
     const double least_pivot = pivot_threshold(greatest_modulus(a));
@@ -393,6 +394,16 @@ bool InPlaceElimination::run(const Matrix &a, bool modified)
             const Integer j = a.column[p] - 1, j_end = start_[j + 1];
             const double multiplier = value_[p] * value_[diagonal_[j]];
             value_[p] = multiplier;
+            // A short row looks itself up in a long one, unless it must know what it drops.
+            if (!modified && kMuchLonger * (end - p) < j_end - diagonal_[j]) {
+                for (Integer target = p + 1; target < end; ++target) {
+                    const Integer *const found =
+                        std::lower_bound(a.column + diagonal_[j] + 1, a.column + j_end, a.column[target]);
+                    if (found < a.column + j_end && *found == a.column[target])
+                        value_[target] -= multiplier * value_[found - a.column];
+                }
+                continue;
+            }
             for (Integer q = diagonal_[j] + 1; q < j_end; ++q) {
                 const double change = multiplier * value_[q];
                 const Integer target = place_[a.column[q] - 1];

@@ -42,7 +42,7 @@ class GeneralSolver {
     bool passes() const { return test_.is_met(residual_norm_, solution_norm_); }
 
     CycleEnd run_gmres_cycle(Integer m);
-    bool orthogonalise(Integer j, double h[]);
+    bool extend_basis(Integer j, double h[]);
     bool try_solution(Integer columns, bool accept_any);
 
     CycleEnd run_cgs_cycle(int attempt);
@@ -109,12 +109,10 @@ void GeneralSolver::compute_residual(const double x[])
 // --- restarted GMRES
 
 // Makes the product with the basis vector j orthogonal to the basis; h receives its components and the norm of what is left.
-bool GeneralSolver::orthogonalise(Integer j, double h[])
+bool GeneralSolver::extend_basis(Integer j, double h[])
 {
     double *const w = basis_[j + 1];
-    h[0] = dot(n_, w, basis_[0]);
-    for (Integer i = 0; i < j; ++i) h[i + 1] = add_multiple_dot(n_, -h[i], basis_[i], w, basis_[i + 1]);
-    h[j + 1] = std::sqrt(add_multiple_dot(n_, -h[j], basis_[j], w, w));
+    orthogonalise(n_, j + 1, basis_, w, h);
     double size = 0.0;
     for (Integer i = 0; i <= j; ++i) size = std::hypot(size, h[i]);
     if (!std::isfinite(h[j + 1]) || !std::isfinite(size)) return false;
@@ -161,7 +159,7 @@ CycleEnd GeneralSolver::run_gmres_cycle(Integer m)
         system_.multiply(t_, basis_[j + 1]);
         double *const h = triangle_[j];
         ++count_;
-        if (!orthogonalise(j, h)) {
+        if (!extend_basis(j, h)) {
             end = CycleEnd::broken_down;
             break;
         }

@@ -99,6 +99,45 @@ KOR_CLONES double greatest_modulus(Integer n, const double x[])
     return std::isinf(found) ? found : found + sum_of(nothing);
 }
 
+// In one pass: w := w - sum of coefficient[k] from[k], then dots[k] := w' to[k]. One of `to` may be w itself.
+template <int kFrom, int kTo>
+[[gnu::always_inline]] inline void subtract_then_multiply(Integer n, const double coefficient[],
+                                                          const double *const from[], double w[],
+                                                          const double *const to[], double dots[])
+{
+    Lanes sum[kTo > 0 ? kTo : 1] = {};
+    Integer i = 0;
+    for (; i + kWidth <= n; i += kWidth) {
+        Lanes part = load(w + i);
+        for (int k = 0; k < kFrom; ++k) part -= coefficient[k] * load(from[k] + i);
+        if (kFrom > 0) store(w + i, part);
+        for (int k = 0; k < kTo; ++k) sum[k] += part * load(to[k] + i);
+    }
+    double rest[kTo > 0 ? kTo : 1] = {};
+    for (; i < n; ++i) {
+        for (int k = 0; k < kFrom; ++k) w[i] -= coefficient[k] * from[k][i];
+        for (int k = 0; k < kTo; ++k) rest[k] += w[i] * to[k][i];
+    }
+    for (int k = 0; k < kTo; ++k) dots[k] = sum_of(sum[k]) + rest[k];
+}
+
+constexpr int kGroup = 4;
+
+KOR_CLONES void group_dots(Integer n, double w[], const double *const to[], double dots[])
+{
+    subtract_then_multiply<0, kGroup>(n, nullptr, nullptr, w, to, dots);
+}
+KOR_CLONES void group_to_group(Integer n, const double c[], const double *const from[], double w[],
+                               const double *const to[], double dots[])
+{
+    subtract_then_multiply<kGroup, kGroup>(n, c, from, w, to, dots);
+}
+KOR_CLONES void group_to_one(Integer n, const double c[], const double *const from[], double w[], const double *to,
+                             double *product)
+{
+    subtract_then_multiply<kGroup, 1>(n, c, from, w, &to, product);
+}
+
 double two_norm(Integer n, const double x[], const double w[])
 {
     // Beyond these bounds squares have overflowed or lost digits.
@@ -217,6 +256,23 @@ KOR_CLONES AfterStep step_along(Integer n, double a, double s, const double p[],
     }
     after.residual_squared = sum_of(squares) + rest;
     return after;
+}
+
+// A group is projected out at once: its members are orthonormal to working accuracy, so that nothing is lost against one after
+// the other, and half of the passes through memory are saved.
+void orthogonalise(Integer n, Integer count, const double *const v[], double w[], double h[])
+{
+    Integer k = 0;
+    if (count >= kGroup) {
+        group_dots(n, w, v, h);
+        for (; k + 2 * kGroup <= count; k += kGroup) group_to_group(n, h + k, v + k, w, v + k + kGroup, h + k + kGroup);
+        group_to_one(n, h + k, v + k, w, k + kGroup < count ? v[k + kGroup] : w, h + k + kGroup);
+        k += kGroup;
+    } else {
+        h[0] = dot(n, w, v[0]);
+    }
+    for (; k < count; ++k) h[k + 1] = add_multiple_dot(n, -h[k], v[k], w, k + 1 < count ? v[k + 1] : w);
+    h[count] = std::sqrt(h[count]);
 }
 
 } // namespace kor::sparse

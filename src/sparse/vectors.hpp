@@ -27,6 +27,10 @@ void multiple_plus(Integer n, const double x[], double b, double y[]);          
 void set_multiple(Integer n, double a, const double x[], double y[]);                         // y := a x
 double add_multiple_dot(Integer n, double a, const double x[], double y[], const double z[]); // y := y + a x, then y'z
 
+// Makes w orthogonal to the orthonormal vectors v[0..count-1], in groups of four; h receives its components, and h[count] the
+// norm of what is left.
+void orthogonalise(Integer n, Integer count, const double *const v[], double w[], double h[]);
+
 // One step along the direction p, with q = A p: x := x + a s p, r := r - a q.
 struct AfterStep {
     double solution;         // the greatest modulus in x

@@ -294,6 +294,21 @@ TEST(IncompleteCholesky, AllFillGivesTheCompleteFactorsAndSolves)
     EXPECT_LT(markowitz, 0.8 * natural);
 }
 
+// Nodes with many neighbours, which are looked up in another way than those with few.
+TEST(IncompleteCholesky, RowsMayBeLong)
+{
+    const Integer n = 400;
+    Elements lower = lower_triangle(scattered(n, 0.01, 8.0, 4));
+    for (Integer i = 1; i <= n; ++i)
+        for (const Integer dense : {17, 250, n - 1, n})
+            lower[{std::max(i, dense), std::min(i, dense)}] = i == dense ? 300.0 : 0.5 + 0.001 * i;
+    for (const Integer pstrat : {Kor_SparseSym_NoPiv, Kor_SparseSym_MarkPiv}) {
+        const Cholesky c{n, lower, -1, 0.0, pstrat};
+        EXPECT_EQ(c.npivm, 0);
+        EXPECT_LT(largest_difference(c.product(), dense(n, lower, true)), 1000 * n * 0x1p-53);
+    }
+}
+
 TEST(IncompleteCholesky, WithoutFillAgreesWithAWhereAHasElements)
 {
     const Integer side = 6, n = side * side;
