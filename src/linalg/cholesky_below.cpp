@@ -1,5 +1,6 @@
-// Cholesky factorisation below the diagonal. Small matrices are factorised along the rows of conj(L)' in a buffer; larger ones
+// Cholesky factorisation below the diagonal. Small matrices are factorised along the rows of conj(L)' in a buffer, larger ones
 // by halves: the upper left block, the block below it by a triangular solve, and what that leaves of the lower right one.
+// The largest are done by LAPACK.
 #include "linalg/cholesky_below.hpp"
 
 #include <algorithm>
@@ -9,12 +10,15 @@
 #include "frame/dispatch.hpp"
 #include "frame/views.hpp"
 #include "linalg/blas.hpp"
+#include "linalg/lapack.hpp"
 
 namespace kor::linalg {
 
 namespace {
 
 constexpr Integer kBlock = 32;
+// Orders beyond which LAPACK is quicker than the recursion: see bench/linalg/bench_dense.
+constexpr Integer kLapack = 64;
 
 // A = U^H U, U in the place of the upper triangle of A: row k, once it is final, is taken off the rows below it. pivot[k] is
 // the square of U(k, k) before the root was taken. Returns 0 or the stage, from 1, whose pivot is not a positive number.
@@ -111,6 +115,23 @@ Integer factor_small(Integer n, RowMajor<T> A, double *p, Determinant<double> &d
     return stage;
 }
 
+// By LAPACK's potrf on the lower triangle, which for it is an upper one. False if A is not positive definite, or not
+// finite: the recursion then finds out where.
+template <Scalar T>
+bool by_lapack(Integer n, RowMajor<T> A, Integer tda, Determinant<double> &determinant)
+{
+    reflect_upper(n, A.a, tda, A.a, tda);
+    if (lapack::potrf(UpperTriangle, n, A.a, tda) != 0) return false;
+    for (Integer k = 0; k < n; ++k)
+        if (const double root = real(A(k, k)); !(root > 0.0 && root <= kLargest)) return false;
+    for (Integer k = 0; k < n; ++k) {
+        const double root = real(A(k, k));
+        determinant.multiply(root);
+        determinant.multiply(root);
+    }
+    return true;
+}
+
 template <Scalar T>
 Integer factor_matrix(Integer n, T *a, Integer tda, double *p, Determinant<double> &determinant)
 {
@@ -119,8 +140,13 @@ Integer factor_matrix(Integer n, T *a, Integer tda, double *p, Determinant<doubl
 
     // The diagonal of A waits in p. Imaginary parts there, which are not read, come back as zero.
     for (Integer k = 0; k < n; ++k) p[k] = real(A(k, k));
-    reflect_upper(n, a, tda, a, tda);
-    const Integer stage = Recursion<T>{A, tda, determinant}.factor(0, n), known = stage != 0 ? stage - 1 : n;
+    Integer stage = 0;
+    if (n <= kLapack || !by_lapack(n, A, tda, determinant)) {
+        for (Integer k = 0; k < n; ++k) A(k, k) = p[k] * one<T>();
+        reflect_upper(n, a, tda, a, tda);
+        stage = Recursion<T>{A, tda, determinant}.factor(0, n);
+    }
+    const Integer known = stage != 0 ? stage - 1 : n;
     for (Integer k = 0; k < n; ++k) {
         const double diagonal = p[k];
         p[k] = k < known ? 1.0 / real(A(k, k)) : 0.0;

@@ -9,6 +9,7 @@
 #include "frame/views.hpp"
 #include "linalg/blas.hpp"
 #include "linalg/reflection.hpp"
+#include "linalg/vector_operations.hpp"
 
 namespace kor::linalg {
 
@@ -16,6 +17,8 @@ namespace {
 
 constexpr Integer kBlock = 32; // reflections that are applied to the rest of a matrix at once
 constexpr Integer kNarrow = 8; // columns of a block that are reduced one by one
+constexpr Integer kFew = 16;   // columns of a matrix that are
+constexpr Integer kTall = 32;  // rows from which columns are copied for that, so that each is contiguous
 
 double zeta_of(double scalar) { return scalar; }
 double zeta_of(Complex scalar) { return scalar.re; }
@@ -110,7 +113,7 @@ struct Columns {
     void factor(Integer first, Integer last)
     {
         const Integer width = last - first;
-        if (width <= kNarrow) return one_by_one(first, last);
+        if (width <= kNarrow) return one_by_one(first, last, last);
         const Integer middle = first + (width / 2 + kNarrow - 1) / kNarrow * kNarrow;
         factor(first, middle);
         apply(first, middle, middle, last);
@@ -122,14 +125,39 @@ struct Columns {
         block.gather_columns(&A(first, first), tda, zeta + first);
         block.apply(true, to - from, &A(first, from), tda);
     }
-    void one_by_one(Integer first, Integer last)
+    // The reflections of the columns [first, last), felt by those up to `end`.
+    void one_by_one(Integer first, Integer last, Integer end)
     {
+        if (m - first >= kTall && last - first > 1) return in_contiguous_columns(first, last, end);
         for (Integer k = first; k < last; ++k) {
             T *const below = k + 1 < m ? &A(k + 1, k) : nullptr;
             zeta[k] = make_reflection(m - k - 1, A(k, k), below, tda, 0.0);
-            if (k + 1 < last && !(zeta[k] == T{}))
-                reflect(m - k - 1, last - k - 1, zeta[k], below, tda, &A(k, k) + 1, below + 1, tda, work);
+            if (k + 1 < end && !(zeta[k] == T{}))
+                reflect(m - k - 1, end - k - 1, zeta[k], below, tda, &A(k, k) + 1, below + 1, tda, work);
         }
+    }
+    // The same in a copy, where each column is contiguous.
+    void in_contiguous_columns(Integer first, Integer last, Integer end)
+    {
+        const Integer rows = m - first, width = end - first;
+        const ColumnMajor<T> C{work, rows};
+        for (Integer i = 0; i < rows; ++i)
+            for (Integer j = 0; j < width; ++j) C(i, j) = A(first + i, first + j);
+        for (Integer k = 0; k < last - first; ++k) {
+            T *const z = C.column(k) + k + 1;
+            const Integer length = rows - k - 1;
+            const T scalar = zeta[first + k] = make_reflection(length, C(k, k), z, 1, 0.0);
+            if (scalar == T{}) continue;
+            const double lead = zeta_of(scalar);
+            for (Integer j = k + 1; j < width; ++j) {
+                T *const y = C.column(j) + k + 1;
+                const T sum = gamma_of(scalar) * (C(k, j) * lead + dot(length, z, 1, y, 1));
+                C(k, j) -= sum * lead;
+                axpy(length, -sum, z, 1, y, 1);
+            }
+        }
+        for (Integer i = 0; i < rows; ++i)
+            for (Integer j = 0; j < width; ++j) A(first + i, first + j) = C(i, j);
     }
 };
 
@@ -140,11 +168,14 @@ void factor_columns(Integer m, Integer n, T *a, Integer tda, T *zeta, T *work)
     // The last row of a real square matrix has nothing below it, and its sign may stay.
     const Integer steps = std::is_same_v<T, double> ? std::min(n, m - 1) : all;
     Columns<T> columns{m, {a, tda}, tda, zeta, work};
-    for (Integer k = 0; k < steps; k += kBlock) {
-        const Integer end = std::min(k + kBlock, steps);
-        columns.factor(k, end);
-        if (end < n) columns.apply(k, end, end, n);
-    }
+    if (n <= kFew)
+        columns.one_by_one(0, steps, n);
+    else
+        for (Integer k = 0; k < steps; k += kBlock) {
+            const Integer end = std::min(k + kBlock, steps);
+            columns.factor(k, end);
+            if (end < n) columns.apply(k, end, end, n);
+        }
     std::fill(zeta + std::max(steps, 0), zeta + all, T{});
 }
 
@@ -268,15 +299,14 @@ T reduce_row(Integer m, Integer n, RowMajor<T> A, Integer k, Integer first, T *v
     if (scalar == T{}) return scalar;
     const double zeta = zeta_of(scalar);
     const T gamma = conj(gamma_of(scalar));
+    // Row k itself holds conj(u)'.
     for (Integer i = first; i < k; ++i) {
         T *const row = A.row(i);
-        T sum = row[k] * zeta;
-        for (Integer j = 0; j < k; ++j) sum += row[j] * vector[j];
-        for (Integer j = 0; j < tail; ++j) sum += row[m + j] * vector[k + j];
+        T sum = row[k] * zeta + dot(k, A.row(k), 1, row, 1) + dot(tail, A.row(k) + m, 1, row + m, 1);
         sum = gamma * sum;
         row[k] -= sum * zeta;
-        for (Integer j = 0; j < k; ++j) row[j] -= sum * conj(vector[j]);
-        for (Integer j = 0; j < tail; ++j) row[m + j] -= sum * conj(vector[k + j]);
+        axpy(k, -sum, A.row(k), 1, row, 1);
+        axpy(tail, -sum, A.row(k) + m, 1, row + m, 1);
     }
     return scalar;
 }

@@ -12,6 +12,10 @@
 
 namespace kor::linalg {
 
+namespace {
+constexpr Integer kBlock = 32;
+}
+
 void lu_inverse(Integer n, const double *a, Integer tda, const Integer *pivot, double *x, Integer tdx)
 {
     const RowMajor<const double> A{a, tda};
@@ -29,7 +33,14 @@ void lu_inverse(Integer n, const double *a, Integer tda, const Integer *pivot, d
     }
     // A row-major upper triangle is a column-major lower one, and so are their inverses.
     lapack::trtri(LowerTriangle, NotUnitTriangular, n, x, tdx);
-    blas::trsm(blas::kRowMajor, RightSide, LowerTriangle, NoTranspose, UnitTriangular, n, n, 1.0, a, tda, x, tdx);
+    for (Integer first = (n - 1) / kBlock * kBlock; first >= 0; first -= kBlock) {
+        const Integer width = std::min(kBlock, n - first), last = first + width;
+        if (last < n)
+            blas::gemm(blas::kRowMajor, NoTranspose, NoTranspose, n, width, n - last, -1.0, x + last, tdx,
+                       &A(last, first), tda, 1.0, x + first, tdx);
+        blas::trsm(blas::kRowMajor, RightSide, LowerTriangle, NoTranspose, UnitTriangular, n, width, 1.0,
+                   &A(first, first), tda, x + first, tdx);
+    }
     // The interchanges of rows of A, undone in the columns of X; each row stays in the cache meanwhile.
     for (Integer i = 0; i < n; ++i)
         for (Integer k = n - 1; k >= 0; --k) std::swap(X(i, k), X(i, pivot[k] - 1));

@@ -19,6 +19,8 @@ void dgbtrf_(const Integer *m, const Integer *n, const Integer *kl, const Intege
 void dgbtrs_(const char *trans, const Integer *n, const Integer *kl, const Integer *ku, const Integer *nrhs,
              const double *ab, const Integer *ldab, const Integer *ipiv, double *b, const Integer *ldb, Integer *info,
              size_t);
+void zpotrf_(const char *uplo, const Integer *n, Complex *a, const Integer *lda, Integer *info,
+             std::size_t uplo_length);
 void dpotri_(const char *uplo, const Integer *n, double *a, const Integer *lda, Integer *info, std::size_t uplo_length);
 void dtrtri_(const char *uplo, const char *diag, const Integer *n, double *a, const Integer *lda, Integer *info,
              std::size_t uplo_length, std::size_t diag_length);
@@ -53,6 +55,13 @@ inline Integer potrf(Integer uplo, Integer n, double *a, Integer lda)
     const char triangle = uplo_of(uplo);
     Integer info = 0;
     dpotrf_(&triangle, &n, a, &lda, &info, 1);
+    return info;
+}
+inline Integer potrf(Integer uplo, Integer n, Complex *a, Integer lda)
+{
+    const char triangle = uplo_of(uplo);
+    Integer info = 0;
+    zpotrf_(&triangle, &n, a, &lda, &info, 1);
     return info;
 }
 

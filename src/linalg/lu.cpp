@@ -21,11 +21,31 @@ namespace kor::linalg {
 namespace {
 
 // Columns of a panel, of which kStrip at a time are eliminated before the others follow.
-constexpr Integer kPanel = 16;
+template <Scalar T>
+constexpr Integer kPanel = std::is_same_v<T, double> ? 16 : 8;
+constexpr Integer kWidestPanel = kPanel<double>;
 constexpr Integer kStrip = 4;
 
-double quotient_of(double a, double b) { return a / b; }
-Complex quotient_of(Complex a, Complex b) { return quotient(a, b); }
+// a / b for many a: complex numbers of no extreme size are multiplied by the reciprocal, formed once.
+struct RealDivisor {
+    double b;
+    explicit RealDivisor(double divisor) : b{divisor} {}
+    double operator()(double a) const { return a / b; }
+};
+struct ComplexDivisor {
+    Complex b, reciprocal;
+    bool plain;
+    explicit ComplexDivisor(Complex divisor) : b{divisor}
+    {
+        constexpr double kLeast = 0x1p-400, kGreatest = 0x1p400;
+        const double square = b.re * b.re + b.im * b.im;
+        plain = square > kLeast && square < kGreatest;
+        reciprocal = {b.re / square, -b.im / square};
+    }
+    Complex operator()(Complex a) const { return plain ? a * reciprocal : quotient(a, b); }
+};
+template <Scalar T>
+using Divisor = std::conditional_t<std::is_same_v<T, double>, RealDivisor, ComplexDivisor>;
 
 // What pivots are compared by: the scaled modulus, or its square if complex, which needs no root. `limit` is the bound in
 // the same measure.
@@ -60,12 +80,12 @@ template <Scalar T>
             std::swap_ranges(pivot_row, pivot_row + n, a + chosen * tda);
             scale[chosen] = scale[k];
         }
-        const T divisor = pivot_row[k];
+        const Divisor<T> quotient_of{pivot_row[k]};
         best = -1.0;
         chosen = k + 1;
         for (Integer i = k + 1; i < n; ++i) {
             T *const __restrict row = a + i * tda;
-            const T factor = quotient_of(row[k], divisor);
+            const T factor = quotient_of(row[k]);
             row[k] = factor;
             for (Integer j = k + 1; j < n; ++j) row[j] = row[j] - factor * pivot_row[j];
             consider(i, scaled_size(row[k + 1], scale[i]));
@@ -106,8 +126,8 @@ template <Scalar T>
                 for (Integer j = 0; j < w; ++j) std::swap(P(k, j), P(chosen, j));
                 scale[chosen] = scale[k];
             }
-            const T divisor = column[k];
-            for (Integer i = k + 1; i < m; ++i) column[i] = quotient_of(column[i], divisor);
+            const Divisor<T> quotient_of{column[k]};
+            for (Integer i = k + 1; i < m; ++i) column[i] = quotient_of(column[i]);
             for (Integer j = k + 1; j < end; ++j) {
                 T *const __restrict other = P.column(j);
                 const T factor = other[k];
@@ -156,8 +176,8 @@ struct Recursion {
     Integer factor(Integer first, Integer last)
     {
         const Integer width = last - first;
-        if (width <= kPanel) return panel(first, width);
-        const Integer middle = first + (width / 2 + kPanel - 1) / kPanel * kPanel;
+        if (width <= kPanel<T>) return panel(first, width);
+        const Integer middle = first + (width / 2 + kPanel<T> - 1) / kPanel<T> * kPanel<T>;
         if (const Integer stage = factor(first, middle)) return stage;
         interchange(first, middle, middle, last);
         blas::trsm(blas::kRowMajor, LeftSide, LowerTriangle, NoTranspose, UnitTriangular, middle - first, last - middle,
@@ -229,7 +249,7 @@ void solve_small(Integer n, RowMajor<const T> A, T *b, std::ptrdiff_t step)
     for (Integer k = 0; k < n; ++k)
         for (Integer i = k + 1; i < n; ++i) x[i] -= A(i, k) * x[k];
     for (Integer k = n - 1; k >= 0; --k) {
-        x[k] = quotient_of(x[k], A(k, k));
+        x[k] = Divisor<T>{A(k, k)}(x[k]);
         for (Integer i = 0; i < k; ++i) x[i] -= A(i, k) * x[k];
     }
     for (Integer i = 0; i < n; ++i) b[i * step] = x[i];
@@ -250,9 +270,9 @@ template <Scalar T>
         for (Integer k = 0; k < i; ++k) take_off(i, k);
     for (Integer i = n - 1; i >= 0; --i) {
         for (Integer k = i + 1; k < n; ++k) take_off(i, k);
-        const T divisor = a[i * tda + i];
+        const Divisor<T> quotient_of{a[i * tda + i]};
         T *const row = b + i * tdb;
-        for (Integer j = 0; j < nrhs; ++j) row[j] = quotient_of(row[j], divisor);
+        for (Integer j = 0; j < nrhs; ++j) row[j] = quotient_of(row[j]);
     }
 }
 KOR_CLONES void solve_many(Integer n, Integer nrhs, const double *a, std::ptrdiff_t tda, double *b, std::ptrdiff_t tdb)
@@ -287,7 +307,7 @@ void solve(Integer n, Integer nrhs, const T *a, Integer tda, const Integer *pivo
 
 } // namespace
 
-Integer lu_work(Integer n) { return n <= kSmallSystem ? 0 : n * kPanel; }
+Integer lu_work(Integer n) { return n <= kSmallSystem ? 0 : n * kWidestPanel; }
 
 void row_scales(Integer n, const double *a, Integer tda, double *scale) { scales_of_rows(n, a, tda, scale); }
 void row_scales(Integer n, const Complex *a, Integer tda, double *scale) { scales_of_rows(n, a, tda, scale); }
