@@ -338,7 +338,7 @@ def guide_page(name, text, known):
     """A guide with an anchor, and with the routines that it names as links."""
     if "{#" not in text.split("\n", 1)[0]:
         text = re.sub(r"\A(# .*)$", rf"\1 {{#guide_{name}}}", text, count=1, flags=re.M)
-    return re.sub(r"`([a-z]\d\d[a-z]{2}c)(?:\(\))?`", lambda m: f"\\ref {m.group(1)}" if m.group(1) in known else m.group(0), text)
+    return re.sub(r"`([a-z]\d\d[a-z]{2}c)(?:\(\))?`", lambda m: f"\\link {m.group(1)} {m.group(1)}\\endlink" if m.group(1) in known else m.group(0), text)
 
 
 # ---- All of it

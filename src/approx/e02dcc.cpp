@@ -211,7 +211,8 @@ class GridSmoothing {
             state_.last = 1;
         }
         // As many knots as points allow need not fit the points.
-        if (grown.interpolating() && first_without_point(grown.knots(), grown.m, grown.x) >= 0) grown.start_interpolating();
+        if (grown.interpolating() && first_without_point(grown.knots(), grown.m, grown.x) >= 0)
+            grown.start_interpolating();
     }
 
     // The spline on these knots, without penalty for p = 0, and its residuals.

@@ -88,8 +88,8 @@ class SurfaceSmoothing {
         : m_{m}, x_data_{x}, y_data_{y}, f_{f}, weights_{weights}, s_{s}, accuracy_{kSmoothingTolerance * s}
     {
         const kor::Count size{m};
-        memory_ = x_.allocate(m, x, x_limit) && y_.allocate(m, y, y_limit) && next_.allocate(size) && x_span_.allocate(size) &&
-                  y_span_.allocate(size) && basis_.allocate(size * kor::Count{2 * kOrder});
+        memory_ = x_.allocate(m, x, x_limit) && y_.allocate(m, y, y_limit) && next_.allocate(size) &&
+                  x_span_.allocate(size) && y_span_.allocate(size) && basis_.allocate(size * kor::Count{2 * kOrder});
     }
 
     explicit operator bool() const { return memory_; } // false as well when memory was lacking in a run
@@ -146,7 +146,7 @@ class SurfaceSmoothing {
 
     bool make_room()
     {
-        swapped_ = y_.n > x_.n;
+        if (inner().n > outer().n) swapped_ = !swapped_;
         band_ = kDegree * inner().basis_size() + kOrder;
         smooth_band_ = std::max(band_, kOrder * inner().basis_size() + 1);
         const kor::Count n{coefficient_count()};
@@ -184,12 +184,14 @@ class SurfaceSmoothing {
         const std::ptrdiff_t columns = inner().basis_size();
         for (Integer panel = 0; panel < x_.intervals() * y_.intervals(); ++panel) {
             for (Integer r = head_[panel]; r != kEnd; r = next_[r]) {
-                const double *const bx = basis_.data() + 2 * kOrder * static_cast<std::ptrdiff_t>(r), *const by = bx + kOrder;
+                const double *const bx = basis_.data() + 2 * kOrder * static_cast<std::ptrdiff_t>(r), *const by =
+                                                                                                          bx + kOrder;
                 const double *const of_outer = swapped_ ? by : bx, *const of_inner = swapped_ ? bx : by;
                 std::fill_n(row_.data(), band_, 0.0);
                 for (int i = 0; i < kOrder; ++i)
                     for (int j = 0; j < kOrder; ++j) row_[i * columns + j] = weights_[r] * of_outer[i] * of_inner[j];
-                const auto first = static_cast<Integer>(panel / inner().intervals() * columns + panel % inner().intervals());
+                const auto first =
+                    static_cast<Integer>(panel / inner().intervals() * columns + panel % inner().intervals());
                 const double left = add_wide_row(triangle, first, row_.data(), band_, weights_[r] * f_[r]);
                 fp_ += left * left;
             }
@@ -253,18 +255,20 @@ class SurfaceSmoothing {
         triangle.clear();
         for (Integer i = 0; i < triangle.n; ++i) {
             const Integer i_outer = static_cast<Integer>(i / columns), i_inner = static_cast<Integer>(i % columns);
-            const Integer length = std::min(band_, triangle.n - i);
-            std::copy_n(r_.data() + static_cast<std::ptrdiff_t>(i) * band_, length, row_.data());
+            // Full length: rotations fill what is empty at first.
+            const Integer length = std::min(smooth_band_, triangle.n - i);
+            std::fill_n(row_.data(), length, 0.0);
+            std::copy_n(r_.data() + static_cast<std::ptrdiff_t>(i) * band_, std::min(band_, length), row_.data());
             add_wide_row(triangle, i, row_.data(), length, z_[i]);
             if (i_inner < inner().knots().interior()) {
+                std::fill_n(row_.data(), length, 0.0);
                 for (int k = 0; k <= kOrder; ++k) row_[k] = inner().jumps[i_inner * (kOrder + 1) + k] / p;
-                add_wide_row(triangle, i, row_.data(), kOrder + 1, 0.0);
+                add_wide_row(triangle, i, row_.data(), length, 0.0);
             }
             if (i_outer < outer().knots().interior()) {
-                const auto span = static_cast<Integer>(kOrder * columns + 1);
-                std::fill_n(row_.data(), span, 0.0);
+                std::fill_n(row_.data(), length, 0.0);
                 for (int k = 0; k <= kOrder; ++k) row_[k * columns] = outer().jumps[i_outer * (kOrder + 1) + k] / p;
-                add_wide_row(triangle, i, row_.data(), span, 0.0);
+                add_wide_row(triangle, i, row_.data(), length, 0.0);
             }
         }
         if (!solve_ranked(triangle, kor::kPrecision, c_.data(), solution_)) return false;
@@ -349,17 +353,16 @@ bool data_right(const kor::Report &report, Integer m, const double x[], const do
 
 } // namespace
 
-void e02ddc(Integer start, Integer m, const double x[], const double y[], const double f[], const double weights[], double s,
-            Integer nxest, Integer nyest, double *fp, Integer *rank, KorSplineWarm *warmstartinf, KorSpline2D *spline,
-            KorError *fail)
+void e02ddc(Integer start, Integer m, const double x[], const double y[], const double f[], const double weights[],
+            double s, Integer nxest, Integer nyest, double *fp, Integer *rank, KorSplineWarm *warmstartinf,
+            KorSpline2D *spline, KorError *fail)
 {
     const kor::Report report{"e02ddc", fail};
     if (start != Kor_Cold && start != Kor_Warm) return report.error<NE_BAD_PARAM>("start");
     if (m < kFewestPoints) return report.error<NE_INT_ARG_LT>("m", "16", "m", m);
     if (!data_right(report, m, x, y, f, weights)) return;
     if (!(s > 0.0)) return report.error<NE_REAL_ARG_LE>("s", "0.0", "s", s);
-    if (nxest < kEndKnots || nyest < kEndKnots)
-        return report.error<NE_NUM_KNOTS_2D_LT>("nxest", "nyest", nxest, nyest);
+    if (nxest < kEndKnots || nyest < kEndKnots) return report.error<NE_NUM_KNOTS_2D_LT>("nxest", "nyest", nxest, nyest);
 
     SurfaceSmoothing fit{m, x, y, f, weights, s, nxest, nyest};
     if (!fit) return report.error<NE_ALLOC_FAIL>();

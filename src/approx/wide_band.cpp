@@ -38,8 +38,8 @@ class DeficientTriangle {
             remove(i);
         }
         const Count columns{free_count_};
-        memory_ = v_.allocate(columns * Count{n_}) && small_r_.allocate(columns * columns) && small_z_.allocate(columns) &&
-                  small_row_.allocate(columns) && small_c_.allocate(columns);
+        memory_ = v_.allocate(columns * Count{n_}) && small_r_.allocate(columns * columns) &&
+                  small_z_.allocate(columns) && small_row_.allocate(columns) && small_c_.allocate(columns);
     }
 
     explicit operator bool() const { return memory_; }

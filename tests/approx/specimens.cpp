@@ -234,3 +234,25 @@ KOR_SPECIMEN(e02dcc)
     release(spline);
     release(state);
 }
+
+KOR_SPECIMEN(e02ddc)
+{
+    // Two clouds with nothing between them: some coefficients stay free.
+    constexpr Integer m = 60;
+    double x[m], y[m], f[m], w[m];
+    for (int r = 0; r < m; ++r) {
+        x[r] = (r % 2 == 0 ? 0.0 : 8.0) + (r * 37 % 61) / 61.0;
+        y[r] = (r * 23 % 59) / 59.0;
+        f[r] = x[r] * y[r] + (r * 7 % 11);
+        w[r] = 1.0;
+    }
+    KorSpline2D spline{};
+    KorSplineWarm state{};
+    double fp = 99.0;
+    Integer rank = -1;
+    call([&](KorError *fail) { e02ddc(Kor_Cold, m, x, y, f, w, 400.0, 14, 14, &fp, &rank, &state, &spline, fail); });
+    outputs(fp, rank, spline.nx, spline.ny);
+    if (spline.c != nullptr) outputs(spline.c, (spline.nx - 4) * (spline.ny - 4));
+    release(spline);
+    release(state);
+}
