@@ -23,7 +23,7 @@ constexpr PairFigures kFigures[] = {figures<Pair23>(true), figures<Pair45>(true)
 
 // sum of row[j] k_j over the terms that are not zero. The row is known to the compiler, which leaves nothing else of it.
 template <class Row, std::size_t... j>
-double combination(const double *k, std::size_t n, std::index_sequence<j...>)
+[[gnu::always_inline]] inline double combination(const double *k, std::size_t n, std::index_sequence<j...>)
 {
     double sum = 0.0;
     const auto term = [&]<std::size_t column>() {
@@ -33,12 +33,24 @@ double combination(const double *k, std::size_t n, std::index_sequence<j...>)
     return sum;
 }
 
+// A vector load of what has just been stored element by element waits until the stores have left the pipeline, at every
+// stage: systems of a few equations are faster without vectors. The compiler does not vectorise across this.
+constexpr std::size_t kFewEquations = 8;
+inline void no_vectors() { __asm__ volatile("" ::: "memory"); }
+
 // out = y + h sum of row[j] k_j.
 template <class Row, std::size_t count>
 void advance(const double *__restrict y, const double *__restrict k, std::size_t n, double h, double *__restrict out)
 {
-    for (std::size_t i = 0; i < n; ++i)
-        out[i] = y[i] + h * combination<Row>(k + i, n, std::make_index_sequence<count>{});
+    constexpr std::make_index_sequence<count> columns;
+    if (n < kFewEquations) {
+        for (std::size_t i = 0; i < n; ++i) {
+            out[i] = y[i] + h * combination<Row>(k + i, n, columns);
+            no_vectors();
+        }
+        return;
+    }
+    for (std::size_t i = 0; i < n; ++i) out[i] = y[i] + h * combination<Row>(k + i, n, columns);
 }
 
 template <class Pair, std::size_t stage>
