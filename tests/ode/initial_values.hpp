@@ -53,6 +53,18 @@ inline InitialValues oscillator(double frequency = 1.0)
             }};
 }
 
+// The same problem so many times over, side by side: all copies go the same way, bit by bit.
+inline InitialValues copies(const InitialValues &one, int count)
+{
+    InitialValues many = one;
+    const std::size_t n = one.y0.size();
+    for (int i = 1; i < count; ++i) many.y0.insert(many.y0.end(), one.y0.begin(), one.y0.end());
+    many.f = [=, f = one.f](double t, const double *y, double *yp) {
+        for (int i = 0; i < count; ++i) f(t, y + i * n, yp + i * n);
+    };
+    return many;
+}
+
 // y' = y/4 (1 - y/20), which bends from growth to rest.
 inline InitialValues logistic()
 {

@@ -538,6 +538,14 @@ TEST(AdamsEvents, StopEachStepWhereAsked)
     EXPECT_NEAR(returns, run.opt.steps_taken + events, 1.0);
 }
 
+TEST(Adams, ManyEquationsGoTheWayOfFew)
+{
+    Journey many{copies(kepler(0.5), 5), {}};
+    ASSERT_EQ(many.go(2.3), NE_NOERROR);
+    EXPECT_LT(many.error(), 1e-6);
+    for (int i = 4; i < 20; ++i) EXPECT_EQ(many.y[i], many.y[i % 4]);
+}
+
 TEST(Adams, InterleavedProblemsDoNotMeet)
 {
     const EventFunction g = [](double, const double *y, const double *, Integer) { return y[1]; };

@@ -540,6 +540,20 @@ TEST(RungeKutta, InterleavedProblemsDoNotMeet)
     }
 }
 
+TEST(RungeKutta, ManyEquationsGoTheWayOfFew)
+{
+    for (const Integer method : kMethods) {
+        Journey few{kepler(0.5), 3.0, 1e-8, method}, many{copies(kepler(0.5), 5), 3.0, 1e-8, method};
+        ASSERT_EQ(few.range_to(2.3), NE_NOERROR);
+        ASSERT_EQ(many.range_to(2.3), NE_NOERROR);
+        for (int i = 0; i < 20; ++i) {
+            EXPECT_EQ(many.y[i], few.y[i % 4]);
+            EXPECT_EQ(many.yp[i], few.yp[i % 4]);
+        }
+        EXPECT_EQ(many.problem.calls, few.problem.calls);
+    }
+}
+
 TEST(RungeKutta, FirstStepIsAsAskedOrFound)
 {
     for (const double hstart : {0.0, 1e-3, -1e-3, 1e3, 1e-300, kNaN}) {
