@@ -14,6 +14,7 @@ constexpr int kMeshes = 60;
 constexpr Integer kFullMeshes = 12;     // meshes with as many points as are allowed
 constexpr Integer kRoughFullMeshes = 3; // the same while the error estimate is not to be trusted
 constexpr double kSafety = 0.2;         // of the tolerance: what a new mesh aims at
+constexpr Integer kMostHalved = 500;    // intervals: a Newton iteration that fails on so many fails on more
 constexpr Integer kMostParts = 8;       // of an interval, in one go
 constexpr Integer kMostRoughParts = 4;  // while the error estimate is not to be trusted
 
@@ -66,7 +67,7 @@ void BoundarySolver::subdivide(const Integer *parts)
 
 bool BoundarySolver::halve()
 {
-    if (2 * std::ptrdiff_t{intervals_} >= mnp_) return false;
+    if (intervals_ >= kMostHalved || 2 * std::ptrdiff_t{intervals_} >= mnp_) return false;
     std::fill_n(parts_.data(), intervals_, 2);
     smooth_ = false;
     subdivide(parts_.data());
