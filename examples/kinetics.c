@@ -9,6 +9,8 @@
  * The output function asks for the times at which the amounts were measured (data/alpha_pinene.txt), and a function g stops the
  * integration when dipentene and alpha-pinene are even. The second reaction, Robertson's, is the classical stiff one: its fast
  * component settles within a millisecond, its slow one in ten thousand years.
+ *
+ *     kinetics [plot.svg]         with the name of a file: draws the first reaction there, measurements as circles
  */
 #include <kor/d02.h>
 
@@ -86,6 +88,56 @@ static void read_measurements(Measurements *m)
     fclose(file);
 }
 
+/* A curve of each species, as the integration goes along: called every few hundred minutes. */
+enum { CURVE_POINTS = 122, EVERY = 300 };
+
+typedef struct {
+    int count;
+    double time[CURVE_POINTS], y[CURVE_POINTS][SPECIES];
+} Curves;
+
+static void collect(Integer neq, double *t, const double y[], void *data)
+{
+    Curves *c = data;
+    Integer i;
+    if (c->count < CURVE_POINTS) {
+        c->time[c->count] = *t;
+        for (i = 0; i < neq; i++) c->y[c->count][i] = y[i];
+        c->count++;
+    }
+    *t += EVERY;
+}
+
+static void draw(const char *path, const Curves *c, const Measurements *m)
+{
+    static const char *const name[SPECIES] = {"alpha-pinene", "dipentene", "allo-ocimene", "pyronene", "dimer"};
+    static const char *const colour[SPECIES] = {"#2f4f4f", "#b5651d", "#4682b4", "#b22222", "#6a8e23"};
+    FILE *file = fopen(path, "w");
+    int i, k;
+    if (file == NULL) {
+        printf("%s cannot be written\n", path);
+        exit(EXIT_FAILURE);
+    }
+    fputs("<svg xmlns='http://www.w3.org/2000/svg' width='640' height='400' font-family='sans-serif' font-size='13'>\n",
+          file);
+    fputs("<path d='M60 20 V350 H620' fill='none' stroke='black'/>\n", file);
+    for (k = 0; k <= 4; k++) {
+        fprintf(file, "<text x='52' y='%d' text-anchor='end'>%d %%</text>\n", 354 - 80 * k, 25 * k);
+        fprintf(file, "<text x='%d' y='370' text-anchor='middle'>%d h</text>\n", 60 + 135 * k, 150 * k);
+    }
+    for (i = 0; i < SPECIES; i++) {
+        fprintf(file, "<g fill='none' stroke='%s'>\n<polyline points='", colour[i]);
+        for (k = 0; k < c->count; k++) fprintf(file, "%.1f,%.1f ", 60.0 + 0.015 * c->time[k], 350.0 - 3.2 * c->y[k][i]);
+        fputs("'/>\n", file);
+        for (k = 0; k < m->count; k++)
+            fprintf(file, "<circle cx='%.1f' cy='%.1f' r='3'/>\n", 60.0 + 0.015 * m->time[k],
+                    350.0 - 3.2 * m->measured[k][i]);
+        fprintf(file, "</g>\n<text x='500' y='%d' fill='%s'>%s</text>\n", 36 + 18 * i, colour[i], name[i]);
+    }
+    fputs("</svg>\n", file);
+    fclose(file);
+}
+
 static void check(const KorError *fail)
 {
     if (fail->code == NE_NOERROR) return;
@@ -93,7 +145,7 @@ static void check(const KorError *fail)
     exit(EXIT_FAILURE);
 }
 
-int main(void)
+int main(int argc, char **argv)
 {
     Measurements m = {0};
     KorError fail = {0};
@@ -105,6 +157,13 @@ int main(void)
     puts(" minutes   alpha-pinene      dipentene   allo-ocimene       pyronene          dimer");
     d02ejc(SPECIES, pinene, NULL, &t, y, m.time[m.count - 1], 1e-8, Kor_Mixed, compare, NULL, &m, &fail);
     check(&fail);
+    if (argc > 1) {
+        static Curves curves;
+        double again = 0.0, start[SPECIES] = {100.0};
+        d02ejc(SPECIES, pinene, NULL, &again, start, 36300.0, 1e-8, Kor_Mixed, collect, NULL, &curves, &fail);
+        check(&fail);
+        draw(argv[1], &curves, &m);
+    }
     printf("root mean square of the differences: %.2f\n", sqrt(m.squares / (m.count * SPECIES)));
 
     t = 0.0;
