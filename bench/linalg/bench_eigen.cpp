@@ -34,6 +34,9 @@ void zheev_(const char *, const char *, const int *, Complex *, const int *, dou
             int *, std::size_t, std::size_t);
 void zgesdd_(const char *, const int *, const int *, Complex *, const int *, double *, Complex *, const int *,
              Complex *, const int *, Complex *, const int *, double *, int *, int *, std::size_t);
+void dggev_(const char *, const char *, const int *, double *, const int *, double *, const int *, double *, double *,
+            double *, double *, const int *, double *, const int *, double *, const int *, int *, std::size_t,
+            std::size_t);
 void dgeev_(const char *, const char *, const int *, double *, const int *, double *, double *, double *, const int *,
             double *, const int *, double *, const int *, int *, std::size_t, std::size_t);
 }
@@ -353,6 +356,48 @@ void add_definite(int n)
 #endif
 }
 
+void add_pair(int n)
+{
+    auto *x = new Arrays(n);
+    auto *b = new std::vector<double>(n * n);
+    const std::vector<double> a = random_matrix(n, false), b0 = random_matrix(n, true);
+    const int lwork = static_cast<int>(x->work.size());
+    const std::string name = "general pair, n = " + std::to_string(n);
+    add(name + "/KOR", [=] {
+        KorError fail{};
+        x->a = a;
+        *b = b0;
+        f02bjc(n, x->a.data(), n, b->data(), n, 0.0, x->w.data(), x->s.data(), 1, x->q.data(), n, x->iter.data(),
+               &fail);
+    });
+    add(name + "/LAPACK QR", [=] {
+        int info;
+        x->a = a;
+        *b = b0;
+        dggev_("N", "V", &n, x->a.data(), &n, b->data(), &n, x->s.data(), x->t.data(), x->s.data(), x->p.data(), &n,
+               x->q.data(), &n, x->work.data(), &lwork, &info, 1, 1);
+    });
+#ifdef KOR_HAVE_EIGEN
+    const Eigen::MatrixXd A = Eigen::Map<const Eigen::MatrixXd>(a.data(), n, n),
+                          B = Eigen::Map<const Eigen::MatrixXd>(b0.data(), n, n);
+    auto *const solver = new Eigen::GeneralizedEigenSolver<Eigen::MatrixXd>(n);
+    add(name + "/Eigen", [=] { keep(solver->compute(A, B)); });
+#endif
+#ifdef KOR_HAVE_GSL
+    if (n > kGreatestForGsl) return;
+    auto *const room = gsl_eigen_genv_alloc(n);
+    auto *const alpha = gsl_vector_complex_alloc(n);
+    auto *const v = gsl_matrix_complex_alloc(n, n);
+    add(name + "/GSL", [=] {
+        x->a = a;
+        *b = b0;
+        auto A = gsl_matrix_view_array(x->a.data(), n, n), B = gsl_matrix_view_array(b->data(), n, n);
+        auto beta = gsl_vector_view_array(x->s.data(), n);
+        gsl_eigen_genv(&A.matrix, &B.matrix, alpha, &beta.vector, v, room);
+    });
+#endif
+}
+
 const bool registered = [] {
     for (const int n : {3, 4, 6, 10, 16, 24, 32, 48, 64, 100, 300}) {
         add_symmetric(n);
@@ -360,6 +405,7 @@ const bool registered = [] {
         add_general(n);
         add_complex(n);
         add_definite(n);
+        if (n <= kGreatestForGsl) add_pair(n);
     }
     return true;
 }();

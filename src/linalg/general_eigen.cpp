@@ -146,15 +146,16 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
     const double norm_a = matrix_norm(FrobeniusNorm, General, false, n, n, a, tda);
     const double norm_b = matrix_norm(FrobeniusNorm, General, false, n, n, b, tdb);
     const char job = v != nullptr ? 'V' : 'N';
-    Workspace<double> room(Count{n} * 2 + (v != nullptr ? Count{n} * n : Count{1}));
-    if (!room) return EigenOutcome::no_memory;
-    double *const re = room.data(), *const im = re + n, *const left = im + n;
+    // Small problems have no use for the blocks of a greater work space, and asking for its size takes them long.
+    constexpr Integer kWorthBlocks = 64;
     double best, unused;
-    lapack::ggev(job, 'N', n, a, tda, b, tdb, re, im, beta, left, n, &unused, n, &best, -1);
-    Workspace<double> work(Count{static_cast<Integer>(best)});
-    if (!work) return EigenOutcome::no_memory;
-    if (lapack::ggev(job, 'N', n, a, tda, b, tdb, re, im, beta, left, n, &unused, n, work.data(),
-                     static_cast<Integer>(best)) != 0)
+    if (n >= kWorthBlocks)
+        lapack::ggev(job, 'N', n, a, tda, b, tdb, &unused, &unused, &unused, &unused, n, &unused, n, &best, -1);
+    const Integer lwork = n >= kWorthBlocks ? static_cast<Integer>(best) : 8 * n;
+    Workspace<double> room(Count{n} * 2 + (v != nullptr ? Count{n} * n : Count{1}) + Count{lwork});
+    if (!room) return EigenOutcome::no_memory;
+    double *const work = room.data(), *const re = work + lwork, *const im = re + n, *const left = im + n;
+    if (lapack::ggev(job, 'N', n, a, tda, b, tdb, re, im, beta, left, n, &unused, n, work, lwork) != 0)
         return EigenOutcome::no_convergence;
 
     const double least_alfa = tol > kPrecision ? tol * norm_a : 0.0, least_beta = tol > kPrecision ? tol * norm_b : 0.0;
