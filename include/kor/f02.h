@@ -1006,7 +1006,7 @@ void f02wbc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double
 /// \param[in]     m      number of rows of A, at least n
 /// \param[in]     n      number of columns, at least 1
 /// \param[in,out] a      m rows of `tda`: A. On return R in the upper triangle, and below the diagonal the vectors of the
-///                       reflections, as f06frc() chooses them
+///                       reflections, as f01qcc() leaves them, for f01qdc() and f01qec()
 /// \param[in]     tda    length of a row of a, at least n
 /// \param[in]     wantb  whether b is to be transformed
 /// \param[in,out] b      if so, m elements: becomes Q'b, and if `svd` the first n elements of that are multiplied by U'. Else
@@ -1035,7 +1035,7 @@ void f02wbc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double
 /// \par Accuracy
 /// As f02wec().
 /// \par Method
-/// Householder reflections; f02wuc() for R.
+/// Householder reflections as f01qcc(); singular values of R as f02wuc().
 /// \par Thread safety
 /// Safe.
 /// \par Example

@@ -9,29 +9,13 @@
 #include "linalg/blas.hpp"
 #include "linalg/copies.hpp"
 #include "linalg/householder.hpp"
-#include "linalg/lapack.hpp"
 #include "linalg/norm.hpp"
 #include "linalg/singular_values.hpp"
+#include "linalg/triangle_condition.hpp"
 
 namespace kor::linalg {
 
 namespace {
-
-double norm_of_triangle(Integer n, const double *r)
-{
-    ScaledSquares squares;
-    for (std::ptrdiff_t i = 0; i < n; ++i) add_squares(squares, static_cast<Integer>(n - i), r + i * n + i, 1);
-    return length_of(squares);
-}
-
-// The condition number |R| |inverse(R)| in the Frobenius norm, which is not less than that in the Euclidean norm; r becomes
-// the inverse. Infinite, or NaN, if R is singular or not finite.
-double condition(Integer n, double *r)
-{
-    const double norm = norm_of_triangle(n, r);
-    if (lapack::trtri(LowerTriangle, NotUnitTriangular, n, r, n) != 0) return INFINITY;
-    return norm * norm_of_triangle(n, r);
-}
 
 // tol, if it is one: not below the precision, and below 1.
 double effective(double tol) { return tol >= kPrecision && tol < 1.0 ? tol : kPrecision; }
@@ -61,7 +45,7 @@ LeastSquaresOutcome least_squares(Integer m, Integer n, double *a, Integer tda, 
         double *const zeta = memory.data(), *const triangle = zeta + n;
         qr_factor(m, n, A, n, zeta, work.data());
         copy_rows(n, n, A, n, triangle, n);
-        if (condition(n, triangle) * tol <= 1.0) {
+        if (condition_of_triangle(n, triangle) * tol <= 1.0) {
             qr_apply(true, m, n, A, n, zeta, 1, c, 1, work.data());
             result = {false, residual_over_freedom(euclidean_norm(m - n, c + n, 1), m, n), n};
             blas::trsv(blas::kRowMajor, UpperTriangle, NoTranspose, NotUnitTriangular, n, A, n, c, 1);
