@@ -21,21 +21,6 @@ T &keep_alive(Args &&...args)
     return *all.back();
 }
 
-// The solver's entry: solves once outside the clock for its figures.
-template <class Solve>
-void add_solver(const std::string &name, const Problem &problem, Solve solve)
-{
-    std::vector<double> x;
-    const double count = static_cast<double>(solve(x));
-    add(name,
-        [solve] {
-            std::vector<double> found;
-            solve(found);
-            keep(found);
-        },
-        {.error = problem.relative_residual(x), .calls = count});
-}
-
 void add_symmetric(const Problem &problem)
 {
     auto &kor = keep_alive<KorMatrix>(problem, true);
@@ -115,7 +100,6 @@ const bool registered = [] {
     add_symmetric(keep_alive<Problem>(grid(100, 3, 0.0)));
     for (const double wind : {0.1, 1.0, 2.0}) add_general(keep_alive<Problem>(grid(200, 2, wind)), wind < 1.0);
     add_general(keep_alive<Problem>(grid(60, 3, 0.5)), true);
-    add_general(keep_alive<Problem>(grid(100, 3, 1.0)), true);
     return true;
 }();
 

@@ -53,21 +53,7 @@ T &keep_alive(Args &&...args)
     return *all.back();
 }
 
-// Factors anew and solves, as somebody with one system does.
-template <class Solve>
-void add_solver(const std::string &name, const Problem &problem, Solve solve)
-{
-    std::vector<double> x;
-    const double count = static_cast<double>(solve(x));
-    add(name,
-        [solve] {
-            std::vector<double> found;
-            solve(found);
-            keep(found);
-        },
-        {.error = problem.relative_residual(x), .calls = count});
-}
-
+// Factors anew each time, as somebody with one system does.
 void add_matrix(const std::string &name)
 {
     bool symmetric;

@@ -3,12 +3,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include <kor/f11.h>
 #include <kor/x04.h>
+
+#include "support/ratio_table.hpp"
 
 #ifdef KOR_HAVE_EIGEN
 #include <Eigen/IterativeLinearSolvers>
@@ -257,5 +260,26 @@ struct PetscSystem {
     }
 };
 #endif
+
+// A solver's entry: solves once outside the clock for its figures. What is no solution has no place in the table.
+template <class Solve>
+void add_solver(const std::string &name, const Problem &problem, Solve solve)
+{
+    constexpr double kSolved = 1e3 * kReduction;
+    std::vector<double> x;
+    const double count = static_cast<double>(solve(x)), residual = problem.relative_residual(x);
+    if (!(residual <= kSolved)) {
+        std::ostringstream text;
+        text << name << ": no solution after " << count << " iterations, |b - Ax| / |b| = " << residual;
+        return note(text.str());
+    }
+    add(name,
+        [solve] {
+            std::vector<double> found;
+            solve(found);
+            keep(found);
+        },
+        {.error = residual, .calls = count});
+}
 
 } // namespace kor::bench
