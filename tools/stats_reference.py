@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Reference values of the laws of chapter g01, by mpmath at 60 digits and more: writes laws_data.inc,
-discrete_laws_data.inc, noncentral_laws_data.inc, bivariate_normal_data.inc and studentized_range_data.inc in tests/stats. With a library as argument it
-prints the largest errors of that library over a denser set of points instead."""
+"""Reference values of the laws of chapter g01, by mpmath at 30 digits and more: writes laws_data.inc, discrete_laws_data.inc,
+noncentral_laws_data.inc, bivariate_normal_data.inc and studentized_range_data.inc in tests/stats, and distributions_data.inc
+in bench/stats. With a library as argument it prints the largest errors of that library over other points instead."""
 import ctypes
 import itertools
 import os
@@ -158,11 +158,10 @@ def large_references(seed, count):
                 yield law, parameters[0], parameters[1], f, lower, upper
 
 
-def write():
-    path = os.path.join(ROOT, "tests", "stats", "laws_data.inc")
-    with open(path, "w", encoding="utf-8") as out:
+def write_laws(path, rows):
+    with open(os.path.join(ROOT, path), "w", encoding="utf-8") as out:
         out.write("// Written by tools/stats_reference.py: law, parameters, x, lower and upper tail (two-sided for Student).\n")
-        for law, p1, p2, x, lower, upper in itertools.chain(references(1, 40, 3.5), large_references(5, 60)):
+        for law, p1, p2, x, lower, upper in rows:
             out.write("{%s, %r, %r, %r, %s, %s},\n" % (law, p1, p2, x, mp.nstr(lower, 20), mp.nstr(upper, 20)))
 
 
@@ -410,7 +409,8 @@ if __name__ == "__main__":
     if sys.argv[1:]:
         survey(sys.argv[1])
     else:
-        write()
+        write_laws("tests/stats/laws_data.inc", itertools.chain(references(1, 40, 3.5), large_references(5, 60)))
+        write_laws("bench/stats/distributions_data.inc", itertools.chain(references(11, 150, 4), large_references(12, 150)))
         write_discrete()
         write_noncentral()
         write_bivariate()
