@@ -19,10 +19,11 @@ KOR_BEGIN_DECLS
 /// - NE_REAL_ARG_LE: `p` is not greater than 0.
 /// - NE_REAL_ARG_GE: `p` is not less than 1.
 /// \par Accuracy
-/// A few units in the last place, given `p`; a `p` next to 1 cannot be known well: use g01fac() with Kor_UpperTail
+/// Within 0.6 units in the last place, given `p`; a `p` next to 1 cannot be known well: use g01fac() with Kor_UpperTail
 /// there.
 /// \par Method
-/// A rational start and two steps of Halley's method on the tail itself.
+/// A rational approximation and a step of Halley's method on the tail itself. M. J. Wichura, Appl. Statist. 37 (1988)
+/// 477-484.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -75,9 +76,10 @@ double g01eac(Integer tail, double x, KorError *fail);
 /// - NE_REAL_ARG_LE: `p` is not greater than 0.
 /// - NE_REAL_ARG_GE: `p` is not less than 1.
 /// \par Accuracy
-/// A few units in the last place, near the median too, where x is small.
+/// Within 0.6 units in the last place, near the median too, where x is small.
 /// \par Method
-/// A rational start and two steps of Halley's method on the tail itself; a series near the median.
+/// A rational approximation and a step of Halley's method on the tail itself, or next to the median on the probability from
+/// there. M. J. Wichura, Appl. Statist. 37 (1988) 477-484.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -106,7 +108,8 @@ double g01fac(Integer tail, double p, KorError *fail);
 /// Each tail is computed as a tail, never as a difference from 1: small relative errors down to 1e-300. A NaN gives
 /// NaN.
 /// \par Method
-/// t^2/df are the odds of a beta variable with shapes 1/2 and df/2, for all `df`: see g01eec().
+/// t^2/df are the odds of a beta variable with shapes 1/2 and df/2, for all `df`: see g01eec(). From df = 30 on nearly always
+/// an expansion about the normal law, in powers of 1/(df - 1/2)^2.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -137,7 +140,7 @@ double g01ebc(Integer tail, double t, double df, KorError *fail);
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
-/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable t^2/df; closed forms in
+/// Halley's method for the logarithm of the smaller tail against the logarithm of the variable t^2/df; closed forms in
 /// the far tail and next to the median.
 /// \par Thread safety
 /// Safe.
@@ -196,8 +199,8 @@ double g01ecc(Integer tail, double x, double df, KorError *fail);
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
-/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, whose tails are log-
-/// concave: convergence is monotone.
+/// Halley's method for the logarithm of the smaller tail against the logarithm of the variable, whose tails are log-
+/// concave: the steps cannot go astray.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -260,7 +263,7 @@ double g01edc(Integer tail, double f, double df1, double df2, KorError *fail);
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
-/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, the odds df1 f / df2.
+/// Halley's method for the logarithm of the smaller tail against the logarithm of the variable, the odds df1 f / df2.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -298,7 +301,7 @@ double g01fdc(double p, double df1, double df2, KorError *fail);
 /// NaN.
 /// \par Method
 /// A power series of positive terms below the mean, a continued fraction near it, an expansion about the normal law where
-/// both shapes are large, and their factor x^a (1-x)^b / B(a, b) as a saddle point with a low part. A. R. DiDonato and
+/// both shapes are large and about the gamma law where one is large and the other at most 1, and their factor x^a (1-x)^b / B(a, b) as a saddle point with a low part. A. R. DiDonato and
 /// A. H. Morris, ACM Trans. Math. Softw. 18 (1992) 360-373.
 /// \par Thread safety
 /// Safe.
@@ -333,7 +336,7 @@ void g01eec(double x, double a, double b, double tol, double *p, double *q, doub
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
-/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable, the odds x / (1 - x).
+/// Halley's method for the logarithm of the smaller tail against the logarithm of the variable, the odds x / (1 - x).
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -397,8 +400,8 @@ double g01efc(Integer tail, double g, double a, double b, KorError *fail);
 /// \par Accuracy
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
-/// Newton's method for the logarithm of the smaller tail against the logarithm of the variable; log-concavity makes
-/// convergence monotone.
+/// Halley's method for the logarithm of the smaller tail against the logarithm of the variable; log-concavity keeps
+/// the steps from going astray.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -564,7 +567,7 @@ void g01blc(Integer n, Integer l, Integer m, Integer k, double *plek, double *pg
 /// g01ebc()
 /// \par Example
 /// \code{.c}
-/// double p = g01gbc(1.528, 20.0, 2.0, 5e-6, 50, &fail);   // p = 0.319801
+/// double p = g01gbc(1.528, 20.0, 2.0, 5e-6, 50, &fail);   // p = 0.31643969
 /// \endcode
 double g01gbc(double t, double df, double delta, double tol, Integer max_iter, KorError *fail);
 
@@ -905,7 +908,7 @@ void g01dac(Integer n, double pp[], double etol, double *errest, KorError *fail)
 /// \par Example
 /// \code{.c}
 /// double scores[4];
-/// g01dbc(4, scores, &fail);   // -1.02937537300396, -0.297011382297226, 0.297..., 1.029...
+/// g01dbc(4, scores, &fail);   // -1.02937537300396, -0.297011382274645, 0.297..., 1.029...
 /// \endcode
 void g01dbc(Integer n, double pp[], KorError *fail);
 
@@ -941,7 +944,7 @@ void g01dbc(Integer n, double pp[], KorError *fail);
 /// \code{.c}
 /// const double x[] = {148, 154, 158, 160, 161, 162, 166, 170, 182, 195, 236};   // weights of men, in pounds
 /// double a[11], w, pw;
-/// g01ddc(11, x, 1, a, &w, &pw, &fail);   // w = 0.788, pw = 0.0067
+/// g01ddc(11, x, 1, a, &w, &pw, &fail);   // w = 0.789, pw = 0.0067
 /// \endcode
 void g01ddc(Integer n, const double x[], Boolean calc_wts, double a[], double *w, double *pw, KorError *fail);
 
