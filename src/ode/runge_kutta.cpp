@@ -166,13 +166,14 @@ RungeKutta::Try RungeKutta::attempt()
 // The factor to the next step, before its bounds. Besides the error it looks at the trend of the error per unit step.
 double RungeKutta::next_factor(double root) const
 {
-    double tau = root;
-    if (!state_.first && root > 0.0 && state_.last_root > 0.0) {
+    if (root == 0.0) return kFirstGrow;
+    double factor = kSafety / root;
+    if (!state_.first && state_.last_root > 0.0) {
         // The errors per unit step, crosswise.
         const double now = root * std::fabs(state_.hold), before = state_.last_root * std::fabs(state_.h);
-        if (now < kTrendLimit * before && before < kTrendLimit * now) tau *= now / before;
+        if (now < kTrendLimit * before && before < kTrendLimit * now) factor = kSafety * before / (root * now);
     }
-    return kSafety < tau * kFirstGrow ? kSafety / tau : kFirstGrow;
+    return std::min(factor, kFirstGrow);
 }
 
 StepStatus RungeKutta::step()
@@ -193,6 +194,8 @@ StepStatus RungeKutta::step()
     if (stiffness_is_due(much_work) && looks_stiff()) return StepStatus::stiff;
     if (much_work) return StepStatus::much_work;
 
+    // Quotients that do not wait for the error are taken before it is known: it is what each step waits for.
+    const double per_tolerance = 1.0 / state_.tol;
     for (bool failed = false;;) {
         limit_step_to_end();
         if (!(std::fabs(state_.h) >= smallest_step(state_.tnow, state_.tnow + state_.h))) {
@@ -209,13 +212,13 @@ StepStatus RungeKutta::step()
             double factor = kShrink;
             if (!failed && !state_.first)
                 // In this order a NaN gives the bound.
-                factor = std::max(kShrink, kSafety / step_root(result.error / state_.tol, state_.expon));
+                factor = std::max(kShrink, kSafety / step_root(result.error * per_tolerance, state_.expon));
             state_.h *= factor;
             failed = true;
             continue;
         }
 
-        const double root = result.error > 0.0 ? step_root(result.error / state_.tol, state_.expon) : 0.0;
+        const double root = result.error > 0.0 ? step_root(result.error * per_tolerance, state_.expon) : 0.0;
         const double factor = next_factor(root);
         if (state_.phase1 && state_.may_grow && !state_.last && factor > kFirstWorthwhile) {
             state_.h *= factor;

@@ -94,11 +94,12 @@ double largest_error(std::size_t n, double h, const double *y, const double *y_n
     double largest = 0.0;
     bool finite = true;
     for (std::size_t i = 0; i < n; ++i) {
-        const double e = h * combination<ErrorRow<Pair>>(k + i, n, std::make_index_sequence<Pair::kStages>{});
         const double size = 0.5 * std::fabs(y[i]) + 0.5 * std::fabs(y_new[i]);
+        const double reciprocal = 1.0 / std::max(thres[i], size);
+        const double e = h * combination<ErrorRow<Pair>>(k + i, n, std::make_index_sequence<Pair::kStages>{});
         // An infinite weight would call any error small.
         finite &= size <= kLargest && std::fabs(e) <= kLargest;
-        largest = std::max(largest, std::fabs(e) / std::max(thres[i], size));
+        largest = std::max(largest, std::fabs(e) * reciprocal);
     }
     return finite ? largest : std::numeric_limits<double>::quiet_NaN();
 }
