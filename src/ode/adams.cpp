@@ -40,9 +40,10 @@ constexpr auto kReciprocals = [] {
     return r;
 }();
 
-constexpr double kAim = 0.5;        // of the error allowed: what a new step is chosen for
-constexpr double kFirstStep = 0.25; // caution about the first step
-constexpr double kShrinkMost = 0.5; // the factor of a step that has to shrink lies between these
+constexpr double kAim = 0.5;         // of the error allowed: what a new step is chosen for
+constexpr double kFirstShare = 1e-3; // of the range: the longest first step
+constexpr double kFirstStep = 0.25;  // caution about the first step
+constexpr double kShrinkMost = 0.5;  // the factor of a step that has to shrink lies between these
 constexpr double kShrinkLeast = 0.9;
 constexpr double kFailureFactor = 0.5;
 constexpr double kHopelessFactor = 0.1; // when the error is not even finite
@@ -127,7 +128,8 @@ void Adams::choose_first_step()
     double slope = 0.0;
     for (std::size_t i = 0; i < n_; ++i) slope += square(phi(1)[i] * reciprocal_weight_[i]);
     slope = std::sqrt(slope);
-    double size = std::fabs(h_);
+    // Nor a large part of the range: a slope that vanishes at both its ends would tell nothing of what lies between.
+    double size = kFirstShare * std::fabs(h_);
     if (1.0 < 16.0 * slope * size * size) size = kFirstStep / std::sqrt(slope);
     h_ = direction_ * std::max(size, smallest_step());
 }

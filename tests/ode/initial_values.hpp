@@ -94,6 +94,15 @@ inline InitialValues kepler(double e)
             }};
 }
 
+// y' = sin(t)^2, which vanishes at the start and wherever a long first step might end.
+inline InitialValues hidden_slope()
+{
+    return {[](double t, const double *, double *yp) { yp[0] = std::sin(t) * std::sin(t); },
+            0.0,
+            {0.0},
+            [](double t) { return Vector{0.5 * t - 0.25 * std::sin(2.0 * t)}; }};
+}
+
 // y' = -k (y - cos t): stiff when k is large.
 inline InitialValues relaxation(double k)
 {

@@ -89,6 +89,15 @@ TEST(Adams, ErrorFollowsTheTolerance)
     }
 }
 
+TEST(Adams, FirstStepLooksAround)
+{
+    for (const double tend : {kPi, 2.0 * kPi, 10.0 * kPi}) {
+        Journey run{hidden_slope(), {.tolerance = 1e-6}};
+        ASSERT_EQ(run.go(tend), NE_NOERROR);
+        EXPECT_LT(run.error(), 1e-4);
+    }
+}
+
 // An order that does not rise, or coefficients that are a little wrong, cost work before they cost accuracy.
 TEST(Adams, WorkStaysWithinBounds)
 {

@@ -571,6 +571,13 @@ TEST(RungeKutta, ManyEquationsGoTheWayOfFew)
 
 TEST(RungeKutta, FirstStepIsAsAskedOrFound)
 {
+    for (const Integer method : kMethods)
+        for (const double half_waves : {1.0, 2.0, 10.0}) {
+            const double tend = half_waves * 3.14159265358979323846;
+            Journey run{hidden_slope(), tend, 1e-6, method};
+            ASSERT_EQ(run.range_to(tend), NE_NOERROR);
+            EXPECT_LT(run.error(), 1e-4);
+        }
     for (const double hstart : {0.0, 1e-3, -1e-3, 1e3, 1e-300, kNaN}) {
         InitialValues problem = oscillator();
         KorRKState state{};
