@@ -25,8 +25,8 @@ constexpr double kFreshRate = 0.2;  // rate of contraction that new factors are 
 constexpr double kCoefficientDrift = 0.1, kLargeDrift = 0.25;
 constexpr Integer kSmallMatrix = 64;
 constexpr Integer kJacobianLife = 30;   // steps
-constexpr Integer kNewtonFailures = 12; // in a row
-constexpr Integer kErrorFailures = 12;
+constexpr Integer kNewtonFailures = 20; // in a row
+constexpr Integer kErrorFailures = 20;
 constexpr Integer kStepLimit = 20'000'000; // bounds the work where the steps stay tiny
 
 // Step control: a step may make the error `1`; the next one aims lower, and stays as it is when little is to be gained,

@@ -96,6 +96,50 @@ TEST(Stiff, AchievesErrorsInProportionToTheTolerance)
         }
 }
 
+TEST(Stiff, TakesJumpsKinksAndScalesAsTheyCome)
+{
+    struct Case {
+        const char *name;
+        double (*f)(double x, double y);
+        double start, end;
+        double (*exact)(double x);
+        double factor; // of the tolerance
+    };
+    const Case cases[] = {
+        {"jump", [](double x, double y) { return x < 1 ? -1e3 * (y - 1) : -1e3 * (y + 1); }, 0, 2,
+         [](double) { return -1.0; }, 1},
+        {"fast start", [](double x, double y) { return -1e12 * (y - std::cos(x)); }, 0, 1,
+         [](double x) { return std::cos(x); }, 1},
+        {"kinks", [](double x, double y) { return -1e6 * (y - std::fabs(std::sin(x))); }, 0, 10,
+         [](double x) { return std::fabs(std::sin(x)) + std::cos(x) * 1e-6; }, 1},
+        {"rest", [](double, double) { return 0.0; }, 3, 1e6, [](double) { return 3.0; }, 0},
+        {"straight", [](double, double) { return 2.0; }, 3, 1e6, [](double x) { return 3.0 + 2.0 * x; }, 1},
+        {"short", [](double, double y) { return -y; }, 1, 1e-14, [](double x) { return std::exp(-x); }, 1},
+        {"great", [](double, double y) { return -1e-300 * y; }, 1e300, 1e300,
+         [](double) { return 1e300 * std::exp(-1.0); }, 200},
+    };
+    struct Data {
+        const Case *c;
+        long calls;
+    };
+    for (const Case &c : cases) {
+        Data data{&c, 0};
+        double x = 0.0, y[1] = {c.start};
+        Record fail;
+        d02ejc(
+            1,
+            [](Integer, double x, const double y[], double f[], void *comm) {
+                auto *d = static_cast<Data *>(comm);
+                ++d->calls;
+                f[0] = d->c->f(x, y[0]);
+            },
+            nullptr, &x, y, c.end, 1e-8, Kor_Relative, nullptr, nullptr, &data, &fail);
+        EXPECT_SUCCESS(fail) << c.name;
+        EXPECT_LE(std::fabs(y[0] / c.exact(x) - 1.0), c.factor * 1e-8) << c.name;
+        EXPECT_LT(data.calls, 2000) << c.name;
+    }
+}
+
 // Either driver, as one without a Jacobian.
 using Driver = void (*)(Integer, void (*)(Integer, double, const double[], double[], void *), double *, double[],
                         double, double, Integer, void (*)(Integer, double *, const double[], void *),
