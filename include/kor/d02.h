@@ -595,7 +595,7 @@ typedef struct {
 ///                  further on in the direction of integration, into `*xsol`, which comes with the point of the call. A point
 ///                  beyond `xend` ends the output. May be null
 /// \param[in]  g    stops the integration where it changes its sign; a zero at the starting point itself does not count. Signs are
-///                  compared from step to step: a pair of roots within one step may be passed by. May be null
+///                  compared at the quarters of each step: roots closer to each other may be passed by. May be null
 /// \param[in]  comm passed to the functions as it stands, never read; may be null
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///
@@ -649,7 +649,7 @@ void d02cjc(Integer neq, void (*fcn)(Integer neq, double x, const double y[], do
 ///                  further on in the direction of integration, into `*xsol`, which comes with the point of the call. A point
 ///                  beyond `xend` ends the output. May be null
 /// \param[in]  g    stops the integration where it changes its sign; a zero at the starting point itself does not count. Signs are
-///                  compared from step to step: a pair of roots within one step may be passed by. May be null
+///                  compared at the quarters of each step: roots closer to each other may be passed by. May be null
 /// \param[in]  comm passed to the functions as it stands, never read; may be null
 /// \param[in,out] fail the error record; may be null, and then a failure ends the process
 ///

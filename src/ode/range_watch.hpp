@@ -78,24 +78,42 @@ class RangeWatch {
         return WatchOutcome::go_on;
     }
 
-    // A change of sign between the ends of the step, located to the last bits of x. A zero at the starting point of the
-    // range is no root: the sign after it counts.
+    // The first change of sign in the step, seen at its quarters and located to the last bits of x. A zero at the starting point of
+    // the range is no root: the sign after it counts.
     double find_root(double x, const double *y, FunctionRef<void(double, double *)> interpolate)
     {
-        const double left = x_, left_value = left_value_;
-        const double right_value = g_(neq_, x, y, comm_);
-        left_value_ = right_value;
-        if (right_value == 0.0) {
-            found_ = true;
-            return x;
+        constexpr int kParts = 4;
+        const double start = x_;
+        double left = start;
+        for (int part = 1; part <= kParts; ++part) {
+            const double right = part == kParts ? x : start + (x - start) * part / kParts;
+            const double *values = y;
+            if (part < kParts) {
+                interpolate(right, scratch_);
+                values = scratch_;
+            }
+            const double left_value = left_value_, right_value = g_(neq_, right, values, comm_);
+            left_value_ = right_value;
+            if (right_value == 0.0) {
+                found_ = true;
+                return right;
+            }
+            if ((left_value < 0.0 && right_value > 0.0) || (left_value > 0.0 && right_value < 0.0)) {
+                found_ = true;
+                return locate(left, left_value, right, right_value, interpolate);
+            }
+            left = right;
         }
-        if (left_value == 0.0 || (left_value < 0.0) == (right_value < 0.0) || left_value != left_value ||
-            right_value != right_value)
-            return x;
+        return x;
+    }
+
+    double locate(double left, double left_value, double right, double right_value,
+                  FunctionRef<void(double, double *)> interpolate)
+    {
         constexpr Integer kRelativeMeasure = 2;
         constexpr double kSharp = 0x1p-52;
         constexpr int kLimit = 1000;
-        double c[roots::kZeroStateSize], a = x, b = left, value = right_value;
+        double c[roots::kZeroStateSize], a = right, b = left, value = right_value;
         c[0] = left_value;
         Integer ind = -1;
         for (int i = 0; i < kLimit; ++i) {
@@ -104,7 +122,6 @@ class RangeWatch {
             value = g_(neq_, a, scratch_, comm_);
             if (value == 0.0) break;
         }
-        found_ = true;
         return a;
     }
 

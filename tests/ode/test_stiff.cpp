@@ -262,6 +262,17 @@ TEST_P(EitherDriver, ShowsTheSolutionWhereItIsWantedAndStopsAtTheRoot)
         EXPECT_EQ(r.seen.size(), 2u);
     }
 
+    // A start at a zero of g, and two roots that lie close together: the first one counts.
+    struct Close {
+        static void slope(Integer, double, const double[], double f[], void *) { f[0] = 1.0; }
+        static double g(Integer, double x, const double y[], void *) { return x * (y[0] - 2.0) * (y[0] - 3.0); }
+    };
+    x = 0.0;
+    y[0] = 0.0;
+    driver(1, Close::slope, &x, y, 5.0, 1e-3, Kor_Mixed, nullptr, Close::g, nullptr, &fail);
+    EXPECT_SUCCESS(fail);
+    EXPECT_NEAR(x, 2.0, 1e-14);
+
     Watcher never;
     never.level = -1.0;
     x = 0.0;
