@@ -24,11 +24,12 @@ void f11dcc(Integer method, Integer n, Integer nnz, const double a[], Integer la
     if (!is_sound(matrix, Triangle::both)) return report.error<NE_INVALID_CS>();
 
     const kor::Workspace<Integer> start{kor::Count{n} + 1};
-    const kor::Workspace<double> work{n};
-    if (!start || !work) return report.error<NE_ALLOC_FAIL>();
+    if (!start) return report.error<NE_ALLOC_FAIL>();
     const LuFactor factor{n, a, irow, icol, istr, idiag, ipivp, ipivq};
     if (!factor.is_sound(nnz, la, start.data())) return report.error<NE_INVALID_CS_PRECOND>();
     find_row_starts(matrix, start.data());
-    const auto precondition = [&](const double u[], double v[]) { factor.solve(u, v, work.data()); };
+    LuSolver solver;
+    if (!solver.prepare(factor)) return report.error<NE_ALLOC_FAIL>();
+    const auto precondition = [&](const double u[], double v[]) { solver.solve(u, v); };
     solve_and_report(report, {matrix, start.data(), method, m, precondition, b, tol, maxitn}, x, rnorm, itn);
 }

@@ -13,7 +13,7 @@ void f11jbc(Integer n, const double a[], Integer la, const Integer irow[], const
     const kor::Workspace<double> work{n};
     const kor::Workspace<Integer> inverse{n};
     if (!work || !inverse) return report.error<NE_ALLOC_FAIL>();
-    const kor::sparse::CholeskyFactor factor{n, a, irow, icol, istr, ipiv};
+    const kor::sparse::CholeskyFactor factor{n, a, irow, icol, istr, ipiv, kor::sparse::is_identity(n, ipiv)};
     if (istr[0] < 1 || !factor.is_sound(istr[0] - 1, la, inverse.data())) return report.error<NE_INVALID_SCS_PRECOND>();
     factor.solve(y, x, work.data());
     report.success();

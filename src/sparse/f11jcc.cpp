@@ -23,7 +23,7 @@ void f11jcc(Integer method, Integer n, Integer nnz, const double a[], Integer la
     const kor::Workspace<Integer> start{kor::Count{n} + 1};
     const kor::Workspace<double> work{n};
     if (!start || !work) return report.error<NE_ALLOC_FAIL>();
-    const CholeskyFactor factor{n, a, irow, icol, istr, ipiv};
+    const CholeskyFactor factor{n, a, irow, icol, istr, ipiv, is_identity(n, ipiv)};
     if (!factor.is_sound(nnz, la, start.data())) return report.error<NE_INVALID_SCS_PRECOND>();
     find_row_starts(matrix, start.data());
     const auto precondition = [&](const double u[], double v[]) { factor.solve(u, v, work.data()); };

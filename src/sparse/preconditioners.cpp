@@ -41,19 +41,56 @@ bool LuFactor::is_sound(Integer nnz, Integer length, Integer work[]) const
     return true;
 }
 
-void LuFactor::solve(const double y[], double x[], double work[]) const
+bool LuSolver::prepare(const LuFactor &factor)
 {
-    for (Integer i = 0; i < n; ++i) {
-        double sum = y[row_order[i] - 1];
-        for (Integer p = row_start[i] - 1; p < diagonal[i] - 1; ++p) sum -= value[p] * work[column[p] - 1];
-        work[i] = sum;
+    n_ = factor.n;
+    row_order_ = factor.row_order;
+    column_order_ = factor.column_order;
+    natural_order_ = is_identity(n_, row_order_) && is_identity(n_, column_order_);
+    const Integer off_diagonal = factor.row_start[n_] - factor.row_start[0] - n_;
+    const Count n{n_};
+    if (!value_.allocate(off_diagonal) || !column_.allocate(off_diagonal) || !reciprocal_.allocate(n) ||
+        !lower_.allocate(n + 1) || !upper_.allocate(n + 1) || !work_.allocate(n))
+        return false;
+    Integer next = 0;
+    const auto take = [&](Integer begin, Integer end) {
+        for (Integer p = begin; p < end; ++p, ++next) {
+            value_[next] = factor.value[p];
+            column_[next] = factor.column[p] - 1;
+        }
+    };
+    for (Integer i = 0; i < n_; ++i) {
+        lower_[i] = next;
+        take(factor.row_start[i] - 1, factor.diagonal[i] - 1);
+        reciprocal_[i] = factor.value[factor.diagonal[i] - 1];
     }
-    for (Integer i = n - 1; i >= 0; --i) {
-        double sum = work[i];
-        for (Integer p = diagonal[i]; p < row_start[i + 1] - 1; ++p) sum -= value[p] * work[column[p] - 1];
-        work[i] = sum * value[diagonal[i] - 1];
-        x[column_order[i] - 1] = work[i];
+    lower_[n_] = next;
+    for (Integer i = 0; i < n_; ++i) {
+        upper_[i] = next;
+        take(factor.diagonal[i], factor.row_start[i + 1] - 1);
     }
+    upper_[n_] = next;
+    return true;
+}
+
+void LuSolver::solve(const double y[], double x[]) const
+{
+    // In the order of the factor, which may be that of the unknowns.
+    double *const t = natural_order_ ? x : work_.data();
+    const double *const value = value_.data();
+    const Integer *const column = column_.data();
+    for (Integer i = 0; i < n_; ++i) {
+        double sum = natural_order_ ? y[i] : y[row_order_[i] - 1];
+        for (Integer p = lower_[i], end = lower_[i + 1]; p < end; ++p) sum -= value[p] * t[column[p]];
+        t[i] = sum;
+    }
+    for (Integer i = n_ - 1; i >= 0; --i) {
+        double sum = t[i];
+        for (Integer p = upper_[i], end = upper_[i + 1]; p < end; ++p) sum -= value[p] * t[column[p]];
+        t[i] = sum * reciprocal_[i];
+    }
+    if (natural_order_) return;
+    for (Integer i = 0; i < n_; ++i) x[column_order_[i] - 1] = t[i];
 }
 
 bool CholeskyFactor::is_sound(Integer nnz, Integer length, Integer work[]) const
@@ -68,17 +105,23 @@ bool CholeskyFactor::is_sound(Integer nnz, Integer length, Integer work[]) const
 
 void CholeskyFactor::solve(const double y[], double x[], double work[]) const
 {
+    // D^-1 of the solution of the first triangle, in the order of the factor, which may be that of the unknowns. Elsewhere x
+    // may not be written before all of y has been read.
+    double *const t = natural_order ? x : work;
     for (Integer i = 0; i < n; ++i) {
-        double sum = y[order[i] - 1];
-        for (Integer p = row_start[i] - 1; p < row_start[i + 1] - 2; ++p) sum -= value[p] * work[column[p] - 1];
+        const Integer last = row_start[i + 1] - 2;
+        double sum = natural_order ? y[i] : y[order[i] - 1];
+        for (Integer p = row_start[i] - 1; p < last; ++p) sum -= value[p] * work[column[p] - 1];
         work[i] = sum;
+        if (natural_order) x[i] = sum * value[last];
     }
-    for (Integer i = 0; i < n; ++i) work[i] *= value[row_start[i + 1] - 2];
+    if (!natural_order)
+        for (Integer i = 0; i < n; ++i) work[i] *= value[row_start[i + 1] - 2];
     // By columns of L': each unknown that is found is taken out of those before it.
     for (Integer i = n - 1; i >= 0; --i) {
-        const double found = work[i];
-        for (Integer p = row_start[i] - 1; p < row_start[i + 1] - 2; ++p) work[column[p] - 1] -= value[p] * found;
-        x[order[i] - 1] = found;
+        const double found = t[i];
+        for (Integer p = row_start[i] - 1; p < row_start[i + 1] - 2; ++p) t[column[p] - 1] -= value[p] * found;
+        if (!natural_order) x[order[i] - 1] = found;
     }
 }
 
