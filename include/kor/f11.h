@@ -369,8 +369,8 @@ void f11jbc(Integer n, const double a[], Integer la, const Integer irow[], const
 /// \par Method
 /// Preconditioned from the right. Y. Saad and M. H. Schultz, SIAM J. Sci. Stat. Comput. 7 (1986) 856-869; P. Sonneveld, ibid.
 /// 10 (1989) 36-52; G. L. G. Sleijpen and D. R. Fokkema, ETNA 1 (1993) 11-32. CGS and BiCGSTAB need memory for 10 and
-/// 2 `m` + 6 vectors, RGMRES for `m` + 5, besides
-/// a copy of the factor; a breakdown is answered by a new start with another shadow residual.
+/// 2 `m` + 6 vectors, RGMRES for `m` + 5, besides a copy of the factor; a breakdown is answered by a new start with another
+/// shadow residual.
 /// \par Thread safety
 /// Safe.
 /// \par See also
