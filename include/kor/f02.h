@@ -325,7 +325,8 @@ void f02afc(Integer n, double a[], Integer tda, Complex r[], Integer iter[], Kor
 /// As f02afc(), and NE_2_INT_ARG_LT also if `tdv` is less than n.
 /// \par Accuracy
 /// |A v - r v| is at most a small multiple of n times the precision times |A|. The vectors of a matrix without a full set of
-/// them come out nearly parallel.
+/// them come out nearly parallel. If the elements are of very different sizes the bound holds for the balanced matrix
+/// B = D^-1 A D, |B u - r u| with v = D u, which keeps small eigenvalues sharp.
 /// \par Method
 /// As f02afc(), then back substitution in the Schur form. G. Peters and J. H. Wilkinson, Numer. Math. 16 (1970) 181-204.
 /// \par Thread safety

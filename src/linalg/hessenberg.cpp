@@ -87,8 +87,10 @@ struct SmallReflection {
 // sense of M. Ahues and F. Tisseur (LAPACK Working Note 122, 1997), which keeps the small eigenvalues of graded matrices.
 bool negligible(const RowMajor<double> &H, Integer k, double eps, double norm)
 {
+    // So far below the norm products underflow, and then nothing would converge.
+    constexpr double kRange = 0x1p-500;
     const double below = std::fabs(H(k, k - 1));
-    if (below <= kSmallest) return true;
+    if (below <= std::max(kRange * norm, kSmallest)) return true;
     double around = std::fabs(H(k - 1, k - 1)) + std::fabs(H(k, k));
     if (around == 0.0) around = norm;
     if (below > eps * around) return false;

@@ -52,14 +52,26 @@ struct TurningRows {
     }
 };
 
+// Elements beyond this range below the greatest are dropped: products of them underflow, and then nothing would converge.
+inline constexpr double kRange = 0x1p-300;
+
+inline double greatest_modulus(Integer n, const double *d, const double *e)
+{
+    double greatest = 0.0;
+    for (Integer i = 0; i < n; ++i) greatest = std::max(greatest, std::fabs(d[i]));
+    for (Integer i = 0; i + 1 < n; ++i) greatest = std::max(greatest, std::fabs(e[i]));
+    return greatest;
+}
+
 // e[i] couples d[i] and d[i + 1]; e has n - 1 elements and becomes zero. On return d holds the eigenvalues in ascending
 // order, and what were the rows of I are the eigenvectors. An e is negligible at eps times the sum of its neighbours'
 // moduli. Returns false after `limit` steps, d and e as they then are. The matrix must be finite.
 template <class Rows>
 bool diagonalise(Integer n, double eps, double *d, double *e, Integer limit, const Rows &rows)
 {
+    const double least = std::max(kRange * greatest_modulus(n, d, e), kSmallest);
     const auto negligible = [&](Integer i) {
-        return std::fabs(e[i]) <= eps * (std::fabs(d[i]) + std::fabs(d[i + 1])) || std::fabs(e[i]) <= kSmallest;
+        return std::fabs(e[i]) <= eps * (std::fabs(d[i]) + std::fabs(d[i + 1])) || std::fabs(e[i]) <= least;
     };
     Integer steps = 0;
     Integer last = n - 1; // everything behind is done
@@ -132,11 +144,12 @@ bool diagonalise(Integer n, double eps, double *d, double *e, Integer limit, con
 // 591-597, in the form of W. Kahan, G. Peters, J. H. Wilkinson and B. N. Parlett (The Symmetric Eigenvalue Problem, 8.15).
 inline bool find_eigenvalues(Integer n, double eps, double *d, double *e, Integer limit)
 {
-    const double eps_squared = eps * eps;
+    const double eps_squared = eps * eps, least = kRange * greatest_modulus(n, d, e);
+    const double least_square = std::max(least * least, kSmallest);
     for (Integer i = 0; i + 1 < n; ++i) e[i] *= e[i];
     const auto negligible = [&](Integer i) {
         const double around = std::fabs(d[i]) + std::fabs(d[i + 1]);
-        return e[i] <= eps_squared * (around * around) || e[i] <= kSmallest;
+        return e[i] <= eps_squared * (around * around) || e[i] <= least_square;
     };
     Integer steps = 0, last = n - 1, old_first = n, old_last = -1;
     bool down = false;

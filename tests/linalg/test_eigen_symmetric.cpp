@@ -51,7 +51,7 @@ TYPED_TEST(Symmetric, VectorsReconstructTheMatrix)
 {
     using T = TypeParam;
     Random random;
-    for (const Integer n : {1, 2, 3, 4, 5, 13, 33, 40, 41, 70})
+    for (const Integer n : {1, 2, 3, 4, 5, 13, 40, 41, 60})
         for (const auto &[name, A] : symmetric_matrices<T>(n, random)) {
             const std::string what = name + ", order " + std::to_string(n);
             Array<T> a = stored<T>(A), v{n, n, 1};
@@ -80,7 +80,7 @@ TYPED_TEST(Symmetric, StepsDoTheSame)
 {
     using T = TypeParam;
     Random random;
-    for (const Integer n : {1, 2, 3, 7, 20, 63, 64})
+    for (const Integer n : {1, 2, 3, 7, 20, 64})
         for (const auto &[name, A] : symmetric_matrices<T>(n, random)) {
             const std::string what = name + ", order " + std::to_string(n);
             Array<T> a = stored<T>(A), z{n, n, 1};
@@ -151,6 +151,34 @@ TEST(SymmetricEigen, DiagonalMatricesTurnNothing)
     f02abc(1, a, 1, &r, &v, 1, &fail);
     EXPECT_EQ(r, -7.5);
     EXPECT_EQ(v, 1.0);
+}
+
+// Elements from one end of the range to the other, where products underflow: the iteration must still come to an end.
+TEST(SymmetricEigen, ConvergesOverTheWholeRange)
+{
+    Random random;
+    const double sizes[] = {0.0, 1.0, -1.0, 1e-300, 1e300, 5e-324, 1e-160, 0.3};
+    for (int repeat = 0; repeat < 3000; ++repeat) {
+        const Integer n = 3 + repeat % 10;
+        std::vector<double> d(n), e(n), a(n * n), r(n), s(n), v(n * n);
+        const auto pick = [&] { return sizes[static_cast<int>(4.0 * random.uniform() + 4.0)]; };
+        for (Integer i = 0; i < n; ++i) {
+            d[i] = pick();
+            e[i] = pick();
+            for (Integer j = 0; j <= i; ++j) a[i * n + j] = pick();
+        }
+        double size = 0.0;
+        for (Integer i = 0; i < n; ++i)
+            for (Integer j = 0; j <= i; ++j) size = std::max(size, std::fabs(a[i * n + j]));
+        Record fail;
+        f02avc(n, x02ajc(), d.data(), e.data(), &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+        f02abc(n, a.data(), n, r.data(), v.data(), n, &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+        f02aac(n, a.data(), n, s.data(), &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+        for (Integer i = 0; i < n; ++i) ASSERT_NEAR(r[i] / size, s[i] / size, 20 * n * kEps);
+    }
 }
 
 TEST(DefinitePairs, VectorsSolveTheProblem)
