@@ -37,6 +37,15 @@ void spread_vectors(Integer n, const double *parts, Integer td, const double *wi
     }
 }
 
+// So far below the greatest element products underflow, and the QZ iteration may run in a circle.
+void drop_below_range(Integer n, double *a, Integer tda, double greatest)
+{
+    constexpr double kRange = 0x1p-300;
+    for (std::ptrdiff_t i = 0; i < n; ++i)
+        for (std::ptrdiff_t j = 0; j < n; ++j)
+            if (std::fabs(a[i * tda + j]) < kRange * greatest) a[i * tda + j] = 0.0;
+}
+
 // `work`, 2 n n elements, is for the vectors.
 EigenOutcome small_problem(Integer n, double *a, Integer tda, double *wr, double *wi, Complex *v, Integer tdv,
                            Integer *iter, double *work)
@@ -141,8 +150,8 @@ EigenOutcome general_eigenvalues(Integer n, double *a, Integer tda, Complex *val
 EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Integer tdb, double tol, Complex *alfa,
                               double *beta, double *v, Integer tdv, Integer *iter)
 {
-    if (!magnitude_of(n, n, a, tda).is_finite() || !magnitude_of(n, n, b, tdb).is_finite())
-        return EigenOutcome::no_convergence;
+    const Magnitude greatest_a = magnitude_of(n, n, a, tda), greatest_b = magnitude_of(n, n, b, tdb);
+    if (!greatest_a.is_finite() || !greatest_b.is_finite()) return EigenOutcome::no_convergence;
     const double norm_a = matrix_norm(FrobeniusNorm, General, false, n, n, a, tda);
     const double norm_b = matrix_norm(FrobeniusNorm, General, false, n, n, b, tdb);
     const char job = v != nullptr ? 'V' : 'N';
@@ -155,6 +164,8 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
     Workspace<double> room(Count{n} * 2 + (v != nullptr ? Count{n} * n : Count{1}) + Count{lwork});
     if (!room) return EigenOutcome::no_memory;
     double *const work = room.data(), *const re = work + lwork, *const im = re + n, *const left = im + n;
+    drop_below_range(n, a, tda, greatest_a.value());
+    drop_below_range(n, b, tdb, greatest_b.value());
     if (lapack::ggev(job, 'N', n, a, tda, b, tdb, re, im, beta, left, n, &unused, n, work, lwork) != 0)
         return EigenOutcome::no_convergence;
 

@@ -392,6 +392,31 @@ TEST(Pairs, VectorsSolveTheProblem)
     expect_pair(identity(3), Dense{3, 3}, "zero B");
 }
 
+// Elements from one end of the range to the other: the iterations must come to an end.
+TEST(GeneralEigen, ConvergesOverTheWholeRange)
+{
+    Random random;
+    const double sizes[] = {0.0, 1.0, -1.0, 1e-300, 1e300, 5e-324, 1e-160, 0.3};
+    const auto pick = [&] { return sizes[static_cast<int>(4.0 * random.uniform() + 4.0)]; };
+    for (int repeat = 0; repeat < 2000; ++repeat) {
+        const Integer n = 2 + repeat % 11;
+        std::vector<double> a(n * n), b(n * n), c, beta(n), wr(n), wi(n), v(n * n);
+        for (double &x : a) x = pick();
+        for (double &x : b) x = pick();
+        std::vector<Complex> r(n), z(n * n);
+        std::vector<Integer> iter(n);
+        Record fail;
+        c = a;
+        f02agc(n, c.data(), n, r.data(), z.data(), n, iter.data(), &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+        c = a;
+        f02apc(n, x02ajc(), c.data(), n, wr.data(), wi.data(), iter.data(), &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+        f02bjc(n, a.data(), n, b.data(), n, 0.0, r.data(), beta.data(), 1, v.data(), n, iter.data(), &fail);
+        ASSERT_EQ(fail.code, NE_NOERROR) << fail.message;
+    }
+}
+
 TEST(Pairs, KnownEigenvalues)
 {
     // lambda = 1/(1+i), 1/(1-i) and infinity.
