@@ -18,7 +18,7 @@ namespace {
 
 constexpr Integer kBlock = 32;
 // Orders beyond which LAPACK is quicker than the recursion: see bench/linalg/bench_dense.
-constexpr Integer kLapack = 64;
+constexpr Integer kLapack = 24;
 
 // A = U^H U, U in the place of the upper triangle of A: row k, once it is final, is taken off the rows below it. pivot[k] is
 // the square of U(k, k) before the root was taken. Returns 0 or the stage, from 1, whose pivot is not a positive number.
@@ -115,33 +115,30 @@ Integer factor_small(Integer n, RowMajor<T> A, double *p, Determinant<double> &d
     return stage;
 }
 
-// By LAPACK's potrf on the lower triangle, which for it is an upper one. False if A is not positive definite, or not
-// finite: the recursion then finds out where.
+// By LAPACK's potrf in the upper triangle, which for it is a lower one, and there much quicker than in the other; the lower
+// triangle keeps A meanwhile, and the two change places at the end. False if A is not positive definite, or not finite: the
+// recursion then finds out where.
 template <Scalar T>
 bool by_lapack(Integer n, RowMajor<T> A, Integer tda, Determinant<double> &determinant)
 {
     reflect_upper(n, A.a, tda, A.a, tda);
-    if (lapack::potrf(UpperTriangle, n, A.a, tda) != 0) return false;
-    for (Integer k = 0; k < n; ++k)
-        if (const double root = real(A(k, k)); !(root > 0.0 && root <= kLargest)) return false;
-    for (Integer k = 0; k < n; ++k) {
-        const double root = real(A(k, k));
-        determinant.multiply(root);
-        determinant.multiply(root);
-    }
-    return true;
+    bool sound = lapack::potrf(LowerTriangle, n, A.a, tda) == 0;
+    transpose_in_place<true>(n, A.a, tda);
+    for (Integer k = 0; k < n; ++k) sound = sound && real(A(k, k)) > 0.0 && real(A(k, k)) <= kLargest;
+    for (Integer k = 0; sound && k < n; ++k) determinant.multiply(real(A(k, k)) * real(A(k, k)));
+    return sound;
 }
 
 template <Scalar T>
 Integer factor_matrix(Integer n, T *a, Integer tda, double *p, Determinant<double> &determinant)
 {
     const RowMajor<T> A{a, tda};
-    if (n <= kBlock) return factor_small(n, A, p, determinant);
+    if (n <= kLapack) return factor_small(n, A, p, determinant);
 
     // The diagonal of A waits in p. Imaginary parts there, which are not read, come back as zero.
     for (Integer k = 0; k < n; ++k) p[k] = real(A(k, k));
     Integer stage = 0;
-    if (n <= kLapack || !by_lapack(n, A, tda, determinant)) {
+    if (!by_lapack(n, A, tda, determinant)) {
         for (Integer k = 0; k < n; ++k) A(k, k) = p[k] * one<T>();
         reflect_upper(n, a, tda, a, tda);
         stage = Recursion<T>{A, tda, determinant}.factor(0, n);
@@ -182,6 +179,38 @@ KOR_CLONES void solve_block(bool adjoint, Integer n, Integer nrhs, const Complex
     solve_rows(adjoint, n, nrhs, a, tda, p, x, tdx);
 }
 
+// The same for one right-hand side whose elements are contiguous: along the rows of L.
+template <Scalar T>
+[[gnu::always_inline]] inline void solve_row_by_row(bool adjoint, Integer n, const T *a, std::ptrdiff_t tda,
+                                                    const double *p, T *__restrict x)
+{
+    constexpr int kSums = 4; // independent sums, which need not wait for each other
+    if (!adjoint)
+        for (Integer i = 0; i < n; ++i) {
+            const T *const row = a + i * tda;
+            T sum[kSums] = {x[i]};
+            Integer k = 0;
+            for (; k + kSums <= i; k += kSums)
+                for (int s = 0; s < kSums; ++s) sum[s] = sum[s] - row[k + s] * x[k + s];
+            for (; k < i; ++k) sum[0] = sum[0] - row[k] * x[k];
+            x[i] = ((sum[0] + sum[1]) + (sum[2] + sum[3])) * p[i];
+        }
+    else
+        for (Integer k = n - 1; k >= 0; --k) {
+            const T *const row = a + k * tda;
+            const T known = x[k] = x[k] * p[k];
+            for (Integer i = 0; i < k; ++i) x[i] = x[i] - conj(row[i]) * known;
+        }
+}
+KOR_CLONES void solve_single(bool adjoint, Integer n, const double *a, std::ptrdiff_t tda, const double *p, double *x)
+{
+    solve_row_by_row(adjoint, n, a, tda, p, x);
+}
+KOR_CLONES void solve_single(bool adjoint, Integer n, const Complex *a, std::ptrdiff_t tda, const double *p, Complex *x)
+{
+    solve_row_by_row(adjoint, n, a, tda, p, x);
+}
+
 // Y := Y - op(A) X, A m by k as it stands.
 template <Scalar T>
 void subtract(Integer trans, Integer m, Integer k, Integer nrhs, const T *a, Integer tda, const T *x, T *y, Integer tdx)
@@ -198,15 +227,21 @@ void solve(Integer n, Integer nrhs, const T *a, Integer tda, const double *p, T 
 {
     const RowMajor<const T> A{a, tda};
     const RowMajor<T> X{x, tdx};
+    const auto solve_diagonal_block = [&](bool adjoint, Integer k, Integer width) {
+        if (nrhs == 1 && tdx == 1)
+            solve_single(adjoint, width, &A(k, k), tda, p + k, x + k);
+        else
+            solve_block(adjoint, width, nrhs, &A(k, k), tda, p + k, X.row(k), tdx);
+    };
     for (Integer k = 0; k < n; k += kBlock) {
         const Integer width = std::min(kBlock, n - k), end = k + width;
-        solve_block(false, width, nrhs, &A(k, k), tda, p + k, X.row(k), tdx);
+        solve_diagonal_block(false, k, width);
         if (end < n) subtract(NoTranspose, n - end, width, nrhs, &A(end, k), tda, X.row(k), X.row(end), tdx);
     }
     for (Integer k = (n - 1) / kBlock * kBlock; k >= 0; k -= kBlock) {
         const Integer width = std::min(kBlock, n - k), end = k + width;
         if (end < n) subtract(ConjugateTranspose, n - end, width, nrhs, &A(end, k), tda, X.row(end), X.row(k), tdx);
-        solve_block(true, width, nrhs, &A(k, k), tda, p + k, X.row(k), tdx);
+        solve_diagonal_block(true, k, width);
     }
 }
 

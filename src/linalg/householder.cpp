@@ -15,10 +15,11 @@ namespace kor::linalg {
 
 namespace {
 
-constexpr Integer kBlock = 32; // reflections that are applied to the rest of a matrix at once
-constexpr Integer kNarrow = 8; // columns of a block that are reduced one by one
-constexpr Integer kFew = 16;   // columns of a matrix that are
-constexpr Integer kTall = 32;  // rows from which columns are copied for that, so that each is contiguous
+constexpr Integer kBlock = 32;    // reflections that are applied to the rest of a matrix at once
+constexpr Integer kNarrow = 8;    // columns of a block that are reduced one by one
+constexpr Integer kFew = 16;      // columns of a matrix that are,
+constexpr Integer kFewShort = 32; // and of one that is not tall
+constexpr Integer kTall = 48;     // rows from which columns are copied for that, so that each is contiguous
 
 double zeta_of(double scalar) { return scalar; }
 double zeta_of(Complex scalar) { return scalar.re; }
@@ -168,7 +169,7 @@ void factor_columns(Integer m, Integer n, T *a, Integer tda, T *zeta, T *work)
     // The last row of a real square matrix has nothing below it, and its sign may stay.
     const Integer steps = std::is_same_v<T, double> ? std::min(n, m - 1) : all;
     Columns<T> columns{m, {a, tda}, tda, zeta, work};
-    if (n <= kFew)
+    if (n <= kFew || (n <= kFewShort && m < kTall))
         columns.one_by_one(0, steps, n);
     else
         for (Integer k = 0; k < steps; k += kBlock) {
