@@ -1,17 +1,19 @@
 // f01qfc: QR factorisation of a real matrix with interchanges of columns.
 //
 // P. A. Businger and G. H. Golub, Linear least squares solutions by Householder transformations, Numer. Math. 7 (1965)
-// 269-276; the lengths of the columns are brought up to date as in Z. Drmac and Z. Bujanovic, ACM Trans. Math. Softw. 35
-// (2008) 12.
+// 269-276; in blocks after G. Quintana-Orti, X. Sun and C. H. Bischof, SIAM J. Sci. Comput. 19 (1998) 1486-1494; the lengths
+// of the columns are brought up to date as in Z. Drmac and Z. Bujanovic, ACM Trans. Math. Softw. 35 (2008) 12.
 #include <kor/f01.h>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "frame/dispatch.hpp"
 #include "frame/report.hpp"
 #include "frame/views.hpp"
 #include "linalg/arguments.hpp"
+#include "linalg/blas.hpp"
 #include "linalg/dense_arguments.hpp"
 #include "linalg/householder.hpp"
 #include "linalg/norm.hpp"
@@ -29,9 +31,8 @@ KOR_CLONES void pivoted_qr_pass(Integer m, Integer n, const double *old_z, doubl
                                 std::ptrdiff_t td, const double *__restrict pending, double *__restrict next)
 {
     for (std::ptrdiff_t i = 0; i < m; ++i) {
-        const double old_factor = old_z != nullptr ? old_z[i * td] : 0.0, factor = i == 0        ? zeta
-                                                                                   : zeta != 0.0 ? z[i * td]
-                                                                                                 : 0.0;
+        const double old_factor = old_z != nullptr ? old_z[i * td] : 0.0;
+        const double below = zeta != 0.0 ? z[i * td] : 0.0, factor = i == 0 ? zeta : below;
         double *const __restrict row = y + i * td;
         if (i == 0)
             for (Integer j = 0; j < n; ++j) next[j] = factor * (row[j] -= old_factor * pending[j]);
@@ -40,8 +41,8 @@ KOR_CLONES void pivoted_qr_pass(Integer m, Integer n, const double *old_z, doubl
     }
 }
 
-// The factorisation with the effect of the last reflection on the rows below it still pending: it is carried out in the
-// same pass over the matrix that prepares the effect of the next one.
+// Large matrices are factorised in blocks; in small ones, and at the end of large ones, the effect of the last reflection
+// on the rows below it is left pending, and carried out in the same pass over the matrix that prepares the next.
 class PivotedQr {
   public:
     PivotedQr(Integer m, Integer n, double *a, Integer tda, double *length, double *exact, double *pending)
@@ -49,24 +50,94 @@ class PivotedQr {
     {
     }
 
-    void factor(double *zeta, Integer *perm)
+    // `block` has room for kBlock rows of n elements and kBlock more.
+    void factor(double *zeta, Integer *perm, double *block)
     {
         for (Integer j = 0; j < n_; ++j) exact_[j] = length_[j] = euclidean_norm(m_, A_.a + j, tda_);
-        std::fill(pending_, pending_ + n_, 0.0);
         const Integer steps = std::min(m_, n_);
-        for (Integer k = 0; k < steps; ++k) {
-            const auto chosen = static_cast<Integer>(std::max_element(length_ + k, length_ + n_) - length_);
-            perm[k] = chosen + 1;
-            if (chosen != k) interchange(k, chosen);
+        Integer k = 0;
+        while (steps - k > kFused) k = factor_block(k, k + kBlock, zeta, perm, block);
+        factor_rest(k, steps, zeta, perm);
+    }
+
+    static kor::Count block_size(Integer m, Integer n)
+    {
+        return std::min(m, n) > kFused ? (kor::Count{n} + 1) * kBlock : kor::Count{0};
+    }
+
+  private:
+    // Reflections whose effect is gathered in a product of matrices, and the number of them from which that pays.
+    static constexpr Integer kBlock = 32, kFused = 128;
+
+    Integer choose(Integer k, Integer *perm)
+    {
+        const auto chosen = static_cast<Integer>(std::max_element(length_ + k, length_ + n_) - length_);
+        perm[k] = chosen + 1;
+        if (chosen != k) interchange(k, chosen);
+        return chosen;
+    }
+
+    // The columns from `first` up to at most `last`: of the effect V F' of the reflections only the row and the column in turn are carried out, the
+    // rest at the end, or when the length of a column can no longer be told from the rows. Returns where it stopped.
+    Integer factor_block(Integer first, Integer last, double *zeta, Integer *perm, double *block)
+    {
+        using namespace kor::blas;
+        const kor::RowMajor<double> F{block, n_}; // row j belongs to the reflection of column first + j
+        double *const products = F.row(kBlock);
+        bool lengths_known = true;
+        Integer k = first;
+        for (; k < last && lengths_known; ++k) {
+            const Integer j = k - first, rows = m_ - k, columns = n_ - k - 1;
+            if (const Integer chosen = choose(k, perm); chosen != k)
+                for (Integer i = 0; i < j; ++i) std::swap(F(i, k), F(i, chosen));
+            if (j > 0)
+                gemv(kRowMajor, NoTranspose, rows, j, -1.0, &A_(k, first), tda_, &F(0, k), n_, 1.0, &A_(k, k), tda_);
+            zeta[k] = k + 1 < m_ ? make_reflection(rows - 1, A_(k, k), &A_(k + 1, k), tda_, 0.0) : 0.0;
+            if (columns == 0) continue;
+
+            // u = (zeta; z) in its column; F(j) = u' A - (u' V) F.
+            const double diagonal = std::exchange(A_(k, k), zeta[k]);
+            double *const row = F.row(j) + k + 1;
+            if (zeta[k] != 0.0) {
+                gemv(kRowMajor, Transpose, rows, columns, 1.0, &A_(k, k) + 1, tda_, &A_(k, k), tda_, 0.0, row, 1);
+                if (j > 0) {
+                    gemv(kRowMajor, Transpose, rows, j, 1.0, &A_(k, first), tda_, &A_(k, k), tda_, 0.0, products, 1);
+                    gemv(kRowMajor, Transpose, j, columns, -1.0, F.row(0) + k + 1, n_, products, 1, 1.0, row, 1);
+                }
+            } else {
+                std::fill(row, row + columns, 0.0);
+            }
+            gemv(kRowMajor, Transpose, j + 1, columns, -1.0, F.row(0) + k + 1, n_, &A_(k, first), 1, 1.0, &A_(k, k) + 1,
+                 1);
+            A_(k, k) = diagonal;
+            for (Integer c = k + 1; c < n_; ++c) lengths_known &= shortened(k, c);
+        }
+        if (k < m_ && k < n_)
+            gemm(kRowMajor, NoTranspose, NoTranspose, m_ - k, n_ - k, k - first, -1.0, &A_(k, first), tda_,
+                 F.row(0) + k, n_, 1.0, &A_(k, k), tda_);
+        for (Integer c = k; c < n_; ++c)
+            if (exact_[c] == kUnknown) measure(k, c);
+        return k;
+    }
+
+    // The columns [k, steps) one by one.
+    void factor_rest(Integer first, Integer steps, double *zeta, Integer *perm)
+    {
+        std::fill(pending_, pending_ + n_, 0.0);
+        for (Integer k = first; k < steps; ++k) {
+            choose(k, perm);
             settle_column(k, k);
             zeta[k] = k + 1 < m_ ? make_reflection(m_ - k - 1, A_(k, k), &A_(k + 1, k), tda_, 0.0) : 0.0;
             if (k + 1 == n_) break;
             pass(k, zeta[k]);
-            for (Integer j = k + 1; j < n_; ++j) shorten(k, j);
+            for (Integer j = k + 1; j < n_; ++j)
+                if (!shortened(k, j)) {
+                    settle_column(k + 1, j);
+                    measure(k + 1, j);
+                }
         }
     }
 
-  private:
     void interchange(Integer k, Integer chosen)
     {
         for (Integer i = 0; i < m_; ++i) std::swap(A_(i, k), A_(i, chosen));
@@ -95,20 +166,25 @@ class PivotedQr {
         std::swap(pending_, next_);
     }
 
-    // The length of the rows below k of column j: length_[j] is what they have, exact_[j] what they had when it was summed.
-    void shorten(Integer k, Integer j)
+    // Brings the length of column j, in the rows below k, up to date. length_[j] is what it has, exact_[j] what it had when
+    // it was measured. False, and exact_[j] is kUnknown, if half its digits are lost.
+    bool shortened(Integer k, Integer j)
     {
-        if (length_[j] == 0.0) return;
+        if (length_[j] == 0.0 || exact_[j] == kUnknown) return true;
         const double share = A_(k, j) / length_[j], left = std::max((1.0 + share) * (1.0 - share), 0.0);
         const double shrunk = length_[j] / exact_[j];
-        // A length that has shrunk to this has lost half its digits.
         if (left * shrunk * shrunk > kRootOfPrecision) {
             length_[j] *= std::sqrt(left);
-            return;
+            return true;
         }
-        settle_column(k + 1, j);
-        exact_[j] = length_[j] = k + 1 < m_ ? euclidean_norm(m_ - k - 1, &A_(k + 1, j), tda_) : 0.0;
+        exact_[j] = kUnknown;
+        return false;
     }
+    void measure(Integer from, Integer j)
+    {
+        exact_[j] = length_[j] = from < m_ ? euclidean_norm(m_ - from, &A_(from, j), tda_) : 0.0;
+    }
+    static constexpr double kUnknown = -1.0;
 
     Integer m_, n_;
     kor::RowMajor<double> A_;
@@ -124,14 +200,16 @@ void f01qfc(Integer pivot, Integer m, Integer n, double a[], Integer tda, double
     const kor::Report report{"f01qfc", fail};
     if (pivot != VariablePivot && pivot != FixedPivot) return report.error<NE_BAD_PARAM>("pivot");
     if (negative(report, "m", m) || negative(report, "n", n) || shorter(report, "tda", tda, "n", n)) return;
-    const kor::Workspace<double> memory{pivot == FixedPivot ? reflection_work(m, n) : kor::Count{n} * 2};
+    const kor::Workspace<double> memory{pivot == FixedPivot ? reflection_work(m, n)
+                                                            : kor::Count{n} * 2 + PivotedQr::block_size(m, n)};
     if (no_memory(report, bool{memory})) return;
 
     if (pivot == FixedPivot) {
         qr_factor(m, n, a, tda, zeta, memory.data());
         for (Integer k = 0; k < std::min(m, n); ++k) perm[k] = k + 1;
     } else {
-        PivotedQr{m, n, a, tda, work, work + n, memory.data()}.factor(zeta, perm);
+        PivotedQr{m, n, a, tda, work, work + n, memory.data()}.factor(zeta, perm,
+                                                                      memory.data() + 2 * std::ptrdiff_t{n});
     }
     report.success();
 }

@@ -246,7 +246,7 @@ TEST(Companions, TurnWithTheirMatrix)
 TEST(PivotedQr, TakesTheLongestColumnAndFindsTheRank)
 {
     Random random;
-    for (const auto [m, n] : {Shape{6, 6}, {20, 12}, {40, 40}, {5, 9}, {1, 4}, {30, 34}}) {
+    for (const auto [m, n] : {Shape{6, 6}, {20, 12}, {40, 40}, {5, 9}, {1, 4}, {30, 34}, {170, 140}, {150, 190}}) {
         for (const Integer rank : {std::min(m, n), std::min(m, n) / 2}) {
             // Of the rank given, with columns of many sizes.
             const auto left = random_matrix<double>(m, rank, random), right = random_matrix<double>(rank, n, random);
