@@ -451,7 +451,7 @@ void d02qwc(Integer state, Integer neqf, Boolean vectol, const double atol[], co
 /// - NE_NO_SETUP, NE_SETUP_ERROR: there was no setup, or the last one failed.
 /// - NE_NEQF: `neqf` differs from the setup.
 /// - NE_NO_G_FUN: there are event functions, but `g` is null.
-/// - NE_2_REAL_ARG_CONS: `t` or `tout` is not finite.
+/// - NE_2_REAL_ARG_CONS: `t`, `tout` or their difference is not finite.
 /// - NE_T_SAME_TOUT: a start, new or afresh, with `tout` = `t`.
 /// - NE_T_CHANGED: `t` is not what the last call left.
 /// - NE_DIRECTION_CHANGE: `tout` lies on the other side of `t` than before.

@@ -15,7 +15,7 @@ using namespace kor::ode;
 // May the integration go from t to tout? If not, it has been reported.
 bool may_go(const kor::Report &report, KorAdamsOptions &opt, double t, double tout)
 {
-    if (!std::isfinite(t) || !std::isfinite(tout))
+    if (!std::isfinite(t) || !std::isfinite(tout) || !std::isfinite(tout - t))
         return report.error<NE_2_REAL_ARG_CONS>("t", t, "tout", tout, "abs(tout-t) finite"), false;
     if (opt.state != Kor_Continue && tout == t) return report.error<NE_T_SAME_TOUT>(t, tout), false;
     double direction = tout > t ? 1.0 : -1.0;

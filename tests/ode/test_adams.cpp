@@ -230,6 +230,10 @@ TEST(Adams, IntegrationChecksItsArguments)
     EXPECT_REPORT(run.fail, NE_T_SAME_TOUT, 0.0, 0.0);
     run.go(kNaN);
     EXPECT_EQ(run.fail.code, NE_2_REAL_ARG_CONS);
+    Journey far{oscillator(), {}};
+    far.t = -1.5e308;
+    far.go(1.5e308);
+    EXPECT_EQ(far.fail.code, NE_2_REAL_ARG_CONS);
     d02qfc(3, evaluate, &run.t, run.y.data(), 1.0, nullptr, nullptr, &run.opt, &run.fail);
     EXPECT_REPORT(run.fail, NE_NEQF, 3, 2);
     EXPECT_EQ(run.problem.calls, 0);
