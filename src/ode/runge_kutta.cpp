@@ -194,7 +194,7 @@ StepStatus RungeKutta::step()
     if (stiffness_is_due(much_work) && looks_stiff()) return StepStatus::stiff;
     if (much_work) return StepStatus::much_work;
 
-    // Quotients that do not wait for the error are taken before it is known: it is what each step waits for.
+    // The next step waits for the error of this one: what can be divided before it is known, is.
     const double per_tolerance = 1.0 / state_.tol;
     for (bool failed = false;;) {
         limit_step_to_end();

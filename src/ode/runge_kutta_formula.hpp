@@ -9,16 +9,17 @@
 
 namespace kor::ode {
 
-// One step of the pair number `method` from (t, y) by h. `k` holds stages of n doubles each, the first of them f(t, y); the others are
-// evaluated, those with abscissa 1 at `t_end`, which is t + h up to rounding. `y_new` receives the result and serves as scratch.
-// When `watch` is not null it sees the second stage, and a true answer ends the attempt there.
+// Sees the second stage of a step; a true answer ends the attempt there.
 struct StageWatch {
     virtual bool operator()(double t, const double *y, const double *yp) = 0;
 
   protected:
     ~StageWatch() = default;
 };
-// Returns false when the watch ended the attempt.
+
+// One step of the pair number `method` from (t, y) by h. `k` holds stages of n doubles each, the first of them f(t, y); the
+// others are evaluated, those with abscissa 1 at `t_end`, which is t + h up to rounding. `y_new` receives the result and serves
+// as scratch. False when the watch, which may be null, has ended the attempt.
 bool pair_step(Integer method, const RightHandSide &f, double t, double t_end, double h, const double *y, double *k,
                double *y_new, StageWatch *watch);
 
