@@ -15,6 +15,7 @@
 #include "linalg/blas.hpp"
 #include "linalg/lapack.hpp"
 #include "linalg/magnitude.hpp"
+#include "linalg/roomy_copy.hpp"
 #include "linalg/transpose.hpp"
 #include "linalg/vector_operations.hpp"
 
@@ -149,16 +150,24 @@ SingularOutcome by_divide_and_conquer(Integer m, Integer n, T *a, Integer tda, d
     T *const u = vectors.pt != nullptr ? vectors.pt : spare.data(), *const vt =
                                                                         vectors.q != nullptr ? vectors.q : spare.data();
     const Integer ldu = vectors.pt != nullptr ? vectors.tdpt : n, ldvt = vectors.q != nullptr ? vectors.tdq : r;
+    const bool wanted = job == 'S';
+    const RoomyCopy<T> matrix{m, n, a, tda}, left{wanted ? r : 0, n, u, ldu}, right{wanted ? m : 0, r, vt, ldvt};
+    if (!matrix || !left || !right) return SingularOutcome::no_memory;
+    const auto decompose_in = [&](T *work, Integer lwork) {
+        return lapack::gesdd(job, n, m, matrix.data(), matrix.td(), values, left.data(), left.td(), right.data(),
+                             right.td(), work, lwork, rwork.data(), iwork.data());
+    };
     T best;
-    lapack::gesdd(job, n, m, a, tda, values, u, ldu, vt, ldvt, &best, -1, rwork.data(), iwork.data());
+    decompose_in(&best, -1);
     const double room = real(best);
     if (!(room < 0x1p31)) return SingularOutcome::no_memory;
     Workspace<T> work(Count{static_cast<Integer>(room)});
     if (!work) return SingularOutcome::no_memory;
-    return lapack::gesdd(job, n, m, a, tda, values, u, ldu, vt, ldvt, work.data(), static_cast<Integer>(room),
-                         rwork.data(), iwork.data()) == 0
-               ? SingularOutcome::success
-               : SingularOutcome::no_convergence;
+    matrix.take();
+    if (decompose_in(work.data(), static_cast<Integer>(room)) != 0) return SingularOutcome::no_convergence;
+    left.give_back();
+    right.give_back();
+    return SingularOutcome::success;
 }
 
 // b := conj(q)' b, q of order m.
