@@ -378,7 +378,8 @@ Iteration GeneralSolver::run(GeneralMethod method, Integer m)
         if (end == CycleEnd::passes && forgiving.is_met(residual_norm_, solution_norm_))
             return {Solved::converged, residual_norm_, count_};
         const double progress = end == CycleEnd::used_up ? kStandstill : kProgress;
-        stalls = residual_norm_ <= progress * before ? 0 : stalls + 1;
+        // Strictly less: a residual that has come to rest, even at 0, makes no progress.
+        stalls = residual_norm_ <= progress * before && residual_norm_ < before ? 0 : stalls + 1;
         if (stalls > kPatience)
             return {passes() ? Solved::converged
                              : outcome_of_stagnation(residual_norm_, test_.bound(solution_norm_), test_.tol),
