@@ -1,5 +1,5 @@
 // The beta law. Five methods: where both shapes are large and x is near the mean an expansion about the normal law, uniform in
-// x; where one is large and the other at most 1 an expansion about the gamma law; else a power series of positive terms, a continued fraction that converges
+// x; where one is much larger than the other an expansion about the gamma law; else a power series of positive terms, a continued fraction that converges
 // fast beyond the mean, and, where a small a makes both tails from one power of x, their difference from 1 without
 // cancellation. The factor x^a y^b / B(a, b) is formed as a saddle point with a low part: A. R. DiDonato and A. H. Morris, ACM
 // Trans. Math. Softw. 18 (1992) 360-373; C. Loader, Fast and accurate computation of binomial probabilities (2000); N. M.
@@ -25,9 +25,12 @@ using namespace special;
 
 constexpr double kStirlingFrom = 12.0;
 constexpr double kExponentLimit = 2000.0; // beyond it exp(-t) is far out of range
-constexpr int kMaxSteps = 1000;           // none is known that takes 200
+constexpr int kMaxSteps = 1000;           // two million random arguments took 77 at most
 constexpr double kGammaTo = 160.0;        // a + b: to here 1 / B(a, b) is formed from gamma functions
-constexpr double kGammaLawFrom = 15.0; // the larger shape, while the variable of the smaller is at most kGammaLawWithin
+// The expansion about the gamma law: the smaller shape is at most kGammaLawTo, the larger at least kGammaLawFrom times that (or
+// times 1), and the variable of the smaller at most kGammaLawWithin.
+constexpr double kGammaLawTo = 4.0;
+constexpr double kGammaLawFrom = 15.0;
 constexpr double kGammaLawWithin = 0.6;
 constexpr double kUniformFrom = 300.0; // the smaller shape, while |y| <= kUniformWithin
 constexpr double kUniformWithin = 0.4;
@@ -187,7 +190,8 @@ double start_odds(double a, double b, double p)
     return y > 0.0 ? std::fmin(a / b, std::exp(log_x) / y) : a / b;
 }
 
-// The same for the law of t^2 / df, shapes 1/2 and b: t^2 is near (df - 1/2) (exp(z^2 / (df - 1/2)) - 1), z normal.
+// The same for the law of t^2 / df, shapes 1/2 and b: with T = b - 1/4 and z normal, T ln(1 + odds) is near z^2/2, less what
+// the first term of the expansion about the gamma law takes away.
 double start_odds_of_student(double b, Target target)
 {
     constexpr double kProportionalBelow = 1e-3;
@@ -195,10 +199,12 @@ double start_odds_of_student(double b, Target target)
     const double z = target.upper             ? rough_normal_upper_quantile(0.5 * p)
                      : p < kProportionalBelow ? p * 1.2533141373155003
                                               : rough_normal_upper_quantile(0.5 - 0.5 * p);
-    return std::expm1(std::fmin(z * z / (2.0 * b - 0.5), 600.0));
+    const double scale = b - 0.25, u = 0.5 * z * z, correction = (u + 1.5) / (48.0 * scale * scale);
+    constexpr double kMostCorrection = 0.1, kLargestLog = 600.0;
+    return std::expm1(std::fmin(u * (1.0 - std::fmin(correction, kMostCorrection)) / scale, kLargestLog));
 }
 
-// Tails of the gamma law of shape b <= 1 at u, and u^b exp(-u) / Gamma(b).
+// Tails of the gamma law of shape b at u, and u^b exp(-u) / Gamma(b).
 struct GammaPoint {
     double lower, upper, slope;
 };
@@ -299,7 +305,7 @@ Exponential BetaLaw::slope(DoubleDouble x, DoubleDouble y) const
     return {powers.value * factors().factor, powers.exponent};
 }
 
-// With a the larger shape, b <= 1 the smaller, z the variable of a, T = a + (b - 1) / 2 and u = -T ln(z): the tails of the
+// With a the larger shape, b the smaller, z the variable of a, T = a + (b - 1) / 2 and u = -T ln(z): the tails of the
 // gamma law of shape b at u, and a correction in powers of 1 / (4 T^2).
 std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDouble y, bool with_slope) const
 {
@@ -319,7 +325,7 @@ std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDoub
     constexpr double kNegligible = 0x1p-58;
     const bool rising = a_ < b_; // the variable of b is x
     const double a = rising ? b_ : a_, b = rising ? a_ : b_;
-    if (b > 1.0 || a < kGammaLawFrom) return {};
+    if (b > kGammaLawTo || a < kGammaLawFrom * std::fmax(1.0, b)) return {};
     const DoubleDouble z = rising ? y : x, rest = rising ? x : y;
     constexpr double kLeast = 1e-250; // below it products lose their low parts
     if (rest.hi < kLeast || rest.hi > kGammaLawWithin) return {};

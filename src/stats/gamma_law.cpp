@@ -13,6 +13,33 @@ namespace {
 // Where P = x^a / Gamma(a + 1): a lower bound of the quantile, and sharp for small ones.
 double small_quantile(double a, double p) { return std::exp((std::log(p) + special::log_gamma(a + 1.0)) / a); }
 
+// Where to start; 0 where the quantile is below the doubles.
+double start_quantile(double a, Target target)
+{
+    double start = 0.0;
+    if (a > 0.5) {
+        // Wilson and Hilferty: the cube root is nearly normal.
+        const double z = (target.upper ? 1.0 : -1.0) * rough_normal_upper_quantile(target.probability);
+        const double c = 1.0 / (9.0 * a);
+        const double cube_root = 1.0 - c + z * std::sqrt(c);
+        constexpr double kGood = 0.5;
+        if (cube_root > 0.0) start = a * cube_root * cube_root * cube_root;
+        if (cube_root > kGood) return start;
+    }
+    const double p = target.upper ? 1.0 - target.probability : target.probability;
+    if (p == 0.0) return kSmallest;
+    // The lower bound tells when the answer is below the doubles; above it P = bound to all digits.
+    const double bound = small_quantile(a, p);
+    if (p <= 0.5 && bound < kSmallest) return 0.0;
+    start = std::fmax(start, bound);
+    if (a <= 0.5 && target.upper) {
+        // Q < x^(a-1) exp(-x) / Gamma(a) < a exp(-x) for x > 1.
+        const double far = std::log(a) - std::log(target.probability);
+        if (far > 1.0) start = std::fmin(far, std::fmax(start, 1.0));
+    }
+    return std::fmax(start, kSmallest);
+}
+
 } // namespace
 
 Tails gamma_tails(double a, double x)
@@ -23,22 +50,8 @@ Tails gamma_tails(double a, double x)
 
 Quantile gamma_quantile(double a, Target target)
 {
-    const double p = target.upper ? 1.0 - target.probability : target.probability;
-    double start = p > 0.0 ? small_quantile(a, p) : 0.0;
-    // The lower bound tells when the answer is below the doubles; above it P = bound to all digits.
-    if (p > 0.0 && p <= 0.5 && start < kSmallest) return {0.0, true};
-    if (a > 0.5) {
-        // Wilson and Hilferty: the cube root is nearly normal.
-        const double z = (target.upper ? 1.0 : -1.0) * rough_normal_upper_quantile(target.probability);
-        const double c = 1.0 / (9.0 * a);
-        const double cube_root = 1.0 - c + z * std::sqrt(c);
-        if (cube_root > 0.0) start = std::fmax(start, a * cube_root * cube_root * cube_root);
-    } else if (target.upper) {
-        // Q < x^(a-1) exp(-x) / Gamma(a) < a exp(-x) for x > 1.
-        const double far = std::log(a) - std::log(target.probability);
-        if (far > 1.0) start = std::fmin(far, std::fmax(start, 1.0));
-    }
-    if (start < kSmallest) start = kSmallest;
+    const double start = start_quantile(a, target);
+    if (start == 0.0) return {0.0, true};
     // The slope guides the steps, and need not be as good as the tails.
     const double log_factor = special::log_gamma(a);
     return solve_tail(

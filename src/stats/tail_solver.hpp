@@ -38,10 +38,12 @@ constexpr int kMaxNewtonSteps = 200; // none is known that takes 20
 template <class Law>
 Quantile solve_tail(const Law &law, Target target, double start)
 {
-    constexpr double kLast = 2e-7; // the error is about the cube of the residual
+    constexpr double kLast =
+        2e-7; // the next residual is about the cube of this one, times a constant that two of them tell
+    constexpr double kTelling = 0.5;
     constexpr double kLongestStep = 40.0;
     double low = 0.0, high = std::numeric_limits<double>::infinity();
-    double w = start;
+    double w = start, last_residual = std::numeric_limits<double>::infinity();
     for (int step = 0; step < kMaxNewtonSteps; ++step) {
         const PointOfLaw at = law(w);
         const double tail = target.upper ? at.tails.upper : at.tails.lower;
@@ -62,7 +64,11 @@ Quantile solve_tail(const Law &law, Target target, double start)
             change /= std::fmax(0.5, std::fmin(2.0, 1.0 - 0.5 * residual * curvature));
             change = std::fmax(-kLongestStep, std::fmin(kLongestStep, change));
             next = std::fabs(change) < 0.5 ? w + w * std::expm1(change) : w * std::exp(change);
-            last = std::fabs(residual) < kLast || std::fabs(change) < 0.5 * std::numeric_limits<double>::epsilon();
+            const double fall = std::fabs(residual / last_residual);
+            last = std::fabs(residual) < kLast || std::fabs(change) < 0.5 * std::numeric_limits<double>::epsilon() ||
+                   (last_residual < kTelling &&
+                    10.0 * std::fabs(residual) * (fall * fall * fall) < std::numeric_limits<double>::epsilon());
+            last_residual = std::fabs(residual);
         }
         if (last) return {next, true};
         if (!(next > low && next < high)) {
