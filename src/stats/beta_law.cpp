@@ -226,8 +226,9 @@ GammaPoint gamma_point(double b, DoubleDouble u)
         return {1.0 - upper, upper, slope};
     }
     const Tails tails = gamma_tails(b, u.hi);
-    const double slope = b * extended_poisson_term(b, u.hi).rounded(), change = slope * (u.lo / u.hi);
-    return {tails.lower + change, tails.upper - change, slope};
+    // The low part of u to first order.
+    const double slope = b * extended_poisson_term(b, u.hi).rounded(), share = u.lo / u.hi;
+    return {tails.lower + slope * share, tails.upper - slope * share, slope * (1.0 + share * (b - u.hi))};
 }
 
 // -ln(1 - x), 0 < x < 1, relative to itself.
