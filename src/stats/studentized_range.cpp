@@ -5,7 +5,6 @@
 
 #include <cmath>
 
-#include "frame/constants.hpp"
 #include "roots/zero_stepper.hpp"
 #include "stats/law_of_scale.hpp"
 #include "stats/normal_law.hpp"
@@ -79,9 +78,9 @@ double log_range_tail(double w, double r, bool upper, double tol)
     return std::log(r * integral.mass / 2.5066282746310002) + (at_peak - 0.5 * z0 * z0);
 }
 
-double tail_of(double q, double v, double r, bool upper)
+double tail_of(double q, double v, double r, bool upper, double tol)
 {
-    if (v >= kNormalFrom) return std::exp(log_range_tail(q, r, upper, kFull));
+    if (v >= kNormalFrom) return std::exp(log_range_tail(q, r, upper, tol));
     constexpr double kDifference = 1e-2;
     // Its own slope is known, that of the range by differences.
     const auto slope = [&](double t) {
@@ -94,16 +93,16 @@ double tail_of(double q, double v, double r, bool upper)
     };
     const double t0 = find_peak(-700.0, 4.0, 0.0, slope);
     const LawOfScale scale{v, t0};
-    const double w0 = q * scale.s0().hi, log_tail0 = log_range_tail(w0, r, upper, kFull);
+    const double w0 = q * scale.s0().hi, log_tail0 = log_range_tail(w0, r, upper, tol);
     const double factor = scale.density() * std::exp(log_tail0);
     if (!(factor > 0.0)) return 0.0;
     const PeakIntegral integral = integrate_peak(
         [&](double h) {
             const double of_scale = scale.ratio(h);
             if (!(of_scale > 0.0)) return 0.0;
-            return of_scale * std::exp(log_range_tail(w0 * std::exp(h), r, upper, kFull) - log_tail0);
+            return of_scale * std::exp(log_range_tail(w0 * std::exp(h), r, upper, tol) - log_tail0);
         },
-        1.0 / std::sqrt(slope(t0).curvature), kFull, kMostEvaluations);
+        1.0 / std::sqrt(slope(t0).curvature), tol, kMostEvaluations);
     return factor * integral.mass;
 }
 
@@ -113,7 +112,7 @@ Tails studentized_range(double q, double v, double r)
 {
     if (std::isinf(q)) return {1.0, 0.0};
     const bool upper = log_range_tail(q, r, false, kRough) > -0.7;
-    const double tail = std::fmin(1.0, tail_of(q, v, r, upper));
+    const double tail = std::fmin(1.0, tail_of(q, v, r, upper, kFull));
     return upper ? Tails{1.0 - tail, tail} : Tails{tail, 1.0 - tail};
 }
 
@@ -129,32 +128,40 @@ Quantile studentized_range_quantile(Target target, double v, double r)
     }
     const double start = std::fmax(1e-3, t * (share * std::log(r - 1.0) + 1.4142));
 
-    // The zero of the logarithm of the tail against that of q.
-    const auto residual = [&](double x) {
-        const double value = std::log(tail_of(std::exp(x), v, r, target.upper) / target.probability);
+    // The zero of the logarithm of the tail against that of q: roughly at first.
+    const auto residual = [&](double x, double tol) {
+        const double value = std::log(tail_of(std::exp(x), v, r, target.upper, tol) / target.probability);
         return std::isfinite(value) ? value : -1e3;
     };
     const double direction = target.upper ? -1.0 : 1.0;
-    double x = std::log(start), fx = residual(x), y = x, fy = fx;
-    if (fx == 0.0) return {start, true};
-    constexpr int kMostSteps = 200;
-    constexpr double kAsGoodAsTheTail = 3e-14;
+    constexpr double kLargestLog = 700.0;
+    double x = std::log(start), fx = residual(x, kRough), y = x, fy = fx;
     for (double step = 0.25; (fx < 0.0) == (fy < 0.0); step *= 2.0) {
-        if (std::fabs(y) > 700.0) return {std::exp(y), false};
+        if (std::fabs(y) > kLargestLog) return {std::exp(y), false};
         x = y, fx = fy;
         y = x + (fx < 0.0 ? direction : -direction) * step;
-        fy = residual(y);
+        fy = residual(y, kRough);
     }
+    constexpr int kMostSteps = 100;
+    constexpr Integer kAbsoluteMeasure = 1;
     double state[roots::kZeroStateSize];
     state[0] = fy;
     Integer ind = -1;
     for (int step = 0; step < kMostSteps; ++step) {
-        constexpr Integer kAbsoluteMeasure = 1;
-        const auto status = roots::zero_step(x, y, fx, kPrecision, kAbsoluteMeasure, state, ind);
-        if (status == roots::ZeroStatus::found || status == roots::ZeroStatus::no_progress) return {std::exp(x), true};
-        if (status != roots::ZeroStatus::evaluate) return {std::exp(x), false};
-        fx = residual(x);
+        if (roots::zero_step(x, y, fx, kRough, kAbsoluteMeasure, state, ind) != roots::ZeroStatus::evaluate) break;
+        fx = residual(x, kRough);
+    }
+
+    // Then by the secant method on the tail itself.
+    constexpr double kAsGoodAsTheTail = 3e-14, kDifference = 0.01;
+    double slope = (residual(x + kDifference, kRough) - residual(x - kDifference, kRough)) / (2.0 * kDifference);
+    fx = residual(x, kFull);
+    for (int step = 0; step < kMostSteps; ++step) {
         if (std::fabs(fx) < kAsGoodAsTheTail) return {std::exp(x), true};
+        const double next = x - fx / slope, f_next = residual(next, kFull);
+        if (next == x) return {std::exp(x), true};
+        slope = (f_next - fx) / (next - x);
+        x = next, fx = f_next;
     }
     return {std::exp(x), false};
 }
