@@ -15,7 +15,7 @@ constexpr Index kShortRow = 96;
 constexpr Index kColumnElements = 768;
 
 // Columns of long sequences: a page of memory should not be visited for a line or two, whatever fits the second cache.
-constexpr Index kLong = 16384;
+constexpr Index kLong = 4096;
 constexpr Index kLongColumnElements = 8192, kLongColumns = 32;
 
 constexpr Index kRowBlock = kLine;
