@@ -35,7 +35,7 @@ KOR_BEGIN_DECLS
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
 /// Temperton, J. Comput. Phys. 52 (1983) 1-23). Blocks and columns that fit the cache are transformed on the stack,
-/// which takes about 100 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 16 kB.
+/// which takes about 170 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 32 kB.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -70,7 +70,7 @@ void c06eac(Integer n, double x[], KorError *fail);
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
 /// Temperton, J. Comput. Phys. 52 (1983) 1-23). Blocks and columns that fit the cache are transformed on the stack,
-/// which takes about 100 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 16 kB.
+/// which takes about 170 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 32 kB.
 /// \par Thread safety
 /// Safe.
 /// \par Example
@@ -103,7 +103,7 @@ void c06ebc(Integer n, double x[], KorError *fail);
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
 /// Temperton, J. Comput. Phys. 52 (1983) 1-23). Blocks and columns that fit the cache are transformed on the stack,
-/// which takes about 100 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 16 kB.
+/// which takes about 170 kB; nothing is allocated. Each thread keeps the roots of the last length of a block, 32 kB.
 /// \par Thread safety
 /// Safe.
 /// \par See also

@@ -6,8 +6,8 @@
 
 namespace kor::transforms {
 
-// Lengths up to this are transformed in one go, through arrays on the stack (about 100 kB in all).
-inline constexpr Index kLargestBlock = 1024;
+// Lengths up to this are transformed in one go, through arrays on the stack (about 170 kB in all).
+inline constexpr Index kLargestBlock = 2048;
 
 // The length as a product of dimensions d_1 d_2 ... d_k, mirror images of each other but for the middle ones. Element
 // (i_1, .., i_k), i_1 the slowest, of the permuted sequence is element (i_k, .., i_1) of the sequence itself.
