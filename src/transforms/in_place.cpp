@@ -6,6 +6,7 @@
 #include "transforms/in_place.hpp"
 
 #include <algorithm>
+#include <bit>
 
 #include "transforms/passes.hpp"
 #include "transforms/root_table.hpp"
@@ -217,7 +218,8 @@ class Sweep {
         const Sequence bases{stack_.bases, stack_.bases + radix_};
         for (Index f = first, rest = count; rest > 0; f += width_, rest -= width_) {
             width_ = std::min(row_, rest);
-            if (width_ > kLine) width_ = width_ / kLine * kLine;
+            width_ = width_ >= kLine ? width_ / kLine * kLine
+                                     : static_cast<Index>(std::bit_floor(static_cast<unsigned>(width_)));
             kernels().unit_roots(radix_ * v_, 0, f, radix_, bases.re, bases.im);
             body(f, Factored{bases, roots_, row_}, block(0), block(1));
         }
