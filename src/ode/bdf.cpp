@@ -612,7 +612,7 @@ class Method {
                 next = k - 1;
             }
         }
-        if (k < st_.maxord && core_.steps_at_order > k && core_.points >= k + 2) {
+        if (k < st_.maxord && core_.steps_at_order > k) {
             const double higher = error_constant(k + 1) * norm_of(n_, weight_, [&](Integer i) {
                                       return e_[i] - core_.beta[k + 2] * phi(k + 2)[i];
                                   });
