@@ -132,7 +132,7 @@ Integer f01adc(Integer n, double a[], Integer tda);
 /// Backward stable: L is exact for a matrix that differs from A, in each element, by about n times the precision times
 /// the geometric mean of two diagonal elements.
 /// \par Method
-/// Cholesky factorisation by halves, as f03aec().
+/// Cholesky factorisation along rows, from order 25 on in blocks by LAPACK, as f03aec().
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -404,8 +404,9 @@ void f01qec(Integer wheret, Integer m, Integer n, Integer ncolq, double a[], Int
 /// \par Accuracy
 /// As f01qcc().
 /// \par Method
-/// P. A. Businger and G. H. Golub, Numer. Math. 7 (1965) 269-276, with lengths brought up to date as in Z. Drmac and Z.
-/// Bujanovic, ACM Trans. Math. Softw. 35 (2008) 12.
+/// P. A. Businger and G. H. Golub, Numer. Math. 7 (1965) 269-276, in blocks after G. Quintana-Orti, X. Sun and C. H.
+/// Bischof, SIAM J. Sci. Comput. 19 (1998) 1486-1494, with lengths brought up to date as in Z. Drmac and Z. Bujanovic,
+/// ACM Trans. Math. Softw. 35 (2008) 12.
 /// \par Thread safety
 /// Safe.
 /// \par See also

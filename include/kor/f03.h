@@ -1,8 +1,8 @@
 /// \file f03.h
 /// Chapter f03: determinants, with the factorisations that give them.
 ///
-/// A determinant is a mantissa and an exponent of 2, which reach beyond the range of doubles. Matrices are row-major, with
-/// the length of a row of the array after them.
+/// A determinant is a mantissa and an exponent of 2, which reach beyond the range of doubles. Matrices are row-major,
+/// with the length of a row of the array after them.
 #ifndef KOR_F03_H
 #define KOR_F03_H
 
@@ -36,7 +36,7 @@ KOR_BEGIN_DECLS
 /// The determinant is exact for a matrix that differs from A, in each element, by about n times the precision times the
 /// geometric mean of two diagonal elements.
 /// \par Method
-/// Cholesky factorisation by halves, with triangular solves and products of blocks; f03aec() without its factor. J. H.
+/// Cholesky factorisation along rows, from order 25 on in blocks by LAPACK; f03aec() without its factor. J. H.
 /// Wilkinson and C. Reinsch, Linear Algebra (1971), contribution I/1.
 /// \par Thread safety
 /// Safe.
@@ -76,7 +76,7 @@ void f03abc(Integer n, double a[], Integer tda, double *det, Integer *dete, KorE
 /// Backward stable: L is exact for a matrix that differs from A, in each element, by about n times the precision times
 /// the geometric mean of two diagonal elements.
 /// \par Method
-/// Cholesky factorisation by halves, with triangular solves and products of blocks. J. H. Wilkinson and C. Reinsch,
+/// Cholesky factorisation along rows, from order 25 on in blocks by LAPACK. J. H. Wilkinson and C. Reinsch,
 /// Linear Algebra (1971), contribution I/1.
 /// \par Thread safety
 /// Safe.

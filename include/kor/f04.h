@@ -1,8 +1,8 @@
 /// \file f04.h
 /// Chapter f04: linear equations and linear least squares.
 ///
-/// Matrices are row-major, with the length of a row of the array after them; right-hand sides and solutions are the columns
-/// of arrays with `nrhs` columns, and one alone is a vector with the row length 1.
+/// Matrices are row-major, with the length of a row of the array after them; right-hand sides and solutions are the
+/// columns of arrays with `nrhs` columns, and one alone is a vector with the row length 1.
 #ifndef KOR_F04_H
 #define KOR_F04_H
 
@@ -554,7 +554,7 @@ void f04jac(Integer m, Integer n, double a[], Integer tda, double b[], double to
 /// double a[] = {3.0, 4.0}, b[] = {25.0, 0.0}, sigma, work[8];
 /// Boolean svd;
 /// Integer irank;
-/// f04jdc(1, 2, a, 2, b, 1e-10, &svd, &sigma, &irank, work, &fail);   // x = {3, 4}: the point of the line next to the origin
+/// f04jdc(1, 2, a, 2, b, 1e-10, &svd, &sigma, &irank, work, &fail);   // x = {3, 4}: next to the origin
 /// \endcode
 void f04jdc(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma, Integer
             *irank, double work[], KorError *fail);

@@ -1,6 +1,6 @@
 // Cholesky factorisation below the diagonal. Small matrices are factorised along the rows of conj(L)' in a buffer, larger ones
-// by halves: the upper left block, the block below it by a triangular solve, and what that leaves of the lower right one.
-// The largest are done by LAPACK.
+// by LAPACK. Where that refuses, a recursion by halves tells the stage: the upper left block, the block below it by a
+// triangular solve, and what that leaves of the lower right one.
 #include "linalg/cholesky_below.hpp"
 
 #include <algorithm>
