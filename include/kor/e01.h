@@ -21,8 +21,10 @@ typedef struct {
     double *y;          ///< `m` ordinates, a copy
     double *f;          ///< `m` values, a copy
     double *quad;       ///< Kor_Shep: 5 `m` coefficients of the nodal quadratics
-    Integer *mesh;      ///< Kor_RC: the triangulation, lists of neighbours (6 `m`+1) and their ends (`m`); Kor_Shep: the points by cells
-    double *grads;      ///< Kor_RC: 2 `m` partial derivatives at the nodes, in x and y in turn; Kor_Shep: the frame of the cells
+    Integer *mesh;      ///< Kor_RC: the triangulation, lists of neighbours (6 `m`+1) and their ends (`m`); then, and for
+                        ///< Kor_Shep alone, the points by cells
+    double *grads;      ///< Kor_RC: 2 `m` partial derivatives at the nodes, in x and y in turn; then, and for Kor_Shep alone,
+                        ///< the frame of the cells
 } KorScatterRecord;
 
 /// Choices for the method Kor_Shep of e01sac().
@@ -305,7 +307,7 @@ void e01sac(Integer method, Integer m, const double x[], const double y[], const
 /// \par Accuracy
 /// Kor_Shep gives exactly `f` at a node, Kor_RC too.
 /// \par Method
-/// Kor_RC: the triangle is found by walking from that of the point before. As e01sac().
+/// Kor_RC: the triangle is found by walking, from that of the point before or from a node of the same cell. As e01sac().
 /// \par Thread safety
 /// Safe; threads may share an interpolant.
 /// \par Example

@@ -7,6 +7,8 @@
 
 #include <kor.h>
 
+#include "frame/workspace.hpp"
+
 namespace kor::approx {
 
 // Geometry and contents live in two plain arrays, so that a record can keep them.
@@ -16,7 +18,8 @@ struct CellGrid {
 
     static constexpr Integer kFrameSize = 3;
     static constexpr Integer kHeader = 2;
-    static Integer size(Integer m) { return kHeader + 2 * m + 2; } // elements of `cells` for m points at most
+    // Elements of `cells` for m points: at most m + 1 cells.
+    static Count size(Integer m) { return Count{2} * Count{m} + Count{kHeader + 2}; }
 
     Integer columns() const { return cells[0]; }
     Integer rows() const { return cells[1]; }
@@ -39,6 +42,18 @@ struct CellGrid {
             const Integer *const start = starts() + static_cast<std::ptrdiff_t>(row) * columns();
             for (Integer k = start[left]; k < start[right + 1]; ++k) visit(points()[k]);
         }
+    }
+
+    // Calls visit(k) for at most `most` points of the cell at a place. What an owner may have spoilt is tested.
+    template <class Visit>
+    void some_near(Integer m, double px, double py, Integer most, Visit visit) const
+    {
+        if (columns() < 1 || rows() < 1 || int64_t{columns()} * rows() > int64_t{m} + 1) return;
+        const Integer cell = index(py - frame[1], rows()) * columns() + index(px - frame[0], columns());
+        const Integer first = starts()[cell], last = starts()[cell + 1];
+        if (first < 0 || last > m) return;
+        for (Integer k = first; k < last && k - first < most; ++k)
+            if (points()[k] >= 0 && points()[k] < m) visit(points()[k]);
     }
 
     // Some three points a cell where they are spread evenly.

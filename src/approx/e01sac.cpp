@@ -50,8 +50,8 @@ bool set_up_triangles(const kor::Report &report, Integer m, Arrays &data, const 
     const kor::Count lists = kor::Count{6} * kor::Count{m} + kor::Count{1};
     const DelaunayWorkspace work{m};
     const kor::Workspace<double> lengths{lists};
-    if (!work || !lengths || !data.mesh.allocate(lists + kor::Count{m}) ||
-        !data.grads.allocate(kor::Count{2} * kor::Count{m})) {
+    if (!work || !lengths || !data.mesh.allocate(lists + kor::Count{m} + CellGrid::size(m)) ||
+        !data.grads.allocate(kor::Count{2} * kor::Count{m} + kor::Count{CellGrid::kFrameSize})) {
         report.error<NE_ALLOC_FAIL>();
         return false;
     }
@@ -68,6 +68,8 @@ bool set_up_triangles(const kor::Report &report, Integer m, Arrays &data, const 
     triangulate(m, data.x.data(), data.y.data(), order, work, data.mesh.data(), ends);
     node_gradients({m, data.mesh.data(), ends}, data.x.data(), data.y.data(), data.f.data(), lengths.data(),
                    data.grads.data());
+    // Behind these, the cells in which evaluations start their walks.
+    CellGrid::build(m, data.x.data(), data.y.data(), data.grads.data() + 2 * static_cast<std::ptrdiff_t>(m), ends + m);
     return true;
 }
 
@@ -103,8 +105,7 @@ bool set_up_shepard(const kor::Report &report, Integer m, Arrays &data, Integer 
     const double *const x = data.x.data(), *const y = data.y.data();
     const kor::Workspace<Integer> hull(kor::Count{m} + kor::Count{1});
     if (!hull || !data.quad.allocate(kor::Count{5} * kor::Count{m}) ||
-        !data.grads.allocate(kor::Count{CellGrid::kFrameSize}) ||
-        !data.mesh.allocate(kor::Count{2} * kor::Count{m} + kor::Count{CellGrid::kHeader + 2})) {
+        !data.grads.allocate(kor::Count{CellGrid::kFrameSize}) || !data.mesh.allocate(CellGrid::size(m))) {
         report.error<NE_ALLOC_FAIL>();
         return false;
     }

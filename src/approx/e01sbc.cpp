@@ -74,7 +74,10 @@ void evaluate_triangles(const kor::Report &report, const KorScatterRecord &comm,
                         const double py[], double pf[])
 {
     const Integer *const ends = comm.mesh + 6 * static_cast<std::ptrdiff_t>(comm.m) + 1;
-    TriangleWalk walk{{comm.m, comm.mesh, ends}, comm.x, comm.y};
+    TriangleWalk walk{{comm.m, comm.mesh, ends},
+                      {comm.grads + 2 * static_cast<std::ptrdiff_t>(comm.m), ends + comm.m},
+                      comm.x,
+                      comm.y};
     bool warned = false;
     for (Integer r = 0; r < n; ++r) {
         const Point p{px[r], py[r]};

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "approx/cell_grid.hpp"
 #include "approx/delaunay.hpp"
 
 namespace kor::approx {
@@ -17,7 +18,8 @@ enum class Place { inside, outside, invalid };
 // Walks over a triangulation that its owner may have spoilt: every index is tested, and the steps are counted.
 class TriangleWalk {
   public:
-    TriangleWalk(const NeighbourLists &mesh, const double *x, const double *y) : mesh_{mesh}, x_{x}, y_{y}
+    TriangleWalk(const NeighbourLists &mesh, const CellGrid &cells, const double *x, const double *y)
+        : mesh_{mesh}, cells_{cells}, x_{x}, y_{y}
     {
         valid_ = first_triangle(0, here_);
     }
@@ -26,7 +28,7 @@ class TriangleWalk {
     // the nearest to p.
     Place find(const Point &p)
     {
-        constexpr int near = 12; // steps after which it is quicker to jump
+        constexpr int near = 6; // steps after which it is quicker to jump
         if (!valid_) return Place::invalid;
         Place place = Place::invalid;
         if (walk(p, near, place)) return place;
@@ -91,19 +93,25 @@ class TriangleWalk {
         return false;
     }
 
-    // To the nearest of some nodes.
+    // To the nearest of some nodes: those of the same cell, or, where it is empty, some of all.
     void jump(const Point &p)
     {
-        const auto samples = static_cast<Integer>(std::cbrt(static_cast<double>(mesh_.m))) + 1;
-        const Integer stride = mesh_.m / samples + 1;
+        constexpr Integer most = 8;
         double least = distance_to_node(here_.node[0], p);
-        for (Integer node = 0; node < mesh_.m; node += stride) {
+        bool found = false;
+        const auto consider = [&](Integer node) {
             const double d = distance_to_node(node, p);
             Triangle there;
-            if (!(d < least) || !first_triangle(node, there)) continue;
+            if (!(d < least) || !first_triangle(node, there)) return;
             least = d;
             here_ = there;
-        }
+            found = true;
+        };
+        cells_.some_near(mesh_.m, p.x, p.y, most, consider);
+        if (found) return;
+        const auto samples = static_cast<Integer>(std::cbrt(static_cast<double>(mesh_.m))) + 1;
+        const Integer stride = mesh_.m / samples + 1;
+        for (Integer node = 0; node < mesh_.m; node += stride) consider(node);
     }
 
     double distance_to_node(Integer node, const Point &p) const { return std::hypot(p.x - x_[node], p.y - y_[node]); }
@@ -163,6 +171,7 @@ class TriangleWalk {
 
   private:
     NeighbourLists mesh_;
+    CellGrid cells_;
     const double *x_, *y_;
     Triangle here_{};
     bool valid_;

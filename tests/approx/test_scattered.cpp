@@ -359,7 +359,7 @@ TEST(Scattered, SpoiltRecords)
     EXPECT_REPORT(fail, NE_STRUCT_CORRUPT, "comm", "kor_2d_scat_interpolant(e01sac)");
     // Whatever stands in the lists, the walk ends and stays within the arrays.
     std::mt19937_64 random{9};
-    std::vector<Integer> mesh(surface.mesh, surface.mesh + 7 * points.size() + 1);
+    std::vector<Integer> mesh(surface.mesh, surface.mesh + 9 * points.size() + 5);
     for (int trial = 0; trial < 300; ++trial) {
         auto spoilt = mesh;
         for (int k = 0; k < 1 + trial % 40; ++k)
