@@ -61,15 +61,28 @@ struct Knots {
     }
 };
 
+// The reciprocals of the lengths of all runs of 1, 2, 3 knot intervals about span l: run r of k intervals ends at knot
+// l+1+r. All at once, so that no division waits for another.
+struct RunReciprocals {
+    double of[kDegree][kDegree];
+
+    RunReciprocals(const double *t, std::ptrdiff_t l)
+    {
+        for (int k = 1; k <= kDegree; ++k)
+            for (int r = 0; r < k; ++r) of[k - 1][r] = 1.0 / (t[l + 1 + r] - t[l + 1 + r - k]);
+    }
+};
+
 // The four B-splines that live on span l, at x: non-negative, with sum 1.
 inline void basis_values(const double *t, std::ptrdiff_t l, double x, double b[kOrder])
 {
+    const RunReciprocals reciprocals{t, l};
     b[0] = 1.0;
     for (int k = 1; k <= kDegree; ++k) {
         double carried = 0.0;
         for (int r = 0; r < k; ++r) {
             const double right = t[l + 1 + r], left = t[l + 1 + r - k];
-            const double share = b[r] / (right - left);
+            const double share = b[r] * reciprocals.of[k - 1][r];
             b[r] = carried + share * (right - x);
             carried = share * (x - left);
         }
@@ -80,12 +93,13 @@ inline void basis_values(const double *t, std::ptrdiff_t l, double x, double b[k
 // sum c[i] B_i(x) on span l: averages of the coefficients, so that no digits are lost.
 inline double spline_value(const double *t, const double *c, std::ptrdiff_t l, double x)
 {
+    const RunReciprocals reciprocals{t, l};
     double d[kOrder];
     for (int j = 0; j < kOrder; ++j) d[j] = c[l - kDegree + j];
     for (int k = kDegree; k >= 1; --k) {
         for (int j = 0; j < k; ++j) {
-            const double left = t[l + 1 + j - k], right = t[l + 1 + j];
-            d[j] = (d[j] * (right - x) + d[j + 1] * (x - left)) / (right - left);
+            const double left = t[l + 1 + j - k], right = t[l + 1 + j], reciprocal = reciprocals.of[k - 1][j];
+            d[j] = d[j] * ((right - x) * reciprocal) + d[j + 1] * ((x - left) * reciprocal);
         }
     }
     return d[0];

@@ -16,7 +16,7 @@ double value_in_the_middle(Integer n, const double a[], double x)
 {
     double b1 = 0.0, b2 = 0.0;
     for (Integer k = n; k >= 1; --k) {
-        const double b = 2.0 * x * b1 - b2 + a[k];
+        const double b = (a[k] - b2) + 2.0 * x * b1;
         b2 = b1;
         b1 = b;
     }
@@ -31,7 +31,7 @@ double value_near_an_end(Integer n, const double a[], double x, double sign)
     double difference = 0.0, b = 0.0;
     double alternating = (n & 1) != 0 ? sign : 1.0;
     for (Integer k = n; k >= 1; --k, alternating *= sign) {
-        difference += alternating * a[k] - d * b;
+        difference = (difference + alternating * a[k]) - d * b;
         b += difference;
     }
     return 0.5 * a[0] + (difference - 0.5 * d * b);

@@ -37,11 +37,11 @@ struct HermiteCubic {
         const double h = x[i + 1] - x[i];
         const bool upper = p - x[i] > x[i + 1] - p;
         const Integer near = i + upper, far = i + !upper;
-        const double step = upper ? -h : h;
+        const double reciprocal = 1.0 / (upper ? -h : h);
         const double u = p - x[near];
-        const double slope = (f[far] - f[near]) / step;
-        const double e1 = (d[near] - slope) / step, e2 = (d[far] - slope) / step;
-        const double c2 = -(e1 + e1 + e2), c3 = (e1 + e2) / step;
+        const double slope = (f[far] - f[near]) * reciprocal;
+        const double e1 = (d[near] - slope) * reciprocal, e2 = (d[far] - slope) * reciprocal;
+        const double c2 = -(e1 + e1 + e2), c3 = (e1 + e2) * reciprocal;
         return {f[near] + u * (d[near] + u * (c2 + u * c3)), d[near] + u * (2.0 * c2 + u * 3.0 * c3)};
     }
 
