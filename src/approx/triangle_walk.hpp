@@ -38,6 +38,21 @@ class TriangleWalk {
         return Place::invalid;
     }
 
+    // The point of the segment from a to b that is nearest to p.
+    static Point nearest_on_edge(const Point &p, const Point &a, const Point &b)
+    {
+        const double t = share_along(p, a, b);
+        return t == 1.0 ? b : Point{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
+    }
+
+    // Its place on the segment, from 0 to 1.
+    static double share_along(const Point &p, const Point &a, const Point &b)
+    {
+        const double ex = b.x - a.x, ey = b.y - a.y, length = std::hypot(ex, ey);
+        const double t = ((p.x - a.x) / length * (ex / length) + (p.y - a.y) / length * (ey / length));
+        return std::fmin(std::fmax(t, 0.0), 1.0);
+    }
+
     const Triangle &triangle() const { return here_; }
     Point point(Integer node) const { return {x_[node], y_[node]}; }
 
@@ -153,23 +168,6 @@ class TriangleWalk {
         return false;
     }
 
-  public:
-    // The point of the segment from a to b that is nearest to p.
-    static Point nearest_on_edge(const Point &p, const Point &a, const Point &b)
-    {
-        const double t = share_along(p, a, b);
-        return t == 1.0 ? b : Point{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
-    }
-
-    // Its place on the segment, from 0 to 1.
-    static double share_along(const Point &p, const Point &a, const Point &b)
-    {
-        const double ex = b.x - a.x, ey = b.y - a.y, length = std::hypot(ex, ey);
-        const double t = ((p.x - a.x) / length * (ex / length) + (p.y - a.y) / length * (ey / length));
-        return std::fmin(std::fmax(t, 0.0), 1.0);
-    }
-
-  private:
     NeighbourLists mesh_;
     CellGrid cells_;
     const double *x_, *y_;

@@ -66,9 +66,8 @@ class DeficientTriangle {
             small.add_row(0, small_row_.data(), free_count_, c[i]);
         }
         for (Integer k = 0; k < free_count_; ++k) {
-            double one = 1.0;
             std::fill_n(small_row_.data(), free_count_, 0.0);
-            small_row_[0] = one;
+            small_row_[0] = 1.0;
             small.add_row(k, small_row_.data(), free_count_ - k, 0.0);
         }
         small.solve(small_c_.data());
