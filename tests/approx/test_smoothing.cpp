@@ -24,9 +24,19 @@ void release(Array *&array)
     x04bdc(reinterpret_cast<void **>(&array));
 }
 
+// A cold start does not look at what it overwrites.
+template <class Spline, class Memory>
+void prepare(Integer start, Spline &spline, Memory &memory)
+{
+    if (start != Kor_Cold) return;
+    spline.clear();
+    memory.clear();
+}
+
 struct Memory : KorSplineWarm {
     Memory() : KorSplineWarm{} {}
-    ~Memory()
+    ~Memory() { clear(); }
+    void clear()
     {
         release(wrk);
         release(iwrk);
@@ -35,7 +45,8 @@ struct Memory : KorSplineWarm {
 
 struct Curve : KorSpline {
     Curve() : KorSpline{} {}
-    ~Curve()
+    ~Curve() { clear(); }
+    void clear()
     {
         release(lamda);
         release(c);
@@ -46,7 +57,8 @@ struct Curve : KorSpline {
 
 struct Surface : KorSpline2D {
     Surface() : KorSpline2D{} {}
-    ~Surface()
+    ~Surface() { clear(); }
+    void clear()
     {
         release(lamda);
         release(mu);
@@ -130,6 +142,7 @@ TEST(SmoothingCurve, WarmStartsContinue)
     Record fail;
     double fp;
     const auto fit = [&](Integer start, double s, Integer nest) {
+        prepare(start, spline, memory);
         e02bec(start, 300, data.x.data(), data.y.data(), data.w.data(), s, nest, &fp, &memory, &spline, &fail);
     };
     fit(Kor_Cold, 300.0, 304);
@@ -276,6 +289,7 @@ TEST(SmoothingGrid, WarmStartsContinue)
     Record fail;
     double fp;
     const auto fit = [&](Integer start, double s, Integer nxest, Integer nyest) {
+        prepare(start, spline, memory);
         e02dcc(start, 25, grid.x.data(), 35, grid.y.data(), grid.f.data(), s, nxest, nyest, &fp, &memory, &spline,
                &fail);
     };
