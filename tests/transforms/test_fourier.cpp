@@ -131,11 +131,12 @@ TEST(Fourier, AllShortLengths)
 TEST(Fourier, LongerLengths)
 {
     // Powers of each radix and mixtures; lengths with and without mirrored factors, around the size of a block on the
-    // stack, with none but single factors; large primes, p - 1 smooth and not, alone and with others.
+    // stack, with none but single factors; sweeps that leave a few columns over; large primes, p - 1 smooth and not, alone and with others.
     for (const Integer n :
-         {1000, 1001, 1024, 1296,  1728,     2047,     2048,    2187,     2401,     2310,    3125,   4096,  4097, 5040,
-          6859, 7776, 8192, 15625, 16384,    28561,    30030,   32768,    44100,    59049,   65536,  67,    127,  521,
-          1009, 2017, 5003, 10007, 2 * 5003, 3 * 4093, 67 * 71, 16 * 131, 9 * 1021, 83 * 64, 510510, 131072})
+         {1000,  1001,  1024,  1296,     1728,     2047,    2048,     2187,     2401,    2310,   3125,
+          4096,  4097,  5040,  6859,     7776,     8192,    15625,    16384,    28561,   30030,  32768,
+          44100, 59049, 65536, 67,       127,      521,     1009,     2017,     5003,    10007,  2052,
+          2057,  2058,  2178,  2 * 5003, 3 * 4093, 67 * 71, 16 * 131, 9 * 1021, 83 * 64, 510510, 131072})
         check_length(n, some_frequencies(n));
 }
 
