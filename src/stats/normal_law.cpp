@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace kor::stats {
 
@@ -14,6 +15,9 @@ using special::DoubleDouble;
 constexpr double kRootTwoPi = 2.5066282746310002;
 constexpr DoubleDouble kRootHalf{0.7071067811865476, -4.833646656726457e-17};
 constexpr double kCentral = 0.425; // up to here the probability is measured from the median
+
+// Half of the least probability is 0, and its quantile is not infinite.
+constexpr double kLeast = std::numeric_limits<double>::denorm_min();
 
 // Numerators and denominators: of x / half in kCentral^2 - half^2; of x in r - 1.6 and in r - 5, r = sqrt(-ln q).
 using Coefficients = std::array<double, 8>;
@@ -84,6 +88,7 @@ double rough_normal_upper_quantile(double q)
 {
     constexpr double kMiddle = 1.6, kFar = 5.0;
     if (q > 0.5) return -rough_normal_upper_quantile(1.0 - q);
+    q = std::fmax(q, kLeast);
     if (0.5 - q <= kCentral) return rough_central_quantile(0.5 - q);
     const double r = std::sqrt(-std::log(q));
     if (r <= kFar) return special::polynomial(kTailTop, r - kMiddle) / special::polynomial(kTailBottom, r - kMiddle);
@@ -104,6 +109,7 @@ double normal_central_quantile(double half)
 double normal_upper_quantile(double q)
 {
     if (std::isnan(q)) return q;
+    q = std::fmax(q, kLeast);
     if (0.5 - q <= kCentral) return normal_central_quantile(0.5 - q);
     const double x = rough_normal_upper_quantile(q);
     return halley(x, upper_residual(x, q));

@@ -127,6 +127,20 @@ TEST(Laws, QuantilesOfExtremeTailsConvergeAndAreMonotone)
         }
 }
 
+// The least probability that there is, which cannot be halved.
+TEST(Laws, QuantilesOfTheLeastProbability)
+{
+    Record fail;
+    constexpr double kLeast = std::numeric_limits<double>::denorm_min();
+    EXPECT_NEAR(g01fac(Kor_TwoTailSignif, kLeast, &fail), 38.47, 0.02);
+    for (const double df : {1e3, 1e10, 1e22}) {
+        const double t = g01fbc(Kor_TwoTailSignif, kLeast, df, &fail);
+        EXPECT_SUCCESS(fail);
+        EXPECT_GT(t, 38.0) << df;
+        EXPECT_LT(t, 60.0) << df;
+    }
+}
+
 // Closed forms: t with 1 and 2 degrees of freedom, chi-squared with 2, the uniform law.
 TEST(Laws, ClosedForms)
 {
