@@ -82,8 +82,9 @@ double bivariate_normal_lower(double x, double y, double rho)
 {
     constexpr double kNearOne = 0.925;
     if (std::isnan(x) || std::isnan(y) || std::isnan(rho)) return NAN;
-    if (std::fmin(x, y) == -HUGE_VAL) return 0.0;
-    if (std::fmax(x, y) == HUGE_VAL) return normal_lower(std::fmin(x, y));
+    constexpr double kInfinite = 40.0; // as good as infinite: the normal tail underflows before
+    if (std::fmin(x, y) < -kInfinite) return 0.0;
+    if (std::fmax(x, y) > kInfinite) return normal_lower(std::fmin(x, y));
     if (rho == 0.0) return normal_lower(x) * normal_lower(y);
     if (x == 0.0 && y == 0.0) return 0.25 + std::asin(rho) / (2.0 * kPi);
     if (std::fabs(rho) < kNearOne) return std::clamp(from_independence(x, y, rho), 0.0, 1.0);

@@ -20,6 +20,7 @@ double g01gcc(double x, double df, double lambda, double tol, Integer max_iter, 
     if (x == 0.0) return report.success(), df == 0.0 ? std::exp(-0.5 * lambda) : 0.0;
     if (lambda == 0.0) return report.success(), kor::stats::gamma_tails(0.5 * df, 0.5 * x).lower;
     if (std::isinf(x)) return report.success(), 1.0;
+    if (std::isinf(df) || std::isinf(lambda)) return report.success(), 0.0;
 
     const kor::stats::MixtureSum sum =
         kor::stats::noncentral_chi_squared(x, df, lambda, {kor::stats::effective_tolerance(tol), max_iter});

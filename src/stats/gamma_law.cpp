@@ -44,6 +44,8 @@ double start_quantile(double a, Target target)
 
 Tails gamma_tails(double a, double x)
 {
+    constexpr double kLargeShape = 16.0, kVanishing = 1e-250; // together they leave nothing, nor could quotients tell
+    if (a >= kLargeShape && x < kVanishing) return {0.0, 1.0};
     const special::IncompleteGamma ratios = special::incomplete_gamma(a, x);
     return {ratios.p, ratios.q};
 }

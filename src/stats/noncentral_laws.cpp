@@ -33,6 +33,7 @@ MixtureSum sum_mixture(double mean, double a, MixtureLimits limits, const Centra
     double below = -1.0, peak = std::ceil(mean);
     while (peak - below > 1.0) {
         const double middle = std::floor(0.5 * (below + peak));
+        if (middle <= below || middle >= peak) break; // no integer lies between that a double could tell
         (ratio(middle) > 1.0 ? below : peak) = middle;
     }
     double top = peak, bound = 1.0;

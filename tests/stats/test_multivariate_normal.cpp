@@ -50,6 +50,8 @@ TEST(BivariateNormal, ClosedForms)
         }
     EXPECT_EQ(g01hac(kInfinity, 0.5, 0.3, &fail), phi(0.5));
     EXPECT_EQ(g01hac(kInfinity, -kInfinity, 0.3, &fail), 0.0);
+    EXPECT_EQ(g01hac(1e308, 1e308, 0.3, &fail), 1.0);
+    EXPECT_EQ(g01hac(-1e308, 37.0, -0.3, &fail), 0.0);
     EXPECT_TRUE(std::isnan(g01hac(kNan, 0.0, 0.0, &fail)));
     EXPECT_SUCCESS(fail);
     EXPECT_EQ(g01hac(0.0, 0.0, 1.5, &fail), 0.0);

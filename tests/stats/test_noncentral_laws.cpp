@@ -90,6 +90,7 @@ TEST(NoncentralLaws, LimitsAndTolerance)
     EXPECT_EQ(g01gcc(0.0, 0.0, 2.0, 0.0, 10, &fail), std::exp(-1.0));
     EXPECT_EQ(g01gcc(0.0, 1.0, 2.0, 0.0, 10, &fail), 0.0);
     EXPECT_EQ(g01gcc(kInfinity, 1.0, 2.0, 0.0, 10, &fail), 1.0);
+    EXPECT_EQ(g01gcc(3.0, 1.0, kInfinity, 0.0, 10, &fail), 0.0);
     EXPECT_EQ(g01gcc(3.0, 4.0, 0.0, 0.0, 10, &fail), g01ecc(Kor_LowerTail, 3.0, 4.0, &fail));
     EXPECT_EQ(g01gdc(kInfinity, 1.0, 2.0, 3.0, 0.0, 10, &fail), 1.0);
     EXPECT_EQ(g01gec(1.0, 1.0, 2.0, 3.0, 0.0, 10, &fail), 1.0);
