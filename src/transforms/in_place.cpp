@@ -1,4 +1,4 @@
-// Transforms of one sequence in place, without tables from the caller and without allocation.
+// Transforms of one sequence in place, without tables from the caller.
 //
 // Real and complex sequences are permuted first; Hermitian ones go the same way backwards. What works on a block, or on a
 // few columns of the array, copies them to the stack, transforms them there as the multiple-sequence engine does, and
@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "frame/workspace.hpp"
 #include "transforms/passes.hpp"
 #include "transforms/root_table.hpp"
 
@@ -99,24 +100,27 @@ void turn_digits(const Index *size, int count, const double *in, double *out)
     }
 }
 
-// The roots for blocks, kept from one call to the next: most programs transform one length again and again.
-const double *table_of_block(Index block)
+// The roots for blocks, kept by each thread from one call to the next: most programs transform one length again and again. They
+// lie on the heap, for a library with much storage of its own for threads cannot be loaded by a running program. Null when there
+// is no memory.
+const double *kept_table(Index block)
 {
     struct Kept {
-        double table[2 * kLargestBlock];
-        Index block;
+        Workspace<double> table;
+        Index block = 0;
     };
     static thread_local Kept kept;
+    if (!kept.table && !kept.table.allocate(Count{2} * kLargestBlock)) return nullptr;
     if (kept.block != block) {
-        fill_root_table(block, kept.table);
+        fill_root_table(block, kept.table.data());
         kept.block = block;
     }
-    return kept.table;
+    return kept.table.data();
 }
 
-void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, Stack &stack)
+void transform_blocks(const Dimensions &d, const double *table, Kind kind, Sequence x, double scale, Stack &stack)
 {
-    const Plan plan{kind, d.block, table_of_block(d.block)};
+    const Plan plan{kind, d.block, table};
     const int dimensions = d.count - d.block_from;
     const Index *const size = d.size + d.block_from;
     const bool complex = kind == Kind::complex;
@@ -135,6 +139,15 @@ void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, 
             plan.transform(straight, block, scale, stack.work);
         }
     }
+}
+
+void transform_blocks(const Dimensions &d, Kind kind, Sequence x, double scale, Stack &stack)
+{
+    if (const double *const table = kept_table(d.block); table != nullptr)
+        return transform_blocks(d, table, kind, x, scale, stack);
+    double table[2 * kLargestBlock];
+    fill_root_table(d.block, table);
+    transform_blocks(d, table, kind, x, scale, stack);
 }
 
 // The sweep for one dimension of size L: it joins the elements f + v l of contiguous blocks of L v, or packed Hermitian

@@ -1,4 +1,4 @@
-// Transforms of one sequence in place, without tables from the caller and without allocation.
+// Transforms of one sequence in place, without tables from the caller.
 #pragma once
 
 #include "transforms/in_place_factors.hpp"
