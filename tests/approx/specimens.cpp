@@ -194,7 +194,7 @@ KOR_SPECIMEN(e01sac)
     KorScatterRecord comm{};
     KorScatterOptions options{2.0, 3.0, 1, 1, 0};
     call([&](KorError *fail) { e01sac(Kor_Shep, 8, kPlaneX, kPlaneY, kPlaneF, &comm, &options, fail); });
-    outputs(options);
+    outputs(options.rnw, options.rnq, options.nw, options.nq, options.minnq);
     if (comm.has_memory) outputs(comm.quad, 40);
     e01szc(&comm);
 }
