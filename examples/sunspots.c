@@ -44,14 +44,17 @@ static void draw(const char *path, const double *power, double most)
     int k, i;
     FILE *file = fopen(path, "w");
     if (file == NULL) return;
-    fprintf(file, "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %g %g\" font-family=\"sans-serif\" font-size=\"12\">\n",
+    fprintf(file,
+            "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %g %g\" font-family=\"sans-serif\" "
+            "font-size=\"12\">\n",
             width + 2.0 * left, height + 70.0);
     fprintf(file, "<rect width=\"100%%\" height=\"100%%\" fill=\"white\"/>\n");
     fprintf(file, "<path d=\"M%g %gh%g\" stroke=\"black\" fill=\"none\"/>\n", left, top + height, width);
     for (i = 0; i < 6; ++i) {
         const double x = left + width / (periods[i] * highest);
-        fprintf(file, "<path d=\"M%.1f %gv6\" stroke=\"black\"/><text x=\"%.1f\" y=\"%g\" text-anchor=\"middle\">%d</text>\n", x,
-                top + height, x, top + height + 20.0, periods[i]);
+        fprintf(file,
+                "<path d=\"M%.1f %gv6\" stroke=\"black\"/><text x=\"%.1f\" y=\"%g\" text-anchor=\"middle\">%d</text>\n",
+                x, top + height, x, top + height + 20.0, periods[i]);
     }
     fprintf(file, "<text x=\"%g\" y=\"%g\" text-anchor=\"middle\">period in years</text>\n", left + 0.5 * width,
             top + height + 42.0);

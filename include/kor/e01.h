@@ -21,16 +21,18 @@ typedef struct {
     double *y;          ///< `m` ordinates, a copy
     double *f;          ///< `m` values, a copy
     double *quad;       ///< Kor_Shep: 5 `m` coefficients of the nodal quadratics
-    Integer *mesh;      ///< Kor_RC: the triangulation, lists of neighbours (6 `m`+1) and their ends (`m`); then, and for
-                        ///< Kor_Shep alone, the points by cells
-    double *grads;      ///< Kor_RC: 2 `m` partial derivatives at the nodes, in x and y in turn; then, and for Kor_Shep alone,
-                        ///< the frame of the cells
+    Integer *mesh; ///< Kor_RC: the triangulation, lists of neighbours (6 `m`+1) and their ends (`m`); then, and for
+                   ///< Kor_Shep alone, the points by cells
+    double
+        *grads; ///< Kor_RC: 2 `m` partial derivatives at the nodes, in x and y in turn; then, and for Kor_Shep alone,
+                ///< the frame of the cells
 } KorScatterRecord;
 
 /// Choices for the method Kor_Shep of e01sac().
 typedef struct {
-    double rnw;    ///< radius of the weights
-    double rnq;    ///< radius of the fits; if greater than 0, both radii are taken as they are, and `nw` and `nq` are set to 0
+    double rnw; ///< radius of the weights
+    double
+        rnq; ///< radius of the fits; if greater than 0, both radii are taken as they are, and `nw` and `nq` are set to 0
     Integer nw;    ///< nodes that the radius of the weights shall hold on average
     Integer nq;    ///< the same for the radius of the fits; 0 or less: `nw` = 9 and `nq` = 18
     Integer minnq; ///< on exit: the least number of other nodes within `rnq` of a node

@@ -85,8 +85,8 @@ typedef struct {
 /// double x[5] = {0, 1, 2, 3, 4}, y[5] = {1, 2, 5, 10, 17}, w[5] = {1, 1, 1, 1, 1}, a[9], s[3];
 /// e02adc(5, 3, 3, x, y, w, a, s, &fail);   // a[6..8] = {14, 8, 2}: y = 1 + x^2; s[2] = 0
 /// \endcode
-void e02adc(Integer m, Integer kplus1, Integer tda, const double x[], const double y[], const double weights[], double a[],
-            double s[], KorError *fail);
+void e02adc(Integer m, Integer kplus1, Integer tda, const double x[], const double y[], const double weights[],
+            double a[], double s[], KorError *fail);
 
 /// \brief The value of a Chebyshev series.
 ///
@@ -337,8 +337,8 @@ void e02bdc(double *integral, const KorSpline *spline, KorError *fail);
 /// x04bdc((void **)&state.wrk);
 /// x04bdc((void **)&state.iwrk);
 /// \endcode
-void e02bec(Integer start, Integer m, const double x[], const double y[], const double weights[], double s, Integer nest,
-            double *fp, KorSplineWarm *warmstartinf, KorSpline *spline, KorError *fail);
+void e02bec(Integer start, Integer m, const double x[], const double y[], const double weights[], double s,
+            Integer nest, double *fp, KorSplineWarm *warmstartinf, KorSpline *spline, KorError *fail);
 
 /// \brief Values of a bicubic spline at points that are linked panel by panel.
 ///
@@ -372,8 +372,8 @@ void e02bec(Integer start, Integer m, const double x[], const double y[], const 
 /// e02zac(spline.nx, spline.ny, spline.lamda, spline.mu, m, x, y, point, npoint, &fail);
 /// e02dbc(m, x, y, ff, point, &spline, &fail);
 /// \endcode
-void e02dbc(Integer m, const double x[], const double y[], double ff[], const Integer point[], const KorSpline2D *spline,
-            KorError *fail);
+void e02dbc(Integer m, const double x[], const double y[], double ff[], const Integer point[],
+            const KorSpline2D *spline, KorError *fail);
 
 /// \brief The smoothing bicubic spline for values on a rectangular grid.
 ///
@@ -488,9 +488,9 @@ void e02dcc(Integer start, Integer mx, const double x[], Integer my, const doubl
 /// Integer rank;
 /// e02ddc(Kor_Cold, m, x, y, f, weights, m, 20, 20, &fp, &rank, NULL, &spline, &fail);
 /// \endcode
-void e02ddc(Integer start, Integer m, const double x[], const double y[], const double f[], const double weights[], double s,
-            Integer nxest, Integer nyest, double *fp, Integer *rank, KorSplineWarm *warmstartinf, KorSpline2D *spline,
-            KorError *fail);
+void e02ddc(Integer start, Integer m, const double x[], const double y[], const double f[], const double weights[],
+            double s, Integer nxest, Integer nyest, double *fp, Integer *rank, KorSplineWarm *warmstartinf,
+            KorSpline2D *spline, KorError *fail);
 
 /// \brief Values of a bicubic spline at a list of points.
 ///
@@ -590,8 +590,8 @@ void e02dfc(Integer mx, Integer my, const double x[], const double y[], double f
 /// for (Integer r = point[m + q]; r != 0; r = point[r - 1])
 ///     printf("%g %g\n", x[r - 1], y[r - 1]);   // the points of panel q
 /// \endcode
-void e02zac(Integer px, Integer py, const double lamda[], const double mu[], Integer m, const double x[], const double y[],
-            Integer point[], Integer npoint, KorError *fail);
+void e02zac(Integer px, Integer py, const double lamda[], const double mu[], Integer m, const double x[],
+            const double y[], Integer point[], Integer npoint, KorError *fail);
 
 KOR_END_DECLS
 

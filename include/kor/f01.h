@@ -372,8 +372,8 @@ void f01qdc(Integer trans, Integer wheret, Integer m, Integer n, const double a[
 /// f01qcc(2, 1, a, 1, zeta, &fail);
 /// f01qec(Kor_ElementsSeparate, 2, 1, 1, a, 1, zeta, &fail);   // a = {-0.6, -0.8}
 /// \endcode
-void f01qec(Integer wheret, Integer m, Integer n, Integer ncolq, double a[], Integer tda, const double zeta[], KorError
-            *fail);
+void f01qec(Integer wheret, Integer m, Integer n, Integer ncolq, double a[], Integer tda, const double zeta[],
+            KorError *fail);
 
 /// \brief QR factorisation of a real matrix with interchanges of columns.
 ///
@@ -494,8 +494,8 @@ void f01qjc(Integer m, Integer n, double a[], Integer tda, double zeta[], KorErr
 /// f01qjc(1, 2, a, 2, zeta, &fail);
 /// f01qkc(Kor_ElementsSeparate, 1, 2, 1, a, 2, zeta, &fail);   // a = {-0.6, -0.8}
 /// \endcode
-void f01qkc(Integer wheret, Integer m, Integer n, Integer nrowp, double a[], Integer tda, const double zeta[], KorError
-            *fail);
+void f01qkc(Integer wheret, Integer m, Integer n, Integer nrowp, double a[], Integer tda, const double zeta[],
+            KorError *fail);
 
 /// \brief QR factorisation of a complex matrix.
 ///
@@ -815,8 +815,8 @@ void f01qbc(Integer m, Integer n, double a[], Integer tda, double c[], Integer t
 /// f01lzc(2, r, 2, c, 2, 0, NULL, 0, 0, NULL, 0, 0, 0, NULL, 0, 0, d, e, &fail);   // |d[0] d[1]| = 3
 /// \endcode
 void f01lzc(Integer n, double a[], Integer tda, double c[], Integer tdc, Boolean want_b, double b[], Boolean want_q,
-            Boolean want_y, double y[], Integer tdy, Integer ncol_y, Boolean want_z, double z[], Integer tdz, Integer
-            ncol_z, double d[], double e[], KorError *fail);
+            Boolean want_y, double y[], Integer tdy, Integer ncol_y, Boolean want_z, double z[], Integer tdz,
+            Integer ncol_z, double d[], double e[], KorError *fail);
 
 // Reductions towards eigenvalues and singular values
 
@@ -875,7 +875,8 @@ Integer f01aec(Integer n, double a[], Integer tda, double b[], Integer tdb, doub
 /// f02amc(2, x02ajc(), d, e, z, 2, &fail);
 /// f01afc(2, 1, 2, b, 2, dl, z, 2);      // the columns of z solve A x = d[j] B x
 /// \endcode
-void f01afc(Integer n, Integer m1, Integer m2, const double b[], Integer tdb, const double dl[], double z[], Integer tdz);
+void f01afc(Integer n, Integer m1, Integer m2, const double b[], Integer tdb, const double dl[], double z[],
+            Integer tdz);
 
 /// \brief Reduces a real symmetric matrix to tridiagonal form, for its eigenvalues.
 ///

@@ -461,8 +461,8 @@ void f02aqc(Integer n, Integer low, Integer high, double eps, double h[], Intege
 /// Integer m;
 /// f02ecc(Kor_Select_Modulus, 2, a, 2, 2.0, 4.0, 1, &m, w, v, 1, &fail);   // m = 1, w[0] = 3, v = (0.707, 0.707)
 /// \endcode
-void f02ecc(Integer crit, Integer n, double a[], Integer tda, double wl, double wu, Integer mest, Integer *m, Complex w[],
-            Complex v[], Integer tdv, KorError *fail);
+void f02ecc(Integer crit, Integer n, double a[], Integer tda, double wl, double wu, Integer mest, Integer *m,
+            Complex w[], Complex v[], Integer tdv, KorError *fail);
 
 /// \brief Selected eigenvalues and eigenvectors of a complex general matrix.
 ///
@@ -496,8 +496,8 @@ void f02ecc(Integer crit, Integer n, double a[], Integer tda, double wl, double 
 /// Integer m;
 /// f02gcc(Kor_Select_RealPart, 2, a, 2, 1.0, 4.0, 1, &m, w, v, 1, &fail);   // m = 1, w[0] = 3, v = (0, 1)
 /// \endcode
-void f02gcc(Integer crit, Integer n, Complex a[], Integer tda, double wl, double wu, Integer mest, Integer *m, Complex w[],
-            Complex v[], Integer tdv, KorError *fail);
+void f02gcc(Integer crit, Integer n, Complex a[], Integer tda, double wl, double wu, Integer mest, Integer *m,
+            Complex w[], Complex v[], Integer tdv, KorError *fail);
 
 /// \brief Eigenvalues and eigenvectors of a pair of real matrices, A x = lambda B x, by the QZ algorithm.
 ///
@@ -598,8 +598,8 @@ void f02bjc(Integer n, double a[], Integer tda, double b[], Integer tdb, double 
 /// Integer iter, failinfo;
 /// f02wec(3, 2, a, 2, 0, 0, 0, 1, 0, 0, sv, 1, pt, 2, &iter, e, &failinfo, &fail);   // sv = {5, 0}
 /// \endcode
-void f02wec(Integer m, Integer n, double a[], Integer tda, Integer ncolb, double b[], Integer tdb, Boolean wantq, double q[],
-            Integer tdq, double sv[], Boolean wantp, double pt[], Integer tdpt, Integer *iter, double e[],
+void f02wec(Integer m, Integer n, double a[], Integer tda, Integer ncolb, double b[], Integer tdb, Boolean wantq,
+            double q[], Integer tdq, double sv[], Boolean wantp, double pt[], Integer tdpt, Integer *iter, double e[],
             Integer *failinfo, KorError *fail);
 
 /// \brief Singular value decomposition of a complex rectangular matrix.
@@ -887,8 +887,8 @@ void f02uxc(Integer n, Complex a[], Integer tda, Integer ncoly, Complex y[], Int
 /// Integer iter, failinfo;
 /// f02syc(2, d, e, 0, 0, 0, 0, 0, 0, 0, 0, 0, &iter, &failinfo, &fail);   // d = {6.405, 1.405}
 /// \endcode
-void f02syc(Integer n, double d[], double e[], Integer ncolb, double b[], Integer tdb, Integer nrowy, double y[], Integer tdy,
-            Integer ncolz, double z[], Integer tdz, Integer *iter, Integer *failinfo, KorError *fail);
+void f02syc(Integer n, double d[], double e[], Integer ncolb, double b[], Integer tdb, Integer nrowy, double y[],
+            Integer tdy, Integer ncolz, double z[], Integer tdz, Integer *iter, Integer *failinfo, KorError *fail);
 
 /// \brief Singular value decomposition of a real upper bidiagonal matrix, B = Q S P', its vectors applied to complex matrices.
 ///
@@ -1047,8 +1047,8 @@ void f02wbc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double
 /// f02wdc(2, 2, a, 2, 0, 0, 1e-10, &svd, &irank, z, sv, 0, 0, 0, 0, 0, 0, work, 2, &fail);   // svd = 1, irank = 1, sv[0] = 2
 /// \endcode
 void f02wdc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double b[], double tol, Boolean *svd,
-            Integer *irank, double z[], double sv[], Boolean wantr, double r[], Integer tdr, Boolean wantpt, double pt[],
-            Integer tdpt, double work[], Integer lwork, KorError *fail);
+            Integer *irank, double z[], double sv[], Boolean wantr, double r[], Integer tdr, Boolean wantpt,
+            double pt[], Integer tdpt, double work[], Integer lwork, KorError *fail);
 
 KOR_END_DECLS
 

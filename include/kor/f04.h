@@ -322,8 +322,8 @@ void f04asc(Integer n, double a[], Integer tda, const double b[], double x[], do
 /// double a[] = {1.0, 2.0, 3.0, 4.0}, b[] = {5.0, 11.0}, x[2], factors[4], rest[2];
 /// f04aec(2, 1, a, 2, b, 1, x, 1, factors, 2, rest, 1, &fail);   // x = {1, 2}
 /// \endcode
-void f04aec(Integer n, Integer nrhs, const double a[], Integer tda, const double b[], Integer tdb, double x[], Integer
-            tdx, double aa[], Integer tdaa, double bb[], Integer tdbb, KorError *fail);
+void f04aec(Integer n, Integer nrhs, const double a[], Integer tda, const double b[], Integer tdb, double x[],
+            Integer tdx, double aa[], Integer tdaa, double bb[], Integer tdbb, KorError *fail);
 
 /// \brief Solves real linear systems with the factors of f03afc() to full accuracy.
 ///
@@ -372,9 +372,9 @@ void f04aec(Integer n, Integer nrhs, const double a[], Integer tda, const double
 /// f03afc(2, aa, 2, pivot, &det, &dete, &fail);
 /// f04ahc(2, 1, a, 2, aa, 2, pivot, b, 1, x, 1, rest, 1, &iterations, &fail);   // x = {1, 2}
 /// \endcode
-void f04ahc(Integer n, Integer nrhs, const double a[], Integer tda, const double aa[], Integer tdaa, const Integer
-            pivot[], const double b[], Integer tdb, double x[], Integer tdx, double bb[], Integer tdbb, Integer
-            *iterations, KorError *fail);
+void f04ahc(Integer n, Integer nrhs, const double a[], Integer tda, const double aa[], Integer tdaa,
+            const Integer pivot[], const double b[], Integer tdb, double x[], Integer tdx, double bb[], Integer tdbb,
+            Integer *iterations, KorError *fail);
 
 /// \brief Solves real symmetric positive-definite systems with the factor of f03aec() to full accuracy.
 ///
@@ -508,8 +508,8 @@ void f04aac(Integer n, Integer nrhs, double a[], Integer tda, const double b[], 
 /// Integer irank;
 /// f04jac(3, 2, a, 2, b, 1e-10, &svd, &sigma, &irank, work, &fail);   // irank = 1, x = {1, 1}, sigma = 1
 /// \endcode
-void f04jac(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma, Integer
-            *irank, double work[], KorError *fail);
+void f04jac(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma,
+            Integer *irank, double work[], KorError *fail);
 
 /// \brief Least squares of shortest length, with at most as many equations as unknowns, by singular values.
 ///
@@ -556,8 +556,8 @@ void f04jac(Integer m, Integer n, double a[], Integer tda, double b[], double to
 /// Integer irank;
 /// f04jdc(1, 2, a, 2, b, 1e-10, &svd, &sigma, &irank, work, &fail);   // x = {3, 4}: next to the origin
 /// \endcode
-void f04jdc(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma, Integer
-            *irank, double work[], KorError *fail);
+void f04jdc(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma,
+            Integer *irank, double work[], KorError *fail);
 
 /// \brief Least squares, by QR factorisation, or where the rank is in doubt the shortest by singular values.
 ///
@@ -609,8 +609,8 @@ void f04jdc(Integer m, Integer n, double a[], Integer tda, double b[], double to
 /// Integer irank;
 /// f04jgc(3, 2, a, 2, b, 1e-10, &svd, &sigma, &irank, work, &fail);   // y = 0.833333 + 1.5 t, sigma = 0.408248
 /// \endcode
-void f04jgc(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma, Integer
-            *irank, double work[], KorError *fail);
+void f04jgc(Integer m, Integer n, double a[], Integer tda, double b[], double tol, Boolean *svd, double *sigma,
+            Integer *irank, double work[], KorError *fail);
 
 /// \brief Covariances of the solution of a least-squares problem.
 ///
@@ -708,8 +708,8 @@ void f04yac(Integer job, Integer n, double sigma, Integer rank, double a[], Inte
 /// f01mcc(3, a, 5, row, al, d, &fail);
 /// f04mcc(Kor_LDLTX, 3, 1, al, 5, d, row, b, 1, x, 1, &fail);   // x = {1, 1, 1}
 /// \endcode
-void f04mcc(Integer selct, Integer n, Integer nrhs, const double al[], Integer lal, const double d[], const Integer
-            row[], const double b[], Integer tdb, double x[], Integer tdx, KorError *fail);
+void f04mcc(Integer selct, Integer n, Integer nrhs, const double al[], Integer lal, const double d[],
+            const Integer row[], const double b[], Integer tdb, double x[], Integer tdx, KorError *fail);
 
 /// \brief Solves one system with the factors LDL' of a matrix in variable-band storage, in place.
 ///

@@ -40,8 +40,8 @@ template <class... Args>
 {
     const std::string expected = message_of(code, args...);
     if (record.code == code && expected == record.message) return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << "expected " << code << ", \"" << expected << "\", got " << record.code << ", \""
-                                         << record.message << "\"";
+    return ::testing::AssertionFailure() << "expected " << code << ", \"" << expected << "\", got " << record.code
+                                         << ", \"" << record.message << "\"";
 }
 
 #define EXPECT_REPORT(...) EXPECT_TRUE(::kor::testing::holds_report(__VA_ARGS__))

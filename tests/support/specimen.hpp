@@ -45,11 +45,7 @@ class Specimen {
         bytes_.insert(bytes_.end(), first, first + count * sizeof(T));
     }
     template <class... T>
-        requires(... && !std::is_pointer_v<T>)
-    void outputs(const T &...values)
-    {
-        (outputs(&values, 1), ...);
-    }
+    requires(... && !std::is_pointer_v<T>) void outputs(const T &...values) { (outputs(&values, 1), ...); }
 
   private:
     Around around_;

@@ -33,7 +33,8 @@ TEST(Sweep, SuccessClearsTheRecordAndIsReportedOnce)
         EXPECT_EQ(fail.errnum, 0) << routine.routine;
         EXPECT_EQ(reports, 1) << routine.routine;
         // One routine of chapter g05 reports in capitals.
-        std::transform(reporter.begin(), reporter.end(), reporter.begin(), [](unsigned char c) { return std::tolower(c); });
+        std::transform(reporter.begin(), reporter.end(), reporter.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
         EXPECT_EQ(reporter, routine.routine);
     }
 }
