@@ -21,11 +21,19 @@ bool plain_loop(Integer n, Integer incx, Integer incy = 1)
     return n <= kShortVector<T> || incx == 0 || incy == 0;
 }
 
+// Scalar products of complex vectors that are not contiguous are left to the plain loop as well: OpenBLAS 0.3.21 reads elements
+// beyond their ends.
+template <Scalar T>
+bool plain_product(Integer n, Integer incx, Integer incy)
+{
+    return plain_loop<T>(n, incx, incy) || (std::is_same_v<T, Complex> && (incx != 1 || incy != 1));
+}
+
 // conj(x)' y
 template <Scalar T>
 T dot(Integer n, const T *x, Integer incx, const T *y, Integer incy)
 {
-    if (!plain_loop<T>(n, incx, incy)) return blas::dot(n, x, incx, y, incy);
+    if (!plain_product<T>(n, incx, incy)) return blas::dot(n, x, incx, y, incy);
     const Strided<const T> u{x, n, incx}, v{y, n, incy};
     T sum{};
     for (Integer i = 0; i < n; ++i) sum += conj(u[i]) * v[i];

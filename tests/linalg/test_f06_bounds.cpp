@@ -55,5 +55,19 @@ TEST(Bounds, ComplexMatrixTimesStridedVector)
             }
 }
 
+TEST(Bounds, ProductOfStridedComplexVectors)
+{
+    for (const Integer n : {1, 3, 5, 6, 7, 9, 30})
+        for (const Integer inc : {2, -2, 3, -3, 71, -71}) {
+            const Integer step = inc > 0 ? inc : -inc;
+            const Guarded x_room(static_cast<std::size_t>(step) * static_cast<std::size_t>(n - 1) + 1);
+            const Guarded y_room(static_cast<std::size_t>(n));
+            Complex *const x = inc > 0 ? x_room.at_the_end() : x_room.at_the_start();
+            Complex *const y = y_room.at_the_end();
+            for (Integer i = 0; i < n; ++i) x[i * step] = y[i] = {1.0, 1.0};
+            EXPECT_EQ(f06gbc(n, x, inc, y, 1).re, 2.0 * n);
+        }
+}
+
 } // namespace
 } // namespace kor::testing
