@@ -43,7 +43,9 @@ inline bool strictly_increasing(const Report &report, const char *name, Integer 
         report.error<NE_NOT_STRICTLY_INCREASING>(name, name, i - 1, x[i - 1], name, i, x[i]);
         return false;
     }
-    return all_finite(report, name, 1, x) && all_finite(report, name, n, x);
+    // What increases can be infinite at its ends alone.
+    if (std::isfinite(x[0]) && std::isfinite(x[n - 1])) return true;
+    return all_finite(report, name, n, x);
 }
 
 inline bool weights_positive(const Report &report, Integer m, const double *weights)

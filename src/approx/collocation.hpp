@@ -8,18 +8,20 @@
 
 namespace kor::approx {
 
-inline constexpr Integer kCollocationBand = 5; // the diagonal and two on either side
-
 // The m+4 knots of the spline through m >= 4 points: the points without the second and the next to last, with four knots
 // at either end.
 void interpolation_knots(Integer m, const double *x, double *t);
 
-// The factors L U of the matrix B_j(x_i), in m rows of 5 elements. It is totally positive, so that elimination without
-// interchanges is as stable as can be (C. de Boor and A. Pinkus, Numer. Math. 27 (1977) 485-490).
-void factor_collocation(Integer m, const double *x, const double *t, double *band);
+// The coefficients of the spline through m >= 4 points, for its interpolation_knots() t, from their values y, in place.
+// `above` is work space for m numbers.
+//
+// A point that is a knot has three B-splines: the matrix B_j(x_i) is tridiagonal but for one more element in the second row,
+// and one in the last but one. It is totally positive, so that elimination without interchanges is as stable as can be
+// (C. de Boor and A. Pinkus, Numer. Math. 27 (1977) 485-490).
+void collocate(Integer m, const double *x, const double *t, double *above, double *y);
 
-// Solves for `count` right-hand sides at once: those of point i stand in y[i * stride + k], k = 0..count-1.
-void solve_collocation(Integer m, const double *band, double *y, std::ptrdiff_t count, std::ptrdiff_t stride);
+// The same for `count` curves at once: those of point i stand in y[i * count + k].
+void collocate(Integer m, const double *x, const double *t, double *above, double *y, std::ptrdiff_t count);
 
 // b = a', for a of `rows` by `columns`, row-major, in blocks that stay in the cache.
 inline void transpose(std::ptrdiff_t rows, std::ptrdiff_t columns, const double *a, double *b)

@@ -6,8 +6,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 #include <kor.h>
+
+#include "approx/interval_search.hpp"
 
 namespace kor::approx {
 
@@ -29,18 +32,12 @@ struct Knots {
     bool holds(double x) const { return x >= first() && x <= last(); }
 
     // The span of x, continuous from the right; at the right end, and beyond it, the last span that is not empty.
-    Integer span(double x) const
+    Integer span(double x) const { return not_empty(interval_of(t + kDegree, interior() + 2, x)); }
+
+    // The same, where the span of the point before is a good guess.
+    Integer span_near(double x, Integer before) const
     {
-        Integer low = kDegree, high = n - kOrder;
-        while (high - low > 1) {
-            const Integer middle = low + (high - low) / 2;
-            if (t[middle] <= x)
-                low = middle;
-            else
-                high = middle;
-        }
-        while (low > kDegree && !(t[low] < t[low + 1])) --low;
-        return low;
+        return not_empty(interval_near(t + kDegree, interior() + 2, x, before - kDegree));
     }
 
     // The span that ends at x or holds it: continuous from the left.
@@ -52,80 +49,108 @@ struct Knots {
         return low;
     }
 
-    // The span of x, where the last one asked for is a good guess.
-    Integer span_near(double x, Integer guess) const
+  private:
+    // The last span that is not empty up to an interval between the ends.
+    Integer not_empty(std::ptrdiff_t interval) const
     {
-        if (t[guess] <= x && x < t[guess + 1]) return guess;
-        if (guess + 1 < n - kOrder && t[guess + 1] <= x && x < t[guess + 2]) return guess + 1;
-        return span(x);
+        std::ptrdiff_t l = kDegree + interval;
+        while (l > kDegree && !(t[l] < t[l + 1])) --l;
+        return static_cast<Integer>(l);
     }
 };
 
-// The reciprocals of the lengths of all runs of 1, 2, 3 knot intervals about span l: run r of k intervals ends at knot
-// l+1+r. All at once, so that no division waits for another.
-struct RunReciprocals {
-    double of[kDegree][kDegree];
+// Two doubles at a time: every processor has registers for them.
+typedef double Pair __attribute__((vector_size(2 * sizeof(double))));
 
-    RunReciprocals(const double *t, std::ptrdiff_t l)
+inline Pair load_pair(const double *x)
+{
+    Pair pair;
+    std::memcpy(&pair, x, sizeof pair);
+    return pair;
+}
+
+// A point on span l among the three knots on either side: what all sums of B-splines there have in common. Values are
+// averages of the coefficients, so that no digits are lost. The divisions are by the lengths of all runs of 1, 2, 3 knot
+// intervals that hold the span, two at a time, and none waits for another.
+class PointOnSpan {
+  public:
+    PointOnSpan(const double *t, std::ptrdiff_t l, double x)
     {
-        for (int k = 1; k <= kDegree; ++k)
-            for (int r = 0; r < k; ++r) of[k - 1][r] = 1.0 / (t[l + 1 + r] - t[l + 1 + r - k]);
+        const double *const left = t + l, *const right = left + 1;
+        const Pair left1 = load_pair(left - 1), left2 = load_pair(left - 2), right0 = load_pair(right);
+        length3_ = right0 - left2;
+        length2_ = right0 - left1;
+        length_ = Pair{right[2] - left[0], right[0] - left[0]};
+        over3_ = 1.0 / length3_;
+        over2_ = 1.0 / length2_;
+        over_ = 1.0 / length_;
+        to_right_ = right0 - x;
+        to_right2_ = right[2] - x;
+        from_left1_ = x - left1;
+        from_left2_ = x - left2;
     }
+
+    // sum a[i] B_i(x) over the four B-splines that live on the span.
+    double value(const double *a) const
+    {
+        const Pair two = load_pair(a) * (to_right_ * over3_) + load_pair(a + 1) * (from_left2_ * over3_);
+        const Pair next = {two[1], a[2] * (to_right2_ * over_[0]) + a[3] * (from_left1_[1] * over_[0])};
+        const Pair last = two * (to_right_ * over2_) + next * (from_left1_ * over2_);
+        return last[0] * (to_right_[0] * over_[1]) + last[1] * (from_left1_[1] * over_[1]);
+    }
+
+    // The same and its three derivatives. They are sums of lower degree, whose coefficients are differences.
+    void derivatives(const double *a, double s[kOrder]) const
+    {
+        const auto mean_of_two = [this](Pair c) { return (c[0] * to_right_[0] + c[1] * from_left1_[1]) / length_[1]; };
+        const Pair slopes = 3.0 * (load_pair(a + 1) - load_pair(a)) / length3_;
+        const Pair next = {slopes[1], 3.0 * (a[3] - a[2]) / length_[0]};
+        const Pair bends = 2.0 * (next - slopes) / length2_;
+        s[0] = value(a);
+        s[1] = mean_of_two((slopes * to_right_ + next * from_left1_) / length2_);
+        s[2] = mean_of_two(bends);
+        s[3] = (bends[1] - bends[0]) / length_[1];
+    }
+
+    // The four cubic B-splines themselves: non-negative, with sum 1.
+    void basis(double b[kOrder]) const
+    {
+        const Pair one = {to_right_[0] * over_[1], from_left1_[1] * over_[1]};
+        const Pair share2 = one * over2_;
+        const Pair rising2 = share2 * from_left1_, falling2 = share2 * to_right_;
+        const Pair two = {falling2[0], rising2[0] + falling2[1]};
+        const Pair share3 = two * over3_;
+        const double last = rising2[1] * over_[0];
+        const Pair rising3 = share3 * from_left2_, falling3 = share3 * to_right_;
+        b[0] = falling3[0];
+        b[1] = rising3[0] + falling3[1];
+        b[2] = rising3[1] + last * to_right2_;
+        b[3] = last * from_left1_[1];
+    }
+
+  private:
+    Pair length3_, length2_, length_; // the first two runs of three, the two of two, the last of three and the span
+    Pair over3_, over2_, over_;       // their reciprocals
+    Pair to_right_, from_left1_, from_left2_; // the first two knots on the right; the last two, and those before
+    double to_right2_;                        // the third knot on the right
 };
 
 // The four B-splines that live on span l, at x: non-negative, with sum 1.
 inline void basis_values(const double *t, std::ptrdiff_t l, double x, double b[kOrder])
 {
-    const RunReciprocals reciprocals{t, l};
-    b[0] = 1.0;
-    for (int k = 1; k <= kDegree; ++k) {
-        double carried = 0.0;
-        for (int r = 0; r < k; ++r) {
-            const double right = t[l + 1 + r], left = t[l + 1 + r - k];
-            const double share = b[r] * reciprocals.of[k - 1][r];
-            b[r] = carried + share * (right - x);
-            carried = share * (x - left);
-        }
-        b[k] = carried;
-    }
+    PointOnSpan{t, l, x}.basis(b);
 }
 
-// sum c[i] B_i(x) on span l: averages of the coefficients, so that no digits are lost.
+// sum c[i] B_i(x) on span l.
 inline double spline_value(const double *t, const double *c, std::ptrdiff_t l, double x)
 {
-    const RunReciprocals reciprocals{t, l};
-    double d[kOrder];
-    for (int j = 0; j < kOrder; ++j) d[j] = c[l - kDegree + j];
-    for (int k = kDegree; k >= 1; --k) {
-        for (int j = 0; j < k; ++j) {
-            const double left = t[l + 1 + j - k], right = t[l + 1 + j], reciprocal = reciprocals.of[k - 1][j];
-            d[j] = d[j] * ((right - x) * reciprocal) + d[j + 1] * ((x - left) * reciprocal);
-        }
-    }
-    return d[0];
+    return PointOnSpan{t, l, x}.value(c + l - kDegree);
 }
 
-// The value and the three derivatives on span l. The derivatives are splines of lower degree, whose coefficients are
-// differences.
+// The value and the three derivatives on span l.
 inline void spline_derivatives(const double *t, const double *c, std::ptrdiff_t l, double x, double s[kOrder])
 {
-    double d[kOrder];
-    for (int j = 0; j < kOrder; ++j) d[j] = c[l - kDegree + j];
-    for (int order = 0; order <= kDegree; ++order) {
-        if (order > 0) {
-            const int degree = kOrder - order; // of what is differentiated
-            for (int j = 0; j < degree; ++j) d[j] = degree * (d[j + 1] - d[j]) / (t[l + 1 + j] - t[l + 1 + j - degree]);
-        }
-        double e[kOrder];
-        for (int j = 0; j < kOrder; ++j) e[j] = d[j];
-        for (int k = kDegree - order; k >= 1; --k) {
-            for (int j = 0; j < k; ++j) {
-                const double left = t[l + 1 + j - k], right = t[l + 1 + j];
-                e[j] = (e[j] * (right - x) + e[j + 1] * (x - left)) / (right - left);
-            }
-        }
-        s[order] = e[0];
-    }
+    PointOnSpan{t, l, x}.derivatives(c + l - kDegree, s);
 }
 
 } // namespace kor::approx

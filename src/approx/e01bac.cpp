@@ -15,13 +15,13 @@ void e01bac(Integer m, const double x[], const double y[], KorSpline *spline, Ko
     if (!strictly_increasing(report, "x", m, x)) return;
 
     const kor::Count knots = kor::Count{m} + kor::Count{kOrder};
-    kor::Workspace<double> lamda(knots), c(knots), band(kor::Count{m} * kor::Count{kCollocationBand});
-    if (!lamda || !c || !band) return report.error<NE_ALLOC_FAIL>();
+    kor::Workspace<double> lamda(knots), c(knots);
+    const kor::Workspace<double> work(m);
+    if (!lamda || !c || !work) return report.error<NE_ALLOC_FAIL>();
 
     interpolation_knots(m, x, lamda.data());
-    factor_collocation(m, x, lamda.data(), band.data());
     std::fill(std::copy_n(y, m, c.begin()), c.end(), 0.0);
-    solve_collocation(m, band.data(), c.data(), 1, 1);
+    collocate(m, x, lamda.data(), work.data(), c.data());
 
     spline->n = m + kOrder;
     spline->lamda = lamda.release();

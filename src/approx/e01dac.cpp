@@ -19,20 +19,18 @@ void e01dac(Integer mx, Integer my, const double x[], const double y[], const do
     const kor::Count values = kor::Count{mx} * kor::Count{my};
     kor::Workspace<double> lamda(kor::Count{mx} + kor::Count{kOrder}), mu(kor::Count{my} + kor::Count{kOrder}),
         c(values);
-    const kor::Workspace<double> transposed(values), band(kor::Count{std::max(mx, my)} * kor::Count{kCollocationBand});
-    if (!lamda || !mu || !c || !transposed || !band) return report.error<NE_ALLOC_FAIL>();
+    const kor::Workspace<double> transposed(values), work(std::max(mx, my));
+    if (!lamda || !mu || !c || !transposed || !work) return report.error<NE_ALLOC_FAIL>();
 
     // One dimension at a time: first along y, for all x at once, then along x, for all y at once.
     const auto m_x = static_cast<std::ptrdiff_t>(mx), m_y = static_cast<std::ptrdiff_t>(my);
     interpolation_knots(my, y, mu.data());
-    factor_collocation(my, y, mu.data(), band.data());
     transpose(m_x, m_y, f, transposed.data());
-    solve_collocation(my, band.data(), transposed.data(), m_x, m_x);
+    collocate(my, y, mu.data(), work.data(), transposed.data(), m_x);
 
     interpolation_knots(mx, x, lamda.data());
-    factor_collocation(mx, x, lamda.data(), band.data());
     transpose(m_y, m_x, transposed.data(), c.data());
-    solve_collocation(mx, band.data(), c.data(), m_y, m_y);
+    collocate(mx, x, lamda.data(), work.data(), c.data(), m_y);
 
     spline->nx = mx + kOrder;
     spline->ny = my + kOrder;

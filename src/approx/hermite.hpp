@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "approx/interval_search.hpp"
 #include "frame/report.hpp"
 
 namespace kor::approx {
@@ -21,15 +22,9 @@ struct HermiteCubic {
 
     bool holds(double p) const { return p >= x[0] && p <= x[n - 1]; }
 
-    // The interval i, from x[i] to x[i+1], of a point; the first or the last one for points outside. Points that come in
-    // order find theirs next to the one of the point before.
-    Integer interval(double p, Integer guess) const
-    {
-        if (guess > 0 && p < x[guess]) return search(p);
-        if (guess >= n - 2 || p < x[guess + 1]) return guess;
-        if (guess + 1 >= n - 2 || p < x[guess + 2]) return guess + 1;
-        return search(p);
-    }
+    // The interval i, from x[i] to x[i+1], of a point, given that of the point before; the first or the last one for points
+    // outside.
+    Integer interval(double p, Integer before) const { return static_cast<Integer>(interval_near(x, n, p, before)); }
 
     // The cubic of interval i, about its nearer end: exact at both.
     ValueAndSlope at(Integer i, double p) const
@@ -59,9 +54,6 @@ struct HermiteCubic {
         const double h = x[i + 1] - x[i];
         return h * (0.5 * (f[i] + f[i + 1]) + h * (d[i] - d[i + 1]) / 12.0);
     }
-
-  private:
-    Integer search(double p) const { return static_cast<Integer>(std::upper_bound(x + 1, x + n - 1, p) - x) - 1; }
 };
 
 inline bool nodes_right(const Report &report, Integer n, const double *x)
