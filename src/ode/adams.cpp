@@ -6,9 +6,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 #include "frame/constants.hpp"
+#include "frame/dispatch.hpp"
+#include "linalg/lanes.hpp"
 #include "ode/step_root.hpp"
 
 namespace kor::ode {
@@ -48,23 +51,45 @@ constexpr double kShrinkLeast = 0.9;
 constexpr double kFailureFactor = 0.5;
 constexpr double kHopelessFactor = 0.1; // when the error is not even finite
 constexpr int kRestartAfter = 3;        // failures in a row: the past is of no use any more
-constexpr int kLine = 8;                // components at a time: a cache line of each difference
 constexpr int kLowOrder = 4;
 constexpr double kStretch = 1.1;
 
 double square(double x) { return x * x; }
 
-} // namespace
+// Components are taken eight at a time, a cache line of each difference, and the rest in pairs.
+using Line = linalg::Lanes;
+typedef double Pair __attribute__((vector_size(2 * sizeof(double))));
 
-double Tolerances::weight(std::size_t i, double y) const
+template <class Vector>
+constexpr std::size_t kLanes = sizeof(Vector) / sizeof(double);
+
+template <class Vector>
+[[gnu::always_inline]] inline Vector load(const double *x)
 {
-    const std::size_t which = each_component ? i : 0;
-    return rtol[which] * std::fabs(y) + atol[which];
+    Vector v;
+    std::memcpy(&v, x, sizeof v);
+    return v;
 }
+template <class Vector>
+[[gnu::always_inline]] inline void store(double *x, const Vector &v)
+{
+    std::memcpy(x, &v, sizeof v);
+}
+// Of doubles that were stored one by one a moment ago: what has not reached the cache yet cannot be had two at a time.
+template <class Vector>
+[[gnu::always_inline]] inline Vector gather(const double *x)
+{
+    if constexpr (kLanes<Vector> == 2) return Vector{x[0], x[1]};
+    return load<Vector>(x);
+}
+[[gnu::always_inline]] inline double sum_of(Line x) { return linalg::sum_of(x); }
+[[gnu::always_inline]] inline double sum_of(Pair x) { return x[0] + x[1]; }
+
+} // namespace
 
 void Adams::lay_out(double *work)
 {
-    const auto take = [&](std::size_t vectors) { return std::exchange(work, work + vectors * n_); };
+    const auto take = [&](std::size_t vectors) { return std::exchange(work, work + vectors * even_); };
     phi_ = take(kRows);
     expected_ = take(kRows);
     y_ = take(1);
@@ -81,15 +106,15 @@ void Adams::lay_out(double *work)
 void Adams::start(Integer neq, double *work, double t, const double *y, Derivative f, double t_end)
 {
     n_ = static_cast<std::size_t>(neq);
+    even_ = n_ + n_ % kLanes<Pair>;
+    lines_ = n_ - n_ % kLanes<Line>;
     lay_out(work);
+    std::fill_n(work, kVectors * even_, 0.0);
     t_ = t_old_ = t;
     t_end_ = t_end;
     direction_ = t_end > t ? 1.0 : -1.0;
     std::copy_n(y, n_, y_);
     std::copy_n(y, n_, y_old_);
-    std::fill_n(rounding_, n_, 0.0);
-    std::fill_n(closing_, n_, 0.0);
-    std::fill_n(phi(2), n_, 0.0);
     f(t_, y_, phi(1));
     psi_ = psi_next_ = alpha_ = beta_ = sigma_ = g_ = {};
     h_ = t_end - t;
@@ -97,7 +122,7 @@ void Adams::start(Integer neq, double *work, double t, const double *y, Derivati
     k_ = 1;
     k_old_ = 0;
     equal_steps_ = 0;
-    coefficients_order_ = 0;
+    settled_order_ = 0;
     steps_ = low_order_steps_ = 0;
     tolerance_factor_ = 1.0;
     bad_component_ = 0;
@@ -108,18 +133,15 @@ void Adams::start(Integer neq, double *work, double t, const double *y, Derivati
 
 double Adams::smallest_step() const { return std::max(4.0 * kPrecision * std::fabs(t_), std::sqrt(kSafeSmall)); }
 
-// False when a weight is zero.
-bool Adams::weigh(const Tolerances &tolerances)
+// The sum of squares of the solution by the weights.
+[[gnu::always_inline]] inline double Adams::weigh(const Tolerances &tolerances)
 {
-    for (std::size_t i = 0; i < n_; ++i) {
-        const double weight = tolerances.weight(i, y_[i]);
-        if (weight == 0.0) {
-            bad_component_ = static_cast<Integer>(i);
-            return false;
-        }
-        reciprocal_weight_[i] = 1.0 / weight;
+    double size = 0.0;
+    for (std::size_t l = 0; l < n_; ++l) {
+        reciprocal_weight_[l] = 1.0 / tolerances.weight(l, y_[l]);
+        size += square(y_[l] * reciprocal_weight_[l]);
     }
-    return true;
+    return size;
 }
 
 // So short that a step of order one is well within the tolerance. Order and step then grow fast.
@@ -134,13 +156,13 @@ void Adams::choose_first_step()
     h_ = direction_ * std::max(size, smallest_step());
 }
 
-// The coefficients of order k for a step of h, from the distances psi_i = t_n - t_(n-i).
-void Adams::find_coefficients()
+// The coefficients of order k for a step of h, from the distances psi_i = t_n - t_(n-i). False when they stay as they are.
+[[gnu::always_inline]] inline bool Adams::find_coefficients()
 {
     if (h_ != h_old_) equal_steps_ = 0;
     equal_steps_ = std::min(equal_steps_ + 1, k_old_ + 1);
-    // After so many equal steps of this order everything stands as it was.
-    if (equal_steps_ > k_ && coefficients_order_ == k_) return;
+    if (equal_steps_ == 1) settled_order_ = 0;
+    if (k_ <= settled_order_) return false;
 
     psi_next_[1] = h_;
     beta_[1] = 1.0;
@@ -159,104 +181,125 @@ void Adams::find_coefficients()
         for (int q = 1; q <= k_ + 2 - i; ++q) column[q] -= alpha_[i - 1] * column[q + 1];
         g_[i] = column[1];
     }
-    coefficients_order_ = k_;
+    // After so many equal steps everything stays as it is now, and so it does when the order comes down and rises again.
+    if (equal_steps_ >= k_) settled_order_ = k_;
+    return true;
 }
 
 // The predicted solution, and the differences that the new point will have if the prediction of its slope is right. Each sum is
 // carried with what it lost by rounding.
-template <int width>
-void Adams::predict_components(std::size_t first)
+template <class Vector>
+[[gnu::always_inline]] inline void Adams::predict_components(std::size_t first, std::size_t last)
 {
-    double sum[width] = {}, difference[width] = {};
-    for (int i = k_; i >= 1; --i) {
-        const double beta = beta_[i], g = g_[i];
-        const double *__restrict from = phi(i) + first;
-        double *__restrict to = expected(i) + first;
-        for (int l = 0; l < width; ++l) {
-            const double term = beta * from[l];
-            sum[l] += g * term;
-            difference[l] += term;
-            to[l] = difference[l];
+    const std::size_t stride = even_;
+    const int k = k_;
+    const double h = h_;
+    for (std::size_t l = first; l < last; l += kLanes<Vector>) {
+        Vector sum{}, difference{};
+        const double *from = phi(k) + l;
+        double *to = expected(k) + l;
+        for (int i = k; i >= 1; --i, from -= stride, to -= stride) {
+            const Vector term = beta_[i] * load<Vector>(from);
+            sum += g_[i] * term;
+            difference += term;
+            store(to, difference);
         }
-    }
-    for (int l = 0; l < width; ++l) {
-        const double y = y_[first + l], change = h_ * sum[l] - rounding_[first + l];
-        predicted_[first + l] = y + change;
-        rounding_predicted_[first + l] = (predicted_[first + l] - y) - change;
-    }
-}
-
-// The differences at the new point, from the slope there.
-template <int width>
-void Adams::update_components(std::size_t first)
-{
-    double surprise[width];
-    for (int l = 0; l < width; ++l) {
-        surprise[l] = yp_predicted_[first + l] - expected(1)[first + l];
-        phi(k_ + 2)[first + l] = surprise[l] - phi(k_ + 1)[first + l];
-        phi(k_ + 1)[first + l] = surprise[l];
-    }
-    for (int i = k_; i >= 1; --i) {
-        const double *__restrict from = expected(i) + first;
-        double *__restrict to = phi(i) + first;
-        for (int l = 0; l < width; ++l) to[l] = from[l] + surprise[l];
+        const Vector y = load<Vector>(y_ + l), change = h * sum - load<Vector>(rounding_ + l);
+        const Vector predicted = y + change;
+        store(predicted_ + l, predicted);
+        store<Vector>(rounding_predicted_ + l, (predicted - y) - change);
     }
 }
 
-void Adams::predict()
+// The solution corrected by the formula of order k+1, and what tells its error.
+template <class Vector>
+[[gnu::always_inline]] inline Adams::Sums Adams::correct_components(std::size_t first, std::size_t last)
 {
-    std::size_t l = 0;
-    for (; l + kLine <= n_; l += kLine) predict_components<kLine>(l);
-    for (; l < n_; ++l) predict_components<1>(l);
-}
-
-void Adams::update_differences()
-{
-    std::size_t l = 0;
-    for (; l + kLine <= n_; l += kLine) update_components<kLine>(l);
-    for (; l < n_; ++l) update_components<1>(l);
-}
-
-Adams::Errors Adams::estimate() const
-{
-    double here = 0.0, below = 0.0, below2 = 0.0;
-    const double *e1 = expected(1);
-    const double *ek = expected(k_), *ek1 = expected(std::max(k_ - 1, 1));
-    for (std::size_t l = 0; l < n_; ++l) {
-        const double reciprocal = reciprocal_weight_[l];
-        const double surprise = yp_predicted_[l] - e1[l];
-        here += square(surprise * reciprocal);
-        below += square((ek[l] + surprise) * reciprocal);
-        below2 += square((ek1[l] + surprise) * reciprocal);
+    const double *const e1 = expected(1), *const ek = expected(k_), *const ek1 = expected(std::max(k_ - 1, 1));
+    const double factor = h_ * g_[k_ + 1];
+    Vector here{}, below{}, below2{}, nothing{};
+    for (std::size_t l = first; l < last; l += kLanes<Vector>) {
+        const Vector weight = gather<Vector>(reciprocal_weight_ + l);
+        const Vector surprise = gather<Vector>(yp_predicted_ + l) - load<Vector>(e1 + l);
+        const Vector a = surprise * weight, b = (load<Vector>(ek + l) + surprise) * weight,
+                     c = (load<Vector>(ek1 + l) + surprise) * weight;
+        here += a * a;
+        below += b * b;
+        below2 += c * c;
+        const Vector predicted = load<Vector>(predicted_ + l);
+        const Vector change = factor * surprise - load<Vector>(rounding_predicted_ + l);
+        const Vector y = predicted + change;
+        nothing += 0.0 * y;
+        store(y_try_ + l, y);
+        store<Vector>(rounding_predicted_ + l, (y - predicted) - change);
     }
+    return {sum_of(here), sum_of(below), sum_of(below2), sum_of(nothing)};
+}
+
+// The differences at the new point, from the slope there; the sum of squares of the last, number k+2, by the weights.
+template <class Vector>
+[[gnu::always_inline]] inline double Adams::update_components(std::size_t first, std::size_t last)
+{
+    const std::size_t stride = even_;
+    const int k = k_;
+    Vector above{};
+    for (std::size_t l = first; l < last; l += kLanes<Vector>) {
+        const double *from = expected(1) + l;
+        double *to = phi(1) + l;
+        const Vector surprise = gather<Vector>(yp_predicted_ + l) - load<Vector>(from);
+        for (int i = 1; i <= k; ++i, from += stride, to += stride) store<Vector>(to, load<Vector>(from) + surprise);
+        const Vector next = surprise - load<Vector>(to), weighted = next * gather<Vector>(reciprocal_weight_ + l);
+        store(to, surprise);
+        store(to + stride, next);
+        above += weighted * weighted;
+    }
+    return sum_of(above);
+}
+
+[[gnu::always_inline]] inline void Adams::predict()
+{
+    predict_components<Line>(0, lines_);
+    predict_components<Pair>(lines_, even_);
+}
+
+[[gnu::always_inline]] inline Adams::Sums Adams::correct()
+{
+    Sums sums = correct_components<Pair>(lines_, even_);
+    if (lines_ == 0) return sums;
+    const Sums lines = correct_components<Line>(0, lines_);
+    sums.here += lines.here;
+    sums.below += lines.below;
+    sums.below2 += lines.below2;
+    sums.nothing += lines.nothing;
+    return sums;
+}
+
+[[gnu::always_inline]] inline double Adams::update_differences()
+{
+    const double rest = update_components<Pair>(lines_, even_);
+    return lines_ > 0 ? rest + update_components<Line>(0, lines_) : rest;
+}
+
+[[gnu::always_inline]] inline Adams::Errors Adams::errors_from(const Sums &sums) const
+{
     Errors errors{};
     errors.order = k_;
-    errors.test = here * square(h_ * (g_[k_] - g_[k_ + 1]));
-    errors.at_order = here * square(h_ * sigma_[k_ + 1] * kErrorConstant[k_]);
+    errors.test = sums.here * square(h_ * (g_[k_] - g_[k_ + 1]));
+    errors.at_order = sums.here * square(h_ * sigma_[k_ + 1] * kErrorConstant[k_]);
     if (k_ >= 2) {
-        errors.below = below * square(h_ * sigma_[k_] * kErrorConstant[k_ - 1]);
+        errors.below = sums.below * square(h_ * sigma_[k_] * kErrorConstant[k_ - 1]);
         if (k_ == 2 && errors.below <= square(0.5) * errors.at_order) errors.order = 1;
     }
     if (k_ >= 3) {
-        const double two_below = below2 * square(h_ * sigma_[k_ - 1] * kErrorConstant[k_ - 2]);
+        const double two_below = sums.below2 * square(h_ * sigma_[k_ - 1] * kErrorConstant[k_ - 2]);
         if (std::max(errors.below, two_below) <= errors.at_order) errors.order = k_ - 1;
     }
     return errors;
 }
 
-// Corrects with the formula of order k+1 and evaluates again. False when the result is not finite; nothing has moved then.
-bool Adams::correct(Derivative f)
+// Makes the corrected solution the present one, and evaluates again. What update_differences() gives.
+[[gnu::always_inline]] inline double Adams::move_on(Derivative f)
 {
-    const double *e1 = expected(1);
-    bool finite = true;
-    for (std::size_t l = 0; l < n_; ++l) {
-        const double change = h_ * g_[k_ + 1] * (yp_predicted_[l] - e1[l]) - rounding_predicted_[l];
-        y_try_[l] = predicted_[l] + change;
-        rounding_predicted_[l] = (y_try_[l] - predicted_[l]) - change;
-        finite &= std::isfinite(y_try_[l]);
-    }
-    if (!finite) return false;
-
     std::swap(y_old_, y_);
     std::swap(y_, y_try_);
     std::swap(rounding_, rounding_predicted_);
@@ -264,12 +307,10 @@ bool Adams::correct(Derivative f)
     t_ = t_end_;
     // The slope lands where the prediction was: no difference is touched before it is known.
     f(t_, y_, yp_predicted_);
-    update_differences();
-    std::copy_n(psi_next_.begin() + 1, k_, psi_.begin() + 1);
-    return true;
+    return update_differences();
 }
 
-void Adams::choose_next(const Errors &errors)
+[[gnu::always_inline]] inline void Adams::choose_next(const Errors &errors, double above)
 {
     int order = errors.order;
     double error = errors.at_order;
@@ -281,8 +322,6 @@ void Adams::choose_next(const Errors &errors)
         error = errors.below;
     } else if (equal_steps_ > k_ && k_ < kMaxOrder) {
         // Only after equal steps the next difference tells the error of order k+1.
-        double above = 0.0;
-        for (std::size_t l = 0; l < n_; ++l) above += square(phi(k_ + 2)[l] * reciprocal_weight_[l]);
         above *= square(h_ * kErrorConstant[k_ + 1]);
         if (k_ > 1 && errors.below <= std::min(error, above)) {
             order = k_ - 1;
@@ -319,18 +358,23 @@ void Adams::fail(const Errors &errors, int failures)
     }
     h_ *= factor;
     equal_steps_ = 0;
-    coefficients_order_ = 0;
+    settled_order_ = 0;
 }
 
+KOR_CLONES
 AdamsOutcome Adams::step(Derivative f, const Tolerances &tolerances, double t_stop, double hmax)
 {
-    if (!weigh(tolerances)) return AdamsOutcome::zero_weight;
-    double rounding = 0.0;
-    for (std::size_t i = 0; i < n_; ++i) rounding += square(y_[i] * reciprocal_weight_[i]);
-    rounding = 2.0 * kPrecision * std::sqrt(rounding);
-    if (rounding > kAim) {
-        tolerance_factor_ = 2.0 * rounding * (1.0 + 4.0 * kPrecision);
-        return AdamsOutcome::too_accurate;
+    const double size = weigh(tolerances);
+    if (!(size <= square(kAim / (2.0 * kPrecision)))) {
+        for (std::size_t l = 0; l < n_; ++l) {
+            if (tolerances.weight(l, y_[l]) != 0.0) continue;
+            bad_component_ = static_cast<Integer>(l);
+            return AdamsOutcome::zero_weight;
+        }
+        if (!std::isnan(size)) {
+            tolerance_factor_ = 2.0 * (2.0 * kPrecision * std::sqrt(size)) * (1.0 + 4.0 * kPrecision);
+            return AdamsOutcome::too_accurate;
+        }
     }
     if (!weighed_start_) {
         choose_first_step();
@@ -350,16 +394,19 @@ AdamsOutcome Adams::step(Derivative f, const Tolerances &tolerances, double t_st
             tolerance_factor_ = 2.0;
             return AdamsOutcome::too_accurate;
         }
-        find_coefficients();
+        const bool new_distances = find_coefficients();
         predict();
         f(t_end_, predicted_, yp_predicted_);
-        const Errors errors = estimate();
-        if (errors.test <= 1.0 && correct(f)) {
+        const Sums sums = correct();
+        const Errors errors = errors_from(sums);
+        if (errors.test <= 1.0 && sums.nothing == 0.0) {
+            const double above = move_on(f);
+            if (new_distances) std::copy_n(psi_next_.begin() + 1, k_, psi_.begin() + 1);
             ++steps_;
             k_old_ = k_;
             low_order_steps_ = k_ <= kLowOrder ? low_order_steps_ + 1 : 0;
             closed_ = false;
-            choose_next(errors);
+            choose_next(errors, above);
             return AdamsOutcome::taken;
         }
         fail(errors, ++failures);

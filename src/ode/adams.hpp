@@ -12,6 +12,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 
@@ -31,7 +32,11 @@ struct Tolerances {
     const double *atol;
     bool each_component;
 
-    double weight(std::size_t i, double y) const;
+    double weight(std::size_t i, double y) const
+    {
+        const std::size_t which = each_component ? i : 0;
+        return rtol[which] * std::fabs(y) + atol[which];
+    }
 };
 
 enum class AdamsOutcome {
@@ -45,7 +50,8 @@ class Adams {
     static constexpr int kMaxOrder = 12;
     static constexpr double kNoStop = std::numeric_limits<double>::infinity();
 
-    static Count workspace(Integer neq) { return Count{neq} * kVectors; }
+    // Room for one component more, so that pairs come out even.
+    static Count workspace(Integer neq) { return (Count{neq} + Count{1}) * kVectors; }
 
     // Begins at (t, y) towards t_end. Evaluates f once.
     void start(Integer neq, double *work, double t, const double *y, Derivative f, double t_end);
@@ -75,6 +81,13 @@ class Adams {
   private:
     // Arrays over the order count from 1, as the formulae do.
     using OrderArray = std::array<double, kMaxOrder + 3>;
+    // Sums over the components of squared terms, by their weights.
+    struct Sums {
+        double here;  // of what the slope was off by
+        double below; // and of the differences k and k-1 that go with it
+        double below2;
+        double nothing; // 0, or NaN when the corrected solution is not finite
+    };
     // Squares of estimates of the local error.
     struct Errors {
         double test;     // of the step as it was taken: must not exceed 1
@@ -85,21 +98,24 @@ class Adams {
     static constexpr int kRows = kMaxOrder + 2;
     static constexpr int kVectors = 2 * kRows + 9;
 
-    double *phi(int i) const { return phi_ + std::size_t(i - 1) * n_; }
-    double *expected(int i) const { return expected_ + std::size_t(i - 1) * n_; }
+    double *phi(int i) const { return phi_ + std::size_t(i - 1) * even_; }
+    double *expected(int i) const { return expected_ + std::size_t(i - 1) * even_; }
     void lay_out(double *work);
-    bool weigh(const Tolerances &tolerances);
+    double weigh(const Tolerances &tolerances);
     void choose_first_step();
-    void find_coefficients();
+    bool find_coefficients();
     void predict();
-    void update_differences();
-    template <int width>
-    void predict_components(std::size_t first);
-    template <int width>
-    void update_components(std::size_t first);
-    Errors estimate() const;
-    bool correct(Derivative f);
-    void choose_next(const Errors &errors);
+    Sums correct();
+    double update_differences();
+    template <class Vector>
+    void predict_components(std::size_t first, std::size_t last);
+    template <class Vector>
+    Sums correct_components(std::size_t first, std::size_t last);
+    template <class Vector>
+    double update_components(std::size_t first, std::size_t last);
+    Errors errors_from(const Sums &sums) const;
+    double move_on(Derivative f);
+    void choose_next(const Errors &errors, double above);
     void fail(const Errors &errors, int failures);
     double smallest_step() const;
     void integral_coefficients(double hi, int terms, double *integral, double *value) const;
@@ -107,11 +123,12 @@ class Adams {
 
     double *phi_, *expected_, *y_, *y_old_, *predicted_, *yp_predicted_, *reciprocal_weight_, *rounding_,
         *rounding_predicted_, *closing_, *y_try_;
-    std::size_t n_;
+    std::size_t n_, even_, lines_; // components; with one more if need be; those in whole cache lines
+    double size_;                  // of the solution, by the weights, squared
     double t_, t_old_, t_end_, h_, h_old_, direction_, tolerance_factor_;
     OrderArray psi_, psi_next_, alpha_, beta_, sigma_, g_;
     int64_t steps_, low_order_steps_;
-    int k_, k_old_, equal_steps_, coefficients_order_;
+    int k_, k_old_, equal_steps_, settled_order_;
     Integer bad_component_;
     bool growing_, weighed_start_, closed_;
 };
