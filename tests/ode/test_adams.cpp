@@ -109,6 +109,22 @@ TEST(Adams, WorkStaysWithinBounds)
     EXPECT_NEAR(orbit.problem.calls, 2.0 * orbit.opt.steps_taken, 30.0);
 }
 
+// Where a solution comes to rest the order has to come down, but only after the errors of two lower orders both say so: one alone
+// may vanish by chance, and an order that is lost then costs a quarter more work.
+TEST(Adams, OrderFollowsTheTrendOfTheErrors)
+{
+    const struct {
+        double tolerance;
+        long most;
+    } cases[] = {{1e-4, 50}, {1e-7, 95}, {1e-10, 165}};
+    for (const auto &[tolerance, most] : cases) {
+        Journey growth{logistic(), {.tolerance = tolerance}};
+        ASSERT_EQ(growth.go(20.0), NE_NOERROR);
+        EXPECT_LT(growth.problem.calls, most);
+        EXPECT_LT(growth.error(), 100.0 * tolerance);
+    }
+}
+
 TEST(Adams, OutputPointsNeitherCostNorDisturb)
 {
     Journey few{kepler(0.5), {}}, many{kepler(0.5), {}};

@@ -114,6 +114,16 @@ TEST(RungeKutta, WorkStaysWithinBounds)
     }
 }
 
+// A step that shrinks in time does not fail: from the error alone one in twelve would on the way to the next pericentre.
+TEST(RungeKutta, TheTrendOfTheErrorForeseesFailures)
+{
+    for (const auto &[method, tol] : {std::pair{Kor_RK_2_3, 1e-5}, std::pair{Kor_RK_4_5, 1e-7}}) {
+        Journey orbit{kepler(0.9), 20.0, tol, method};
+        ASSERT_EQ(orbit.range_to(20.0), NE_NOERROR);
+        EXPECT_LT(orbit.state.steps_failed, 0.01 * orbit.state.steps_ok) << method;
+    }
+}
+
 TEST(RungeKutta, OutputPointsNeitherCostNorDisturb)
 {
     for (const Integer method : {Kor_RK_2_3, Kor_RK_4_5}) {
