@@ -8,6 +8,7 @@
 #include "frame/views.hpp"
 #include "linalg/blas.hpp"
 #include "linalg/cholesky.hpp"
+#include "linalg/lanes.hpp"
 #include "linalg/lapack.hpp"
 #include "linalg/lu.hpp"
 
@@ -20,25 +21,27 @@ constexpr Integer kTriangle = 16; // order up to which a triangle is inverted in
 // Columns that are solved for at once: more where the products are long.
 constexpr Integer block_of(Integer n) { return n < 256 ? 32 : 64; }
 
-// Small matrices: inverse(L), which is a triangle, and the solution of U X = inverse(L), along the rows of X.
-KOR_CLONES void invert_rows(Integer n, const double *a, std::ptrdiff_t tda, double *x, std::ptrdiff_t tdx)
+// The inverse of a small LU, eight columns at a time: inverse(L) first, which is a triangle, then the solution of
+// U Y = inverse(L). What a row becomes stays in its register until it is done. Column j of Y is column place[j] of X.
+KOR_CLONES void invert_small(Integer n, const double *a, std::ptrdiff_t tda, const Integer *place, double *x,
+                             std::ptrdiff_t tdx)
 {
-    for (Integer i = 0; i < n; ++i) {
-        double *const __restrict row = x + i * tdx;
-        for (Integer j = 0; j < n; ++j) row[j] = i == j ? 1.0 : 0.0;
-        for (Integer k = 0; k < i; ++k) {
-            const double factor = a[i * tda + k], *const above = x + k * tdx;
-            for (Integer j = 0; j <= k; ++j) row[j] -= factor * above[j];
+    Lanes rows[kSmallSystem];
+    for (Integer first = 0; first < n; first += kWidth) {
+        const auto last = std::min<Integer>(first + kWidth, n);
+        for (Integer i = 0; i < n; ++i) {
+            Lanes row{};
+            if (i >= first && i < last) row[i - first] = 1.0;
+            for (Integer k = first; k < i; ++k) row -= a[i * tda + k] * rows[k];
+            rows[i] = row;
         }
-    }
-    for (Integer i = n - 1; i >= 0; --i) {
-        double *const __restrict row = x + i * tdx;
-        for (Integer k = i + 1; k < n; ++k) {
-            const double factor = a[i * tda + k], *const below = x + k * tdx;
-            for (Integer j = 0; j < n; ++j) row[j] -= factor * below[j];
+        for (Integer i = n - 1; i >= 0; --i) {
+            Lanes row = rows[i];
+            for (Integer k = i + 1; k < n; ++k) row -= a[i * tda + k] * rows[k];
+            rows[i] = row / a[i * tda + i];
         }
-        const double divisor = a[i * tda + i];
-        for (Integer j = 0; j < n; ++j) row[j] /= divisor;
+        for (Integer i = 0; i < n; ++i)
+            for (Integer j = first; j < last; ++j) x[i * tdx + place[j]] = rows[i][j - first];
     }
 }
 
@@ -94,13 +97,17 @@ void invert_in_blocks(Integer n, RowMajor<const double> A, Integer tda, RowMajor
 
 void lu_inverse(Integer n, const double *a, Integer tda, const Integer *pivot, double *x, Integer tdx)
 {
-    const RowMajor<const double> A{a, tda};
+    // The interchanges of rows of A, undone in the columns of X.
+    if (n <= kSmallSystem) {
+        Integer column[kSmallSystem], place[kSmallSystem];
+        for (Integer k = 0; k < n; ++k) column[k] = k;
+        for (Integer k = n - 1; k >= 0; --k) std::swap(column[k], column[pivot[k] - 1]);
+        for (Integer k = 0; k < n; ++k) place[column[k]] = k;
+        return invert_small(n, a, tda, place, x, tdx);
+    }
     const RowMajor<double> X{x, tdx};
-    if (n <= kSmallSystem)
-        invert_rows(n, a, tda, x, tdx);
-    else
-        invert_in_blocks(n, A, tda, X, tdx);
-    // The interchanges of rows of A, undone in the columns of X; each row stays in the cache meanwhile.
+    invert_in_blocks(n, RowMajor<const double>{a, tda}, tda, X, tdx);
+    // Each row stays in the cache meanwhile.
     for (Integer i = 0; i < n; ++i)
         for (Integer k = n - 1; k >= 0; --k) std::swap(X(i, k), X(i, pivot[k] - 1));
 }

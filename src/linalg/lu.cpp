@@ -87,8 +87,9 @@ template <Scalar T>
             T *const __restrict row = a + i * tda;
             const T factor = quotient_of(row[k]);
             row[k] = factor;
+            // The next stage waits for its candidates: they do not go through memory.
+            consider(i, scaled_size(row[k + 1] - factor * pivot_row[k + 1], scale[i]));
             for (Integer j = k + 1; j < n; ++j) row[j] = row[j] - factor * pivot_row[j];
-            consider(i, scaled_size(row[k + 1], scale[i]));
         }
     }
     return 0;
@@ -223,35 +224,65 @@ Integer factor_matrix(Integer n, T *a, Integer tda, double *scale, double least,
     return Recursion<T>{n, {a, tda}, tda, scale, limit, pivot, work}.factor(0, n);
 }
 
+// Up to this length a plain sum of squares that neither overflowed nor came near underflow is good enough.
+constexpr double kSafeSquares = 0x1p-900;
+
+template <Scalar T>
+[[gnu::always_inline]] inline bool scales_from_squares(Integer n, const T *a, std::ptrdiff_t tda, double *scale)
+{
+    for (Integer i = 0; i < n; ++i) {
+        double squares = 0.0;
+        for (Integer j = 0; j < n; ++j) squares += real(conj(a[i * tda + j]) * a[i * tda + j]);
+        scale[i] = squares;
+    }
+    bool safe = true;
+    for (Integer i = 0; i < n; ++i) {
+        safe &= scale[i] > kSafeSquares && scale[i] <= kLargest;
+        scale[i] = 1.0 / std::sqrt(scale[i]);
+    }
+    return safe;
+}
+KOR_CLONES bool small_row_scales(Integer n, const double *a, std::ptrdiff_t tda, double *scale)
+{
+    return scales_from_squares(n, a, tda, scale);
+}
+KOR_CLONES bool small_row_scales(Integer n, const Complex *a, std::ptrdiff_t tda, double *scale)
+{
+    return scales_from_squares(n, a, tda, scale);
+}
+
 template <Scalar T>
 void scales_of_rows(Integer n, const T *a, Integer tda, double *scale)
 {
+    if (n <= kSmallSystem && small_row_scales(n, a, tda, scale)) return;
     for (Integer i = 0; i < n; ++i) {
-        const T *const row = a + std::ptrdiff_t{i} * tda;
-        // Up to this length a plain sum of squares that neither overflowed nor came near underflow is good enough.
-        constexpr double kSafeSquares = 0x1p-900;
-        double squares = 0.0;
-        if (n <= kSmallSystem)
-            for (Integer j = 0; j < n; ++j) squares += real(conj(row[j]) * row[j]);
-        const double length =
-            squares > kSafeSquares && squares <= kLargest ? std::sqrt(squares) : euclidean_norm(n, row, 1);
+        const double length = euclidean_norm(n, a + std::ptrdiff_t{i} * tda, 1);
         // The length of tiny rows has no finite reciprocal.
         scale[i] = length > 0.0 ? std::min(1.0 / length, kLargest) : 1.0 / length;
     }
 }
 
-// One right-hand side of a small system: each unknown is taken off all others as soon as it is known.
+// One right-hand side of a small system: each unknown is taken off all others as soon as it is known. The next one is taken
+// first and stays in its register, because the way through memory is the longest of all.
 template <Scalar T>
 void solve_small(Integer n, RowMajor<const T> A, T *b, std::ptrdiff_t step)
 {
     T x[kSmallSystem];
     for (Integer i = 0; i < n; ++i) x[i] = b[i * step];
-    for (Integer k = 0; k < n; ++k)
-        for (Integer i = k + 1; i < n; ++i) x[i] -= A(i, k) * x[k];
-    for (Integer k = n - 1; k >= 0; --k) {
-        x[k] = Divisor<T>{A(k, k)}(x[k]);
-        for (Integer i = 0; i < k; ++i) x[i] -= A(i, k) * x[k];
+    T next = b[0];
+    for (Integer k = 0; k + 1 < n; ++k) {
+        const T known = next;
+        x[k] = known;
+        next = x[k + 1] - A(k + 1, k) * known;
+        for (Integer i = k + 2; i < n; ++i) x[i] = x[i] - A(i, k) * known;
     }
+    for (Integer k = n - 1; k > 0; --k) {
+        const T known = Divisor<T>{A(k, k)}(next);
+        x[k] = known;
+        next = x[k - 1] - A(k - 1, k) * known;
+        for (Integer i = 0; i + 1 < k; ++i) x[i] = x[i] - A(i, k) * known;
+    }
+    x[0] = Divisor<T>{A(0, 0)}(next);
     for (Integer i = 0; i < n; ++i) b[i * step] = x[i];
 }
 
