@@ -1,7 +1,6 @@
 // Cubic splines through given points: the knots, and the linear equations for the coefficients.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 
 #include <kor.h>
@@ -22,16 +21,5 @@ void collocate(Integer m, const double *x, const double *t, double *above, doubl
 
 // The same for `count` curves at once: those of point i stand in y[i * count + k].
 void collocate(Integer m, const double *x, const double *t, double *above, double *y, std::ptrdiff_t count);
-
-// b = a', for a of `rows` by `columns`, row-major, in blocks that stay in the cache.
-inline void transpose(std::ptrdiff_t rows, std::ptrdiff_t columns, const double *a, double *b)
-{
-    constexpr std::ptrdiff_t block = 16;
-    for (std::ptrdiff_t i0 = 0; i0 < rows; i0 += block)
-        for (std::ptrdiff_t j0 = 0; j0 < columns; j0 += block)
-            for (std::ptrdiff_t i = i0; i < std::min(i0 + block, rows); ++i)
-                for (std::ptrdiff_t j = j0; j < std::min(j0 + block, columns); ++j)
-                    b[j * rows + i] = a[i * columns + j];
-}
 
 } // namespace kor::approx

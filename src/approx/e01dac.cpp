@@ -6,6 +6,7 @@
 #include "approx/arguments.hpp"
 #include "approx/collocation.hpp"
 #include "frame/workspace.hpp"
+#include "linalg/transpose.hpp"
 
 void e01dac(Integer mx, Integer my, const double x[], const double y[], const double f[], KorSpline2D *spline,
             KorError *fail)
@@ -23,14 +24,13 @@ void e01dac(Integer mx, Integer my, const double x[], const double y[], const do
     if (!lamda || !mu || !c || !transposed || !work) return report.error<NE_ALLOC_FAIL>();
 
     // One dimension at a time: first along y, for all x at once, then along x, for all y at once.
-    const auto m_x = static_cast<std::ptrdiff_t>(mx), m_y = static_cast<std::ptrdiff_t>(my);
     interpolation_knots(my, y, mu.data());
-    transpose(m_x, m_y, f, transposed.data());
-    collocate(my, y, mu.data(), work.data(), transposed.data(), m_x);
+    kor::linalg::transpose_into(mx, my, f, my, transposed.data(), mx);
+    collocate(my, y, mu.data(), work.data(), transposed.data(), mx);
 
     interpolation_knots(mx, x, lamda.data());
-    transpose(m_y, m_x, transposed.data(), c.data());
-    collocate(mx, x, lamda.data(), work.data(), c.data(), m_y);
+    kor::linalg::transpose_into(my, mx, transposed.data(), mx, c.data(), my);
+    collocate(mx, x, lamda.data(), work.data(), c.data(), my);
 
     spline->nx = mx + kOrder;
     spline->ny = my + kOrder;

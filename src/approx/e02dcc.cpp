@@ -10,12 +10,12 @@
 
 #include "approx/arguments.hpp"
 #include "approx/banded_triangle.hpp"
-#include "approx/collocation.hpp"
 #include "approx/knot_conditions.hpp"
 #include "approx/smoothing.hpp"
 #include "approx/warm_start.hpp"
 #include "frame/dispatch.hpp"
 #include "frame/workspace.hpp"
+#include "linalg/transpose.hpp"
 
 namespace {
 
@@ -218,13 +218,13 @@ class GridSmoothing {
     // The spline on these knots, without penalty for p = 0, and its residuals.
     void fit(double p)
     {
-        const std::ptrdiff_t nx = x_.knots.basis_size(), ny = y_.knots.basis_size();
+        const Integer nx = x_.knots.basis_size(), ny = y_.knots.basis_size();
         std::copy_n(f_, static_cast<std::ptrdiff_t>(mx_) * my_, lines_.data());
         x_.reduce(lines_.data(), my_, p, right_.data(), spare_.data());
-        transpose(nx, my_, right_.data(), lines_.data());
+        kor::linalg::transpose_into(nx, my_, right_.data(), my_, lines_.data(), nx);
         y_.reduce(lines_.data(), nx, p, right_.data(), spare_.data());
         y_.solve(right_.data(), nx);
-        transpose(ny, nx, right_.data(), c_.data());
+        kor::linalg::transpose_into(ny, nx, right_.data(), nx, c_.data(), ny);
         x_.solve(c_.data(), ny);
         sum_residuals();
     }

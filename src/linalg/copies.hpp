@@ -9,19 +9,6 @@
 
 namespace kor::linalg {
 
-// The upper triangle of a, without the diagonal, is copied to the lower one of b, conjugated; b may be a.
-template <Scalar T>
-void reflect_upper(Integer n, const T *a, Integer tda, T *b, Integer tdb)
-{
-    const RowMajor<const T> A{a, tda};
-    const RowMajor<T> B{b, tdb};
-    for (Integer i0 = 0; i0 < n; i0 += kTile)
-        for (Integer j0 = i0; j0 < n; j0 += kTile)
-            for (Integer i = i0, i1 = std::min(n, i0 + kTile); i < i1; ++i)
-                for (Integer j = std::max(j0, i + 1), j1 = std::min(n, j0 + kTile); j < j1; ++j)
-                    B(j, i) = conj(A(i, j));
-}
-
 // The first m rows of n elements.
 template <Scalar T>
 void copy_rows(Integer m, Integer n, const T *a, Integer tda, T *b, Integer tdb)
