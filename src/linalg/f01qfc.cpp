@@ -41,6 +41,26 @@ KOR_CLONES void pivoted_qr_pass(Integer m, Integer n, const double *old_z, doubl
     }
 }
 
+constexpr double kUnknown = -1.0;
+
+// Brings the lengths of n columns up to date, from which these elements of theirs have gone into the factor. length[j] is what
+// column j has, exact[j] what it had when it was measured: it becomes kUnknown where half the digits are lost. False if
+// there is such a column.
+KOR_CLONES bool shorten(Integer n, const double *gone, double *__restrict length, double *__restrict exact)
+{
+    double lost = 0.0;
+    for (Integer j = 0; j < n; ++j) {
+        const bool known = length[j] != 0.0 && exact[j] != kUnknown;
+        const double share = gone[j] / length[j], rest = (1.0 + share) * (1.0 - share), left = rest > 0.0 ? rest : 0.0;
+        const double shrunk = length[j] / exact[j];
+        const bool good = left * shrunk * shrunk > kRootOfPrecision;
+        length[j] = known & good ? length[j] * std::sqrt(left) : length[j];
+        lost = known & !good ? 1.0 : lost;
+        exact[j] = known & !good ? kUnknown : exact[j];
+    }
+    return lost == 0.0;
+}
+
 // Large matrices are factorised in blocks; in small ones, and at the end of large ones, the effect of the last reflection
 // on the rows below it is left pending, and carried out in the same pass over the matrix that prepares the next.
 class PivotedQr {
@@ -110,7 +130,7 @@ class PivotedQr {
             gemv(kRowMajor, Transpose, j + 1, columns, -1.0, F.row(0) + k + 1, n_, &A_(k, first), 1, 1.0, &A_(k, k) + 1,
                  1);
             A_(k, k) = diagonal;
-            for (Integer c = k + 1; c < n_; ++c) lengths_known &= shortened(k, c);
+            lengths_known = shorten(columns, &A_(k, k) + 1, length_ + k + 1, exact_ + k + 1);
         }
         if (k < m_ && k < n_)
             gemm(kRowMajor, NoTranspose, NoTranspose, m_ - k, n_ - k, k - first, -1.0, &A_(k, first), tda_,
@@ -130,8 +150,9 @@ class PivotedQr {
             zeta[k] = k + 1 < m_ ? make_reflection(m_ - k - 1, A_(k, k), &A_(k + 1, k), tda_, 0.0) : 0.0;
             if (k + 1 == n_) break;
             pass(k, zeta[k]);
+            if (shorten(n_ - k - 1, &A_(k, k) + 1, length_ + k + 1, exact_ + k + 1)) continue;
             for (Integer j = k + 1; j < n_; ++j)
-                if (!shortened(k, j)) {
+                if (exact_[j] == kUnknown) {
                     settle_column(k + 1, j);
                     measure(k + 1, j);
                 }
@@ -166,25 +187,10 @@ class PivotedQr {
         std::swap(pending_, next_);
     }
 
-    // Brings the length of column j, in the rows below k, up to date. length_[j] is what it has, exact_[j] what it had when
-    // it was measured. False, and exact_[j] is kUnknown, if half its digits are lost.
-    bool shortened(Integer k, Integer j)
-    {
-        if (length_[j] == 0.0 || exact_[j] == kUnknown) return true;
-        const double share = A_(k, j) / length_[j], left = std::max((1.0 + share) * (1.0 - share), 0.0);
-        const double shrunk = length_[j] / exact_[j];
-        if (left * shrunk * shrunk > kRootOfPrecision) {
-            length_[j] *= std::sqrt(left);
-            return true;
-        }
-        exact_[j] = kUnknown;
-        return false;
-    }
     void measure(Integer from, Integer j)
     {
         exact_[j] = length_[j] = from < m_ ? euclidean_norm(m_ - from, &A_(from, j), tda_) : 0.0;
     }
-    static constexpr double kUnknown = -1.0;
 
     Integer m_, n_;
     kor::RowMajor<double> A_;

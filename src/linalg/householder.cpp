@@ -15,11 +15,15 @@ namespace kor::linalg {
 
 namespace {
 
-constexpr Integer kBlock = 32;    // reflections that are applied to the rest of a matrix at once
+constexpr Integer kWidest = 32;   // most reflections that are applied to the rest of a matrix at once
 constexpr Integer kNarrow = 8;    // columns of a block that are reduced one by one
 constexpr Integer kFew = 16;      // columns of a matrix that are,
 constexpr Integer kFewShort = 32; // and of one that is not tall
 constexpr Integer kTall = 48;     // rows from which columns are copied for that, so that each is contiguous
+
+// Reflections that are applied at once, of so many: what a block costs besides grows with its width, what a product of
+// matrices gains does so only where it does not fit the cache. See bench/linalg/bench_dense.
+constexpr Integer block_of(Integer reflections) { return reflections <= 600 ? 16 : kWidest; }
 
 double zeta_of(double scalar) { return scalar; }
 double zeta_of(Complex scalar) { return scalar.re; }
@@ -172,8 +176,8 @@ void factor_columns(Integer m, Integer n, T *a, Integer tda, T *zeta, T *work)
     if (n <= kFew || (n <= kFewShort && m < kTall))
         columns.one_by_one(0, steps, n);
     else
-        for (Integer k = 0; k < steps; k += kBlock) {
-            const Integer end = std::min(k + kBlock, steps);
+        for (Integer k = 0, most = block_of(steps); k < steps; k += most) {
+            const Integer end = std::min(k + most, steps);
             columns.factor(k, end);
             if (end < n) columns.apply(k, end, end, n);
         }
@@ -186,9 +190,9 @@ void apply_columns(bool adjoint, Integer m, Integer k, const T *a, Integer tda, 
 {
     const RowMajor<const T> A{a, tda};
     const RowMajor<T> B{b, tdb};
-    const Integer blocks = (k + kBlock - 1) / kBlock;
+    const Integer most = block_of(k), blocks = (k + most - 1) / most;
     for (Integer step = 0; step < blocks; ++step) {
-        const Integer first = (adjoint ? step : blocks - 1 - step) * kBlock, width = std::min(kBlock, k - first);
+        const Integer first = (adjoint ? step : blocks - 1 - step) * most, width = std::min(most, k - first);
         Block<T> block{m - first, width, work};
         block.gather_columns(&A(first, first), tda, zeta + first);
         block.apply(adjoint, ncolb, B.row(first), tdb);
@@ -202,8 +206,9 @@ void form_columns(Integer m, Integer k, Integer ncolq, T *a, Integer tda, const 
     k = std::min(k, ncolq); // the others do not reach the first columns
     for (Integer j = k; j < ncolq; ++j)
         for (Integer i = 0; i < m; ++i) A(i, j) = i == j ? one<T>() : T{};
-    for (Integer first = (k - 1) / kBlock * kBlock; first >= 0 && k > 0; first -= kBlock) {
-        const Integer width = std::min(kBlock, k - first), last = first + width;
+    const Integer most = block_of(k);
+    for (Integer first = (k - 1) / most * most; first >= 0 && k > 0; first -= most) {
+        const Integer width = std::min(most, k - first), last = first + width;
         Block<T> block{m - first, width, work};
         block.gather_columns(&A(first, first), tda, zeta + first);
         block.apply(false, ncolq - last, &A(first, last), tda);
@@ -316,8 +321,9 @@ template <Scalar T>
 void factor_rows(Integer m, Integer n, T *a, Integer tda, T *zeta, T *work)
 {
     Rows<T> rows{m, n, {a, tda}, tda, work};
-    for (Integer last = m; last > 0; last -= std::min(kBlock, last)) {
-        const Integer first = std::max(last - kBlock, 0);
+    const Integer most = block_of(m);
+    for (Integer last = m; last > 0; last -= std::min(most, last)) {
+        const Integer first = std::max(last - most, 0);
         for (Integer k = last - 1; k >= first; --k) zeta[k] = reduce_row(m, n, rows.A, k, first, work);
         if (first > 0) rows.gather(first, last, zeta, false)(false, first, a, m, tda);
     }
@@ -335,8 +341,8 @@ void form_rows(Integer m, Integer n, Integer nrowp, T *a, Integer tda, const T *
         }
     };
     set_unit(m, nrowp);
-    for (Integer first = 0; first < m; first += kBlock) {
-        const Integer last = std::min(first + kBlock, m), done = std::min(last, nrowp);
+    for (Integer first = 0, most = block_of(m); first < m; first += most) {
+        const Integer last = std::min(first + most, m), done = std::min(last, nrowp);
         const auto block = rows.gather(first, last, zeta, true);
         if (first < nrowp) set_unit(first, done);
         block(true, done, a, m, tda);
@@ -347,7 +353,7 @@ void form_rows(Integer m, Integer n, Integer nrowp, T *a, Integer tda, const T *
 } // namespace
 
 // U, the inverse of T, and a product of a block with n columns.
-Count reflection_work(Integer m, Integer n) { return (Count{m} + n + kBlock) * Count{kBlock}; }
+Count reflection_work(Integer m, Integer n) { return (Count{m} + n + kWidest) * Count{kWidest}; }
 
 KOR_CLONES void reflect(Integer m, Integer n, double scalar, const double *z, Integer incz, double *first, double *y,
                         Integer tdy, double *w)

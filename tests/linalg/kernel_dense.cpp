@@ -11,6 +11,7 @@
 #include <kor/f03.h>
 #include <kor/f04.h>
 
+#include "linalg/transpose.hpp"
 #include "support/allocation.hpp"
 
 namespace kor::testing {
@@ -123,6 +124,27 @@ TEST(DenseMemory, SmallSystemsNeedNone)
     f04asc(n, a, n, b, x, p, b, &fail);
     f03afc(n, a, n, pivot, &det, &dete, &fail);
     EXPECT_EQ(AllocationWatch::allocations(), 0);
+}
+
+// Every order up to a few tiles, rows longer than the matrix: what lies beyond them stays.
+TEST(Transposition, ByBlocksAndLeftovers)
+{
+    for (Integer m = 1; m <= 37; ++m) {
+        const Integer n = 1 + m * 7 % 23, td = 41;
+        std::vector<double> a(td * td), b(td * td, -1.0);
+        for (std::size_t i = 0; i < a.size(); ++i) a[i] = static_cast<double>(i);
+        std::vector<double> in_place = a, reflected = a;
+        linalg::transpose_into(m, n, a.data(), td, b.data(), td);
+        linalg::transpose_in_place<false>(m, in_place.data(), td);
+        linalg::reflect_upper(m, a.data(), td, reflected.data(), td);
+        for (Integer i = 0; i < td; ++i)
+            for (Integer j = 0; j < td; ++j) {
+                const double here = a[i * td + j], across = a[j * td + i];
+                ASSERT_EQ(b[i * td + j], i < n && j < m ? across : -1.0);
+                ASSERT_EQ(in_place[i * td + j], i < m && j < m ? across : here);
+                ASSERT_EQ(reflected[i * td + j], j < i && i < m ? across : here);
+            }
+    }
 }
 
 // Systems of 300 and 500 equations with the solution 1: the residual over the norms, and the refined solution itself.
