@@ -1,4 +1,4 @@
-// Tests of arguments that the routines of chapters f01, f03 and f04 share. Each tells the first offence through the
+// Tests of arguments that the routines of chapters f01 to f04 share. Each tells the first offence through the
 // report, and returns true if there is one: `if (below_one(report, "n", n) || shorter(report, "tda", tda, "n", n)) return;`.
 #pragma once
 

@@ -4,28 +4,14 @@
 #include <cstddef>
 
 #include "frame/report.hpp"
+#include "linalg/dense_arguments.hpp"
 #include "linalg/symmetric_eigen.hpp"
 
 namespace kor::linalg {
 
-// A test that has failed is reported; true if so.
-inline bool less_than(const Report &report, const char *name, Integer value, Integer least)
-{
-    if (value >= least) return false;
-    report.error<NE_INT_ARG_LT>(name, least == 0 ? "0" : "1", name, value);
-    return true;
-}
-// A row of `columns_name` elements does not fit.
-inline bool row_too_short(const Report &report, const char *name, Integer value, const char *columns_name,
-                          Integer columns)
-{
-    if (value >= columns) return false;
-    report.error<NE_2_INT_ARG_LT>(name, value, columns_name, columns, name, columns_name);
-    return true;
-}
 inline bool order_refused(const Report &report, Integer n, Integer tda)
 {
-    return less_than(report, "n", n, 1) || row_too_short(report, "tda", tda, "n", n);
+    return below_one(report, "n", n) || shorter(report, "tda", tda, "n", n);
 }
 
 inline bool diagonal_refused(const Report &report, Integer n, const Complex *a, Integer tda)

@@ -7,6 +7,6 @@ void f02abc(Integer n, const double a[], Integer tda, double r[], double v[], In
 {
     using namespace kor::linalg;
     const kor::Report report{"f02abc", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdv", tdv, "n", n)) return;
+    if (order_refused(report, n, tda) || shorter(report, "tdv", tdv, "n", n)) return;
     report_outcome(report, symmetric_eigenvectors(n, a, tda, r, v, tdv), n);
 }

@@ -7,6 +7,6 @@ void f02adc(Integer n, double a[], Integer tda, double b[], Integer tdb, double 
 {
     using namespace kor::linalg;
     const kor::Report report{"f02adc", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdb", tdb, "n", n)) return;
+    if (order_refused(report, n, tda) || shorter(report, "tdb", tdb, "n", n)) return;
     report_outcome(report, definite_eigenvalues(n, a, tda, b, tdb, r), n);
 }

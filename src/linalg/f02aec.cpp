@@ -8,8 +8,7 @@ void f02aec(Integer n, double a[], Integer tda, double b[], Integer tdb, double 
 {
     using namespace kor::linalg;
     const kor::Report report{"f02aec", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdb", tdb, "n", n) ||
-        row_too_short(report, "tdv", tdv, "n", n))
+    if (order_refused(report, n, tda) || shorter(report, "tdb", tdb, "n", n) || shorter(report, "tdv", tdv, "n", n))
         return;
     report_outcome(report, definite_eigenvectors(n, a, tda, b, tdb, r, v, tdv), n);
 }

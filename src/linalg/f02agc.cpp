@@ -8,6 +8,6 @@ void f02agc(Integer n, double a[], Integer tda, Complex r[], Complex v[], Intege
 {
     using namespace kor::linalg;
     const kor::Report report{"f02agc", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdv", tdv, "n", n)) return;
+    if (order_refused(report, n, tda) || shorter(report, "tdv", tdv, "n", n)) return;
     report_outcome(report, general_eigenvalues(n, a, tda, r, v, tdv, iter), n);
 }

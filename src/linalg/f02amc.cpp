@@ -7,6 +7,6 @@ void f02amc(Integer n, double eps, double d[], double e[], double z[], Integer t
 {
     using namespace kor::linalg;
     const kor::Report report{"f02amc", fail};
-    if (less_than(report, "n", n, 1) || row_too_short(report, "tdz", tdz, "n", n)) return;
+    if (below_one(report, "n", n) || shorter(report, "tdz", tdz, "n", n)) return;
     iterate_and_report(report, n, eps, d, e, z, tdz);
 }

@@ -7,6 +7,6 @@ void f02apc(Integer n, double eps, double h[], Integer tdh, double wr[], double 
 {
     using namespace kor::linalg;
     const kor::Report report{"f02apc", fail};
-    if (less_than(report, "n", n, 1) || row_too_short(report, "tdh", tdh, "n", n)) return;
+    if (below_one(report, "n", n) || shorter(report, "tdh", tdh, "n", n)) return;
     iterate_and_report(report, n, {0, n - 1}, eps, h, tdh, nullptr, n, wr, wi, count);
 }

@@ -8,9 +8,9 @@ void f02aqc(Integer n, Integer low, Integer high, double eps, double h[], Intege
 {
     using namespace kor::linalg;
     const kor::Report report{"f02aqc", fail};
-    if (less_than(report, "n", n, 1) || less_than(report, "low", low, 1)) return;
+    if (below_one(report, "n", n) || below_one(report, "low", low)) return;
     if (high < low) return report.error<NE_2_INT_ARG_LT>("high", high, "low", low, "high", "low");
     if (high > n) return report.error<NE_2_INT_ARG_GT>("high", high, "n", n, "high", "n");
-    if (row_too_short(report, "tdh", tdh, "n", n) || row_too_short(report, "tdvecs", tdvecs, "n", n)) return;
+    if (shorter(report, "tdh", tdh, "n", n) || shorter(report, "tdvecs", tdvecs, "n", n)) return;
     iterate_and_report(report, n, {low - 1, high - 1}, eps, h, tdh, vecs, tdvecs, wr, wi, count);
 }

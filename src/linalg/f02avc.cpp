@@ -7,6 +7,6 @@ void f02avc(Integer n, double eps, double d[], double e[], KorError *fail)
 {
     using namespace kor::linalg;
     const kor::Report report{"f02avc", fail};
-    if (less_than(report, "n", n, 1)) return;
+    if (below_one(report, "n", n)) return;
     iterate_and_report(report, n, eps, d, e, NoRows{});
 }

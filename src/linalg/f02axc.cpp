@@ -7,8 +7,7 @@ void f02axc(Integer n, const Complex a[], Integer tda, double r[], Complex v[], 
 {
     using namespace kor::linalg;
     const kor::Report report{"f02axc", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdv", tdv, "n", n) ||
-        diagonal_refused(report, n, a, tda))
+    if (order_refused(report, n, tda) || shorter(report, "tdv", tdv, "n", n) || diagonal_refused(report, n, a, tda))
         return;
     report_outcome(report, symmetric_eigenvectors(n, a, tda, r, v, tdv), n);
 }

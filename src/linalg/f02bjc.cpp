@@ -9,8 +9,8 @@ void f02bjc(Integer n, double a[], Integer tda, double b[], Integer tdb, double 
 {
     using namespace kor::linalg;
     const kor::Report report{"f02bjc", fail};
-    if (order_refused(report, n, tda) || row_too_short(report, "tdb", tdb, "n", n)) return;
-    if (wantv && row_too_short(report, "tdv", tdv, "n", n)) return;
+    if (order_refused(report, n, tda) || shorter(report, "tdb", tdb, "n", n)) return;
+    if (wantv && shorter(report, "tdv", tdv, "n", n)) return;
     const EigenOutcome outcome = pair_eigenvalues(n, a, tda, b, tdb, tol, alfa, beta, wantv ? v : nullptr, tdv, iter);
     if (outcome == EigenOutcome::no_convergence) return report.error<NE_ITERATIONS_QZ>(iteration_limit(n));
     report_outcome(report, outcome, n);

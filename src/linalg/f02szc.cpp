@@ -9,7 +9,7 @@ void f02szc(Integer n, double d[], double e[], double sv[], Boolean want_b, doub
 {
     using namespace kor::linalg;
     const kor::Report report{"f02szc", fail};
-    if (less_than(report, "n", n, 1)) return;
+    if (below_one(report, "n", n)) return;
     if (want_y && columns_refused(report, "ncol_y", ncol_y, "tdy", tdy)) return;
     if (want_z && columns_refused(report, "ncol_z", ncol_z, "tdz", tdz)) return;
 

@@ -8,8 +8,8 @@ void f02wbc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double
 {
     using namespace kor::linalg;
     const kor::Report report{"f02wbc", fail};
-    if (less_than(report, "m", m, 1) || row_too_short(report, "n", n, "m", m) ||
-        row_too_short(report, "tda", tda, "n", n) || row_too_short(report, "lwork", lwork, "m", m))
+    if (below_one(report, "m", m) || shorter(report, "n", n, "m", m) || shorter(report, "tda", tda, "n", n) ||
+        shorter(report, "lwork", lwork, "m", m))
         return;
     IterationRecord record{work};
     switch (singular_decomposition(m, n, a, tda, wantb ? 1 : 0, b, 1, sv, {nullptr, 0, a, tda}, record)) {

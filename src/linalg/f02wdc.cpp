@@ -11,12 +11,10 @@ void f02wdc(Integer m, Integer n, double a[], Integer tda, Boolean wantb, double
 {
     using namespace kor::linalg;
     const kor::Report report{"f02wdc", fail};
-    if (less_than(report, "n", n, 1) || row_too_short(report, "m", m, "n", n) ||
-        row_too_short(report, "tda", tda, "n", n))
-        return;
-    if (wantr && row_too_short(report, "tdr", tdr, "n", n)) return;
-    if (wantpt && row_too_short(report, "tdpt", tdpt, "n", n)) return;
-    if (row_too_short(report, "lwork", lwork, "n", n)) return;
+    if (below_one(report, "n", n) || shorter(report, "m", m, "n", n) || shorter(report, "tda", tda, "n", n)) return;
+    if (wantr && shorter(report, "tdr", tdr, "n", n)) return;
+    if (wantpt && shorter(report, "tdpt", tdpt, "n", n)) return;
+    if (shorter(report, "lwork", lwork, "n", n)) return;
     if (!magnitude_of(m, n, a, tda).is_finite()) return report.error<NE_QR_FAIL_CONV>(step_limit(n));
     // The factorisation is made in copies: no output is touched before memory and convergence are sure.
     const kor::Workspace<double> room(kor::Count{n} * n + kor::Count{m} * n + kor::Count{m} + kor::Count{n});

@@ -65,10 +65,10 @@ void find_selected(const Report &report, Integer crit, Integer n, const T *a, In
                    Integer mest, Integer *m, Complex *w, Complex *v, Integer tdv)
 {
     if (!between(crit, Kor_Select_Modulus, Kor_Select_RealPart)) return report.error<NE_BAD_PARAM>("crit");
-    if (less_than(report, "n", n, 0)) return;
+    if (negative(report, "n", n)) return;
     if (tda < std::max(1, n)) return report.error<NE_INT_2>("tda", tda, "n", n, "tda >= max(1,n)");
     if (!(wu > wl)) return report.error<NE_2_REAL_ARG_LE>("wu", wu, "wl", wl, "wu", "wl");
-    if (less_than(report, "mest", mest, 1)) return;
+    if (below_one(report, "mest", mest)) return;
     if (tdv < std::max(1, mest)) return report.error<NE_INT_2>("tdv", tdv, "mest", mest, "tdv >= max(1,mest)");
     if (n == 0) {
         *m = 0;

@@ -19,8 +19,8 @@ namespace kor::linalg {
 inline bool columns_refused(const Report &report, const char *count_name, Integer count, const char *stride_name,
                             Integer stride)
 {
-    return less_than(report, count_name, count, 0) ||
-           (count > 0 && row_too_short(report, stride_name, stride, count_name, count));
+    return negative(report, count_name, count) ||
+           (count > 0 && shorter(report, stride_name, stride, count_name, count));
 }
 
 // r is the number of singular values.
@@ -40,7 +40,7 @@ void decompose_rectangle(const Report &report, Integer m, Integer n, T *a, Integ
                          Integer tdb, bool wantq, T *q, Integer tdq, double *sv, bool wantp, T *pt, Integer tdpt,
                          Integer *iter, double *e, Integer *failinfo)
 {
-    if (less_than(report, "m", m, 0) || less_than(report, "n", n, 0) || row_too_short(report, "tda", tda, "n", n) ||
+    if (negative(report, "m", m) || negative(report, "n", n) || shorter(report, "tda", tda, "n", n) ||
         columns_refused(report, "ncolb", ncolb, "tdb", tdb))
         return;
     const bool tall = m >= n;
@@ -81,7 +81,7 @@ void decompose_triangle(const Report &report, Integer n, T *a, Integer tda, Inte
                         bool wantq, T *q, Integer tdq, double *sv, bool wantp, Integer *iter, double *e,
                         Integer *failinfo)
 {
-    if (less_than(report, "n", n, 0) || row_too_short(report, "tda", tda, "n", n) ||
+    if (negative(report, "n", n) || shorter(report, "tda", tda, "n", n) ||
         columns_refused(report, "ncolb", ncolb, "tdb", tdb))
         return;
     if (wantq && tdq < n) return report.error<NE_TDQ_LT_N>();
@@ -109,7 +109,7 @@ template <Scalar T>
 void bidiagonalise_triangle(const Report &report, Integer n, T *a, Integer tda, double *d, double *e, Integer ncoly,
                             T *y, Integer tdy, bool wantq, T *q, Integer tdq)
 {
-    if (less_than(report, "n", n, 0) || row_too_short(report, "tda", tda, "n", n) ||
+    if (negative(report, "n", n) || shorter(report, "tda", tda, "n", n) ||
         columns_refused(report, "ncoly", ncoly, "tdy", tdy))
         return;
     if (wantq && tdq < n) return report.error<NE_TDQ_LT_N>();
@@ -140,7 +140,7 @@ void bidiagonalise_triangle(const Report &report, Integer n, T *a, Integer tda, 
 template <Scalar T>
 void apply_right_factor(const Report &report, Integer n, T *a, Integer tda, Integer ncoly, T *y, Integer tdy)
 {
-    if (less_than(report, "n", n, 0) || row_too_short(report, "tda", tda, "n", n) ||
+    if (negative(report, "n", n) || shorter(report, "tda", tda, "n", n) ||
         columns_refused(report, "ncoly", ncoly, "tdy", tdy))
         return;
     if (n == 0) return report.success();
@@ -199,10 +199,10 @@ void iterate_on_bidiagonal(const Report &report, Integer n, double *d, double *e
                            Integer nrowy, T *y, Integer tdy, Integer ncolz, T *z, Integer tdz, Integer *iter,
                            Integer *failinfo)
 {
-    if (less_than(report, "n", n, 0) || columns_refused(report, "ncolb", ncolb, "tdb", tdb) ||
-        less_than(report, "nrowy", nrowy, 0))
+    if (negative(report, "n", n) || columns_refused(report, "ncolb", ncolb, "tdb", tdb) ||
+        negative(report, "nrowy", nrowy))
         return;
-    if (nrowy > 0 && row_too_short(report, "tdy", tdy, "n", n)) return;
+    if (nrowy > 0 && shorter(report, "tdy", tdy, "n", n)) return;
     if (columns_refused(report, "ncolz", ncolz, "tdz", tdz)) return;
     // The columns of y turn: their copies are rows.
     const Workspace<T> columns(Count{n} * nrowy);

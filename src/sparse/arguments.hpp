@@ -6,6 +6,8 @@
 
 #include "frame/report.hpp"
 #include "sparse/coordinate.hpp"
+#include "sparse/factor_storage.hpp"
+#include "sparse/preconditioners.hpp"
 #include "sparse/solution.hpp"
 
 namespace kor::sparse {
@@ -46,6 +48,46 @@ inline bool reports_limits(const Report &report, Integer maxitn, double tol)
         return true;
     }
     return false;
+}
+
+// True, and reported, if the rule for dropping elements of a factor makes no sense.
+inline bool reports_drop_rule(const Report &report, Integer lfill, double dtol)
+{
+    if (lfill >= 0 || dtol >= 0.0) return false;
+    report.error<NE_REAL_INT_ARG_CONS>("dtol", dtol, "lfill", lfill, "dtol >= 0.0 if lfill < 0");
+    return true;
+}
+
+// True, and reported, if a factorisation has failed.
+inline bool reports_failure(const Report &report, Factorised outcome)
+{
+    switch (outcome) {
+    case Factorised::done:
+        return false;
+    case Factorised::no_memory:
+        report.error<NE_ALLOC_FAIL>();
+        break;
+    case Factorised::too_large:
+        report.error<NE_LA_TOO_SMALL>();
+        break;
+    }
+    return true;
+}
+
+// The same if no preconditioner can be made of the diagonal.
+inline bool reports_failure(const Report &report, Diagonal::Found found)
+{
+    switch (found) {
+    case Diagonal::Found::all:
+        return false;
+    case Diagonal::Found::zero:
+        report.error<NE_ZERO_DIAGONAL_ELEM>();
+        break;
+    case Diagonal::Found::no_memory:
+        report.error<NE_ALLOC_FAIL>();
+        break;
+    }
+    return true;
 }
 
 // The report at the end of an iteration.

@@ -12,8 +12,7 @@ void f11dac(Integer n, Integer nnz, double **a, Integer *la, Integer **irow, Int
     using namespace kor::sparse;
     const kor::Report report{"f11dac", fail};
     if (reports_size(report, n, nnz, Triangle::both) || reports_length(report, *la, nnz, "2*nnz")) return;
-    if (lfill < 0 && !(dtol >= 0.0))
-        return report.error<NE_REAL_INT_ARG_CONS>("dtol", dtol, "lfill", lfill, "dtol >= 0.0 if lfill < 0");
+    if (reports_drop_rule(report, lfill, dtol)) return;
     LuRules rules{lfill, dtol, LuPivoting::none, milu == Kor_SparseNsym_ModFact};
     switch (pstrat) {
     case Kor_SparseNsym_NoPiv:
@@ -41,14 +40,7 @@ void f11dac(Integer n, Integer nnz, double **a, Integer *la, Integer **irow, Int
     }
 
     LuResult result{ipivp, ipivq, istr, idiag, 0, 0};
-    switch (factorise_lu(matrix, rules, {a, la, irow, icol}, result)) {
-    case Factorised::done:
-        break;
-    case Factorised::no_memory:
-        return report.error<NE_ALLOC_FAIL>();
-    case Factorised::too_large:
-        return report.error<NE_LA_TOO_SMALL>();
-    }
+    if (reports_failure(report, factorise_lu(matrix, rules, {a, la, irow, icol}, result))) return;
     *nnzc = result.elements;
     *npivm = result.modified_pivots;
     report.success();

@@ -12,8 +12,7 @@ void f11jac(Integer n, Integer nnz, double **a, Integer *la, Integer **irow, Int
     using namespace kor::sparse;
     const kor::Report report{"f11jac", fail};
     if (reports_size(report, n, nnz, Triangle::lower) || reports_length(report, *la, nnz, "2*nnz")) return;
-    if (lfill < 0 && !(dtol >= 0.0))
-        return report.error<NE_REAL_INT_ARG_CONS>("dtol", dtol, "lfill", lfill, "dtol >= 0.0 if lfill < 0");
+    if (reports_drop_rule(report, lfill, dtol)) return;
     if (mic != Kor_SparseSym_ModFact && mic != Kor_SparseSym_UnModFact) return report.error<NE_BAD_PARAM>("mic");
     CholeskyRules rules{lfill, dtol, mic == Kor_SparseSym_ModFact, dscale, CholeskyPivoting::none};
     switch (pstrat) {
@@ -37,14 +36,7 @@ void f11jac(Integer n, Integer nnz, double **a, Integer *la, Integer **irow, Int
     }
 
     CholeskyResult result{ipiv, istr, 0, 0};
-    switch (factorise_cholesky(matrix, rules, {a, la, irow, icol}, result)) {
-    case Factorised::done:
-        break;
-    case Factorised::no_memory:
-        return report.error<NE_ALLOC_FAIL>();
-    case Factorised::too_large:
-        return report.error<NE_LA_TOO_SMALL>();
-    }
+    if (reports_failure(report, factorise_cholesky(matrix, rules, {a, la, irow, icol}, result))) return;
     *nnzc = result.elements;
     *npivm = result.modified_pivots;
     report.success();

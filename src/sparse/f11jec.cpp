@@ -29,14 +29,7 @@ void f11jec(Integer method, Integer precon, Integer n, Integer nnz, const double
     if (!start) return report.error<NE_ALLOC_FAIL>();
     find_row_starts(matrix, start.data());
     Diagonal diagonal;
-    if (precon != Kor_SparseSym_NoPrec) switch (diagonal.find(matrix, start.data())) {
-        case Diagonal::Found::all:
-            break;
-        case Diagonal::Found::zero:
-            return report.error<NE_ZERO_DIAGONAL_ELEM>();
-        case Diagonal::Found::no_memory:
-            return report.error<NE_ALLOC_FAIL>();
-        }
+    if (precon != Kor_SparseSym_NoPrec && reports_failure(report, diagonal.find(matrix, start.data()))) return;
     const auto precondition = [&](const double u[], double v[]) {
         if (precon == Kor_SparseSym_JacPrec)
             diagonal.jacobi(n, u, v);
