@@ -7,6 +7,7 @@
 
 #include <kor/d02.h>
 
+#include "ode/cheapest_run.hpp"
 #include "ode/nonstiff_problems.hpp"
 #include "support/ratio_table.hpp"
 
@@ -30,19 +31,12 @@ using kor::bench::Problem;
 using Vector = std::vector<double>;
 
 constexpr double kWanted = 1e-6;
-constexpr long kPatience = 100000; // evaluations; a solver that needs more has lost
+constexpr long kPatience = 100000;
 
 const kor::bench::Heading heading{"Non-stiff initial value problems: evaluations for an achieved error of 1e-6",
                                   "achieved error"};
 
-const Problem *current = nullptr;
-long calls = 0;
-
-void rate(double t, const double *y, double *yp)
-{
-    ++calls;
-    current->f(t, y, yp);
-}
+kor::bench::CountedRate<Problem> rate;
 
 // y at the end; tolerances are relative and absolute alike.
 using Solver = bool (*)(double tolerance, Vector &y);
@@ -56,9 +50,9 @@ bool kor_runge_kutta(Integer method, double tolerance, Vector &y)
     KorError fail{};
     Vector yp(n), largest(n), thresholds(n, 1.0);
     double t;
-    d02pvc(n, 0.0, current->y0.data(), current->t_end, tolerance, thresholds.data(), method, Kor_RK_range,
+    d02pvc(n, 0.0, rate.problem->y0.data(), rate.problem->t_end, tolerance, thresholds.data(), method, Kor_RK_range,
            Kor_ErrorAssess_off, 0.0, &state, &fail);
-    do d02pcc(n, kor_rate, current->t_end, &t, y.data(), yp.data(), largest.data(), &state, nullptr, &fail);
+    do d02pcc(n, kor_rate, rate.problem->t_end, &t, y.data(), yp.data(), largest.data(), &state, nullptr, &fail);
     while (fail.code == NW_RK_TOO_MANY);
     d02ppc(&state);
     return fail.code == NE_NOERROR;
@@ -72,9 +66,9 @@ bool kor_adams(double tolerance, Vector &y)
     KorAdamsOptions opt{};
     KorError fail{};
     double t = 0.0;
-    y = current->y0;
+    y = rate.problem->y0;
     d02qwc(Kor_NewStart, n, 0, &tolerance, &tolerance, 0, 0, 0.0, 0.0, 100000, 0, 0, 0, &opt, &fail);
-    d02qfc(n, kor_rate, &t, y.data(), current->t_end, nullptr, nullptr, &opt, &fail);
+    d02qfc(n, kor_rate, &t, y.data(), rate.problem->t_end, nullptr, nullptr, &opt, &fail);
     d02qyc(&opt);
     return fail.code == NE_NOERROR;
 }
@@ -90,8 +84,8 @@ bool gsl(const gsl_odeiv2_step_type *type, double tolerance, Vector &y)
                              nullptr, y.size(), nullptr};
     gsl_odeiv2_driver *driver = gsl_odeiv2_driver_alloc_y_new(&system, type, 1e-3, tolerance, tolerance);
     double t = 0.0;
-    y = current->y0;
-    const int status = gsl_odeiv2_driver_apply(driver, &t, current->t_end, y.data());
+    y = rate.problem->y0;
+    const int status = gsl_odeiv2_driver_apply(driver, &t, rate.problem->t_end, y.data());
     gsl_odeiv2_driver_free(driver);
     return status == GSL_SUCCESS;
 }
@@ -105,10 +99,10 @@ template <class Stepper>
 bool boost_controlled(double tolerance, Vector &y)
 {
     namespace odeint = boost::numeric::odeint;
-    y = current->y0;
+    y = rate.problem->y0;
     const auto system = [](const Vector &values, Vector &slopes, double t) { rate(t, values.data(), slopes.data()); };
-    odeint::integrate_adaptive(odeint::make_controlled(tolerance, tolerance, Stepper{}), system, y, 0.0, current->t_end,
-                               1e-3);
+    odeint::integrate_adaptive(odeint::make_controlled(tolerance, tolerance, Stepper{}), system, y, 0.0,
+                               rate.problem->t_end, 1e-3);
     return true;
 }
 bool boost_87(double tolerance, Vector &y)
@@ -132,7 +126,7 @@ bool cvode_adams(double tolerance, Vector &y)
     SUNContext context;
     SUNContext_Create(nullptr, &context);
     N_Vector state = N_VNew_Serial(static_cast<sunindextype>(y.size()), context);
-    std::copy(current->y0.begin(), current->y0.end(), NV_DATA_S(state));
+    std::copy(rate.problem->y0.begin(), rate.problem->y0.end(), NV_DATA_S(state));
     void *memory = CVodeCreate(CV_ADAMS, context);
     CVodeInit(memory, sundials_rate, 0.0, state);
     CVodeSStolerances(memory, tolerance, tolerance);
@@ -140,9 +134,9 @@ bool cvode_adams(double tolerance, Vector &y)
     CVodeSetErrFile(memory, nullptr);
     SUNNonlinearSolver solver = SUNNonlinSol_FixedPoint(state, 0, context);
     CVodeSetNonlinearSolver(memory, solver);
-    CVodeSetStopTime(memory, current->t_end);
+    CVodeSetStopTime(memory, rate.problem->t_end);
     realtype t = 0.0;
-    const int status = CVode(memory, current->t_end, state, &t, CV_NORMAL);
+    const int status = CVode(memory, rate.problem->t_end, state, &t, CV_NORMAL);
     std::copy_n(NV_DATA_S(state), y.size(), y.begin());
     SUNNonlinSolFree(solver);
     CVodeFree(&memory);
@@ -155,15 +149,15 @@ bool arkode(ARKODE_ERKTableID table, double tolerance, Vector &y)
     SUNContext context;
     SUNContext_Create(nullptr, &context);
     N_Vector state = N_VNew_Serial(static_cast<sunindextype>(y.size()), context);
-    std::copy(current->y0.begin(), current->y0.end(), NV_DATA_S(state));
+    std::copy(rate.problem->y0.begin(), rate.problem->y0.end(), NV_DATA_S(state));
     void *memory = ERKStepCreate(sundials_rate, 0.0, state, context);
     ERKStepSStolerances(memory, tolerance, tolerance);
     ERKStepSetMaxNumSteps(memory, 50000);
     ERKStepSetErrFile(memory, nullptr);
     ERKStepSetTableNum(memory, table);
-    ERKStepSetStopTime(memory, current->t_end);
+    ERKStepSetStopTime(memory, rate.problem->t_end);
     realtype t = 0.0;
-    const int status = ERKStepEvolve(memory, current->t_end, state, &t, ARK_NORMAL);
+    const int status = ERKStepEvolve(memory, rate.problem->t_end, state, &t, ARK_NORMAL);
     std::copy_n(NV_DATA_S(state), y.size(), y.begin());
     ERKStepFree(&memory);
     N_VDestroy(state);
@@ -174,19 +168,16 @@ bool arkode_87(double tolerance, Vector &y) { return arkode(ARKODE_FEHLBERG_13_7
 bool arkode_54(double tolerance, Vector &y) { return arkode(ARKODE_DORMAND_PRINCE_7_4_5, tolerance, y); }
 #endif
 
-struct Run {
-    double error = HUGE_VAL;
-    long calls = 0;
-};
+using kor::bench::Cheapest;
+using kor::bench::Run;
 
 Run run(const Problem &problem, Solver solve, double tolerance)
 {
-    current = &problem;
-    calls = 0;
+    rate = {&problem};
     Vector y(problem.y0.size());
     Run result;
     if (!solve(tolerance, y)) return result;
-    result.calls = calls;
+    result.calls = rate.calls;
     double worst = 0.0;
     for (std::size_t i = 0; i < y.size(); ++i) {
         const double error = std::fabs(y[i] - problem.solution[i]);
@@ -197,23 +188,11 @@ Run run(const Problem &problem, Solver solve, double tolerance)
     return result;
 }
 
-struct Cheapest {
-    double tolerance = 0.0;
-    Run run;
-};
-
-// The fewest evaluations with which a solver has got the accuracy, over tolerances an eighth of a decade apart.
 Cheapest cheapest(const Problem &problem, Solver solve)
 {
-    Cheapest best;
-    for (int i = 24; i <= 96; ++i) {
-        const double tolerance = std::pow(10.0, -i / 8.0);
-        const Run now = run(problem, solve, tolerance);
-        if (now.error <= kWanted && (best.run.calls == 0 || now.calls < best.run.calls)) best = {tolerance, now};
-        if (best.run.calls != 0 && now.calls > 2 * best.run.calls) break;
-        if (now.calls > kPatience) break;
-    }
-    return best;
+    return kor::bench::cheapest_run(
+        {.rungs_in_a_decade = 8, .lowest_decade = 12, .wanted = kWanted, .patience = kPatience},
+        [&](double tolerance) { return run(problem, solve, tolerance); });
 }
 
 struct Implementation {

@@ -9,6 +9,7 @@
 
 #include <kor/d02.h>
 
+#include "ode/cheapest_run.hpp"
 #include "support/ratio_table.hpp"
 
 #ifdef KOR_HAVE_GSL
@@ -91,20 +92,14 @@ void reaction_diffusion(double, const double *u, double *f)
     }
 }
 
-const Problem *current = nullptr;
-long calls = 0;
-void rate(double t, const double *y, double *f)
-{
-    ++calls;
-    current->f(t, y, f);
-}
+kor::bench::CountedRate<Problem> rate;
 
 using Solver = bool (*)(double tolerance, Vector &y);
 
 bool kor(double tolerance, Vector &y)
 {
     const auto n = static_cast<Integer>(y.size());
-    const double absolute = tolerance * current->absolute;
+    const double absolute = tolerance * rate.problem->absolute;
     KorBdfState st;
     Integer status, request = 0;
     d02nvc(n, 6, 5, &st, &status);
@@ -116,12 +111,12 @@ bool kor(double tolerance, Vector &y)
     st.work = work.data();
     st.iwork = pivots.data();
     st.crit = 1;
-    st.tcrit = current->end;
-    y = current->start;
+    st.tcrit = rate.problem->end;
+    y = rate.problem->start;
     double t = 0.0;
     do {
-        d02nmc(n, &t, current->end, y.data(), slope.data(), &tolerance, &absolute, 1, res.data(), jacobian.data(), &st,
-               &request, &status);
+        d02nmc(n, &t, rate.problem->end, y.data(), slope.data(), &tolerance, &absolute, 1, res.data(), jacobian.data(),
+               &st, &request, &status);
         if (request == 1) rate(t, y.data(), slope.data());
     } while (request != 0);
     return status == 0;
@@ -139,8 +134,8 @@ struct Sundials {
         SUNContext_Create(nullptr, &context);
         y = N_VNew_Serial(n, context);
         std::copy(start.begin(), start.end(), NV_DATA_S(y));
-        matrix = current->banded ? SUNBandMatrix(n, 1, 1, context) : SUNDenseMatrix(n, n, context);
-        solver = current->banded ? SUNLinSol_Band(y, matrix, context) : SUNLinSol_Dense(y, matrix, context);
+        matrix = rate.problem->banded ? SUNBandMatrix(n, 1, 1, context) : SUNDenseMatrix(n, n, context);
+        solver = rate.problem->banded ? SUNLinSol_Band(y, matrix, context) : SUNLinSol_Dense(y, matrix, context);
     }
     ~Sundials()
     {
@@ -157,32 +152,32 @@ int sundials_rate(realtype t, N_Vector y, N_Vector yp, void *)
 }
 bool cvode(double tolerance, Vector &y)
 {
-    Sundials s{current->start};
+    Sundials s{rate.problem->start};
     void *memory = CVodeCreate(CV_BDF, s.context);
     CVodeInit(memory, sundials_rate, 0.0, s.y);
-    CVodeSStolerances(memory, tolerance, tolerance * current->absolute);
+    CVodeSStolerances(memory, tolerance, tolerance * rate.problem->absolute);
     CVodeSetMaxNumSteps(memory, 100000);
     CVodeSetErrFile(memory, nullptr);
     CVodeSetLinearSolver(memory, s.solver, s.matrix);
-    CVodeSetStopTime(memory, current->end);
+    CVodeSetStopTime(memory, rate.problem->end);
     realtype t = 0.0;
-    const int status = CVode(memory, current->end, s.y, &t, CV_NORMAL);
+    const int status = CVode(memory, rate.problem->end, s.y, &t, CV_NORMAL);
     std::copy_n(NV_DATA_S(s.y), y.size(), y.begin());
     CVodeFree(&memory);
     return status >= 0;
 }
 bool arkode(double tolerance, Vector &y)
 {
-    Sundials s{current->start};
+    Sundials s{rate.problem->start};
     void *memory = ARKStepCreate(nullptr, sundials_rate, 0.0, s.y, s.context);
-    ARKStepSStolerances(memory, tolerance, tolerance * current->absolute);
+    ARKStepSStolerances(memory, tolerance, tolerance * rate.problem->absolute);
     ARKStepSetOrder(memory, 5);
     ARKStepSetMaxNumSteps(memory, 100000);
     ARKStepSetErrFile(memory, nullptr);
     ARKStepSetLinearSolver(memory, s.solver, s.matrix);
-    ARKStepSetStopTime(memory, current->end);
+    ARKStepSetStopTime(memory, rate.problem->end);
     realtype t = 0.0;
-    const int status = ARKStepEvolve(memory, current->end, s.y, &t, ARK_NORMAL);
+    const int status = ARKStepEvolve(memory, rate.problem->end, s.y, &t, ARK_NORMAL);
     std::copy_n(NV_DATA_S(s.y), y.size(), y.begin());
     ARKStepFree(&memory);
     return status >= 0;
@@ -193,7 +188,7 @@ bool arkode(double tolerance, Vector &y)
 // GSL wants a Jacobian: plain differences, as the others make them.
 int gsl_jacobian(double t, const double y[], double *dfdy, double dfdt[], void *)
 {
-    const std::size_t n = current->start.size();
+    const std::size_t n = rate.problem->start.size();
     Vector base(n), shifted(n), point(y, y + n);
     rate(t, y, base.data());
     for (std::size_t j = 0; j < n; ++j) {
@@ -211,32 +206,29 @@ bool gsl(double tolerance, Vector &y)
     gsl_set_error_handler_off();
     gsl_odeiv2_system system{[](double t, const double *values, double *slopes, void *) {
                                  rate(t, values, slopes);
-                                 return calls < kPatience ? 0 : static_cast<int>(GSL_EBADFUNC);
+                                 return rate.calls < kPatience ? 0 : static_cast<int>(GSL_EBADFUNC);
                              },
                              gsl_jacobian, y.size(), nullptr};
-    gsl_odeiv2_driver *driver = gsl_odeiv2_driver_alloc_y_new(&system, gsl_odeiv2_step_msbdf, current->end * 1e-8,
-                                                              tolerance * current->absolute, tolerance);
+    gsl_odeiv2_driver *driver = gsl_odeiv2_driver_alloc_y_new(&system, gsl_odeiv2_step_msbdf, rate.problem->end * 1e-8,
+                                                              tolerance * rate.problem->absolute, tolerance);
     double t = 0.0;
-    y = current->start;
-    const int status = gsl_odeiv2_driver_apply(driver, &t, current->end, y.data());
+    y = rate.problem->start;
+    const int status = gsl_odeiv2_driver_apply(driver, &t, rate.problem->end, y.data());
     gsl_odeiv2_driver_free(driver);
     return status == GSL_SUCCESS;
 }
 #endif
 
-struct Run {
-    double error = HUGE_VAL;
-    long calls = 0;
-};
+using kor::bench::Cheapest;
+using kor::bench::Run;
 
 Run run(const Problem &problem, Solver solve, double tolerance)
 {
-    current = &problem;
-    calls = 0;
+    rate = {&problem};
     Vector y(problem.start.size());
     Run result;
     if (!solve(tolerance, y)) return result;
-    result.calls = calls;
+    result.calls = rate.calls;
     result.error = 0.0;
     for (std::size_t i = 0; i < y.size(); ++i) {
         const double error = std::fabs(y[i] / problem.solution[i] - 1.0);
@@ -245,21 +237,11 @@ Run run(const Problem &problem, Solver solve, double tolerance)
     return result;
 }
 
-// The cheapest run that achieves the error wanted, over a ladder of tolerances.
-struct Cheapest {
-    double tolerance = 0.0;
-    Run run;
-};
 Cheapest cheapest(const Problem &problem, Solver solve)
 {
-    Cheapest best;
-    for (int k = 12; k <= 44; ++k) {
-        const double tolerance = std::pow(10.0, -k / 4.0);
-        const Run r = run(problem, solve, tolerance);
-        if (r.error <= kWanted && (best.tolerance == 0.0 || r.calls < best.run.calls)) best = {tolerance, r};
-        if (r.calls > kPatience || (best.tolerance > 0.0 && r.calls > 2 * best.run.calls)) break;
-    }
-    return best;
+    return kor::bench::cheapest_run(
+        {.rungs_in_a_decade = 4, .lowest_decade = 11, .wanted = kWanted, .patience = kPatience},
+        [&](double tolerance) { return run(problem, solve, tolerance); });
 }
 
 // Solutions from the test set of F. Mazzia and C. Magherini, release 2.4 (2008), sin(t + 0.5), and by our own method at 1e-13
@@ -305,7 +287,7 @@ const bool registered = [] {
     };
     for (Problem &problem : problems) {
         if (problem.solution.empty()) {
-            current = &problem;
+            rate = {&problem};
             Vector y(problem.start.size());
             kor(1e-13, y);
             problem.solution = y;
