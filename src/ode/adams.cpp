@@ -116,13 +116,13 @@ void Adams::start(Integer neq, double *work, double t, const double *y, Derivati
     std::copy_n(y, n_, y_);
     std::copy_n(y, n_, y_old_);
     f(t_, y_, phi(1));
-    psi_ = psi_next_ = alpha_ = beta_ = sigma_ = g_ = {};
+    psi_ = psi_next_ = alpha_ = beta_ = sigma_ = g_ = column_ = {};
     h_ = t_end - t;
     h_old_ = 0.0;
     k_ = 1;
     k_old_ = 0;
     equal_steps_ = 0;
-    settled_order_ = 0;
+    settled_ = 0;
     steps_ = low_order_steps_ = 0;
     tolerance_factor_ = 1.0;
     bad_component_ = 0;
@@ -156,33 +156,39 @@ void Adams::choose_first_step()
     h_ = direction_ * std::max(size, smallest_step());
 }
 
-// The coefficients of order k for a step of h, from the distances psi_i = t_n - t_(n-i). False when they stay as they are.
+// The coefficients of order k for a step of h, from the distances psi_i = t_n - t_(n-i). False when they stay as they are: after
+// so many equal steps the first ones do, and also when the order comes down and rises again.
 [[gnu::always_inline]] inline bool Adams::find_coefficients()
 {
     if (h_ != h_old_) equal_steps_ = 0;
     equal_steps_ = std::min(equal_steps_ + 1, k_old_ + 1);
-    if (equal_steps_ == 1) settled_order_ = 0;
-    if (k_ <= settled_order_) return false;
+    if (equal_steps_ == 1) settled_ = 0;
+    if (k_ <= settled_) return false;
 
-    psi_next_[1] = h_;
-    beta_[1] = 1.0;
-    alpha_[1] = 1.0;
-    sigma_[1] = sigma_[2] = 1.0;
-    for (int i = 2; i <= k_; ++i) {
+    if (settled_ == 0) {
+        psi_next_[1] = h_;
+        beta_[1] = alpha_[1] = sigma_[1] = sigma_[2] = g_[1] = 1.0;
+        column_ = kReciprocals;
+    }
+    for (int i = std::max(settled_ + 1, 2); i <= k_; ++i) {
         psi_next_[i] = h_ + psi_[i - 1];
         beta_[i] = beta_[i - 1] * (psi_next_[i - 1] / psi_[i - 1]);
         alpha_[i] = h_ / psi_next_[i];
         sigma_[i + 1] = i * alpha_[i] * sigma_[i];
     }
-    // g_i is the first of a triangle of repeated integrals, of which one column is kept.
-    OrderArray column = kReciprocals;
-    g_[1] = 1.0;
-    for (int i = 2; i <= k_ + 1; ++i) {
-        for (int q = 1; q <= k_ + 2 - i; ++q) column[q] -= alpha_[i - 1] * column[q + 1];
-        g_[i] = column[1];
+    // g_(i+1) is the first of a column of repeated integrals, which becomes the next by alpha_i. As far as it will be wanted
+    // again it has its full length.
+    const int settling = std::min(equal_steps_, k_);
+    for (int i = settled_ + 1; i <= settling; ++i) {
+        for (int q = 1; q <= kMaxOrder + 2 - i; ++q) column_[q] -= alpha_[i] * column_[q + 1];
+        g_[i + 1] = column_[1];
     }
-    // After so many equal steps everything stays as it is now, and so it does when the order comes down and rises again.
-    if (equal_steps_ >= k_) settled_order_ = k_;
+    OrderArray column = column_;
+    for (int i = settling + 1; i <= k_; ++i) {
+        for (int q = 1; q <= k_ + 1 - i; ++q) column[q] -= alpha_[i] * column[q + 1];
+        g_[i + 1] = column[1];
+    }
+    settled_ = settling;
     return true;
 }
 
@@ -358,7 +364,7 @@ void Adams::fail(const Errors &errors, int failures)
     }
     h_ *= factor;
     equal_steps_ = 0;
-    settled_order_ = 0;
+    settled_ = 0;
 }
 
 KOR_CLONES

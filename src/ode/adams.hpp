@@ -126,9 +126,9 @@ class Adams {
     std::size_t n_, even_, lines_; // components; with one more if need be; those in whole cache lines
     double size_;                  // of the solution, by the weights, squared
     double t_, t_old_, t_end_, h_, h_old_, direction_, tolerance_factor_;
-    OrderArray psi_, psi_next_, alpha_, beta_, sigma_, g_;
+    OrderArray psi_, psi_next_, alpha_, beta_, sigma_, g_, column_;
     int64_t steps_, low_order_steps_;
-    int k_, k_old_, equal_steps_, settled_order_;
+    int k_, k_old_, equal_steps_, settled_; // settled: coefficients that equal steps do not change any more
     Integer bad_component_;
     bool growing_, weighed_start_, closed_;
 };
