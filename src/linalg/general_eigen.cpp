@@ -152,8 +152,10 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
 {
     const Magnitude greatest_a = magnitude_of(n, n, a, tda), greatest_b = magnitude_of(n, n, b, tdb);
     if (!greatest_a.is_finite() || !greatest_b.is_finite()) return EigenOutcome::no_convergence;
-    const double norm_a = matrix_norm(FrobeniusNorm, General, false, n, n, a, tda);
-    const double norm_b = matrix_norm(FrobeniusNorm, General, false, n, n, b, tdb);
+    const auto negligible = [=](const double *matrix, Integer td) {
+        return tol > kPrecision ? tol * matrix_norm(FrobeniusNorm, General, false, n, n, matrix, td) : 0.0;
+    };
+    const double least_alfa = negligible(a, tda), least_beta = negligible(b, tdb);
     const char job = v != nullptr ? 'V' : 'N';
     // Small problems have no use for the blocks of a greater work space, and asking for its size takes them long.
     constexpr Integer kWorthBlocks = 64;
@@ -169,7 +171,6 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
     if (lapack::ggev(job, 'N', n, a, tda, b, tdb, re, im, beta, left, n, &unused, n, work, lwork) != 0)
         return EigenOutcome::no_convergence;
 
-    const double least_alfa = tol > kPrecision ? tol * norm_a : 0.0, least_beta = tol > kPrecision ? tol * norm_b : 0.0;
     for (Integer j = 0; j < n; ++j) {
         // The two of a pair are scaled each in its way, but they stand or fall together.
         const Integer last = im[j] > 0.0 ? j + 1 : j;
@@ -192,9 +193,16 @@ EigenOutcome pair_eigenvalues(Integer n, double *a, Integer tda, double *b, Inte
     for (Integer j = 0; j < n; ++j) {
         const bool pair = im[j] != 0.0;
         const auto component = [&](Integer i) { return Complex{X(j, i), pair ? -X(j + 1, i) : 0.0}; };
+        // The largest is of the order of one: squares are safe.
         Complex largest{};
-        for (Integer i = 0; i < n; ++i)
-            if (modulus(component(i)) > modulus(largest)) largest = component(i);
+        double greatest = 0.0;
+        for (Integer i = 0; i < n; ++i) {
+            const Complex x = component(i);
+            const double square = x.re * x.re + x.im * x.im;
+            if (!(square > greatest)) continue;
+            greatest = square;
+            largest = x;
+        }
         const double size = modulus(largest);
         const Complex factor = size > 0.0 ? Complex{largest.re / size / size, -largest.im / size / size} : Complex{};
         for (Integer i = 0; i < n; ++i) {
