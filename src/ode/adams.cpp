@@ -364,7 +364,6 @@ void Adams::fail(const Errors &errors, int failures)
     }
     h_ *= factor;
     equal_steps_ = 0;
-    settled_ = 0;
 }
 
 KOR_CLONES

@@ -247,6 +247,35 @@ TEST(Companions, TurnWithTheirMatrix)
     }
 }
 
+// Each diagonal element is at least as great as what the rows from it on leave of later columns.
+void expect_longest_first(const Matrix<double> &factor, double slack)
+{
+    for (Integer k = 0; k < std::min(factor.m, factor.n); ++k)
+        for (Integer j = k + 1; j < factor.n; ++j) {
+            long double length = 0.0L;
+            for (Integer i = k; i <= std::min(j, factor.m - 1); ++i)
+                length += static_cast<long double>(factor(i, j)) * factor(i, j);
+            EXPECT_LE(std::sqrt(length), std::fabs(factor(k, k)) * (1 + 1e-8) + slack) << k << ' ' << j;
+        }
+}
+
+// What the first reflection leaves of columns that are all but parallel cannot be told from their lengths.
+TEST(PivotedQr, MeasuresAgainWhatLengthsNoLongerTell)
+{
+    Random random;
+    for (const Integer n : {12, 150}) {
+        auto a = random_matrix<double>(n, n, random);
+        for (Integer j = 0; j < n; ++j)
+            for (Integer i = 0; i < n; ++i) a(i, j) = 1.0 + std::ldexp(a(i, j), -30 - (j * 5) % 7);
+        std::vector<double> zeta(n), work(2 * n);
+        std::vector<Integer> perm(n);
+        Record fail;
+        f01qfc(VariablePivot, n, n, a.data(), n, zeta.data(), perm.data(), work.data(), &fail);
+        EXPECT_SUCCESS(fail);
+        expect_longest_first(a, 1e-14 * n);
+    }
+}
+
 TEST(PivotedQr, TakesTheLongestColumnAndFindsTheRank)
 {
     Random random;
@@ -268,15 +297,8 @@ TEST(PivotedQr, TakesTheLongestColumnAndFindsTheRank)
             auto permuted = a;
             for (Integer k = 0; k < steps; ++k)
                 for (Integer i = 0; i < m; ++i) std::swap(permuted(i, k), permuted(i, perm[k] - 1));
-            // Each diagonal element is at least as great as what the rows from it on leave of later columns.
             const double scale = std::fabs(factor(0, 0));
-            for (Integer k = 0; k < steps; ++k)
-                for (Integer j = k + 1; j < n; ++j) {
-                    long double length = 0.0L;
-                    for (Integer i = k; i <= std::min(j, m - 1); ++i)
-                        length += static_cast<long double>(factor(i, j)) * factor(i, j);
-                    EXPECT_LE(std::sqrt(length), std::fabs(factor(k, k)) * (1 + 1e-8) + 1e-14 * scale);
-                }
+            expect_longest_first(factor, 1e-14 * scale);
             for (Integer k = rank; k < steps; ++k) EXPECT_LE(std::fabs(factor(k, k)), 1e-13 * scale);
             if (rank > 0) {
                 EXPECT_GE(std::fabs(factor(rank - 1, rank - 1)), 1e-9 * scale);

@@ -107,6 +107,11 @@ TEST(Adams, WorkStaysWithinBounds)
     EXPECT_LT(orbit.error(), 1e-8);
     EXPECT_GT(orbit.opt.order, 8);
     EXPECT_NEAR(orbit.problem.calls, 2.0 * orbit.opt.steps_taken, 30.0);
+    // Long runs of equal steps, in which the order goes to and fro: coefficients are kept and continued.
+    Journey wave{oscillator(5.0), {.tolerance = 1e-10}};
+    ASSERT_EQ(wave.go(20.0), NE_NOERROR);
+    EXPECT_LT(wave.problem.calls, 1620);
+    EXPECT_LT(wave.error(), 1e-7);
 }
 
 // Where a solution comes to rest the order has to come down, but only after the errors of two lower orders both say so: one alone
@@ -345,6 +350,11 @@ TEST(Adams, EndsAtSingularitiesInBoundedWork)
     Journey lost_at_once{lost_at(-1.0), {}};
     EXPECT_EQ(lost_at_once.go(1.0), NE_ODE_TOL);
     EXPECT_LT(lost_at_once.problem.calls, 1000);
+    // Growth beyond the range: what is infinite is no solution.
+    Journey growth{{[](double, const double *y, double *yp) { yp[0] = y[0]; }, 0.0, {1.0}}, {.tolerance = 1e-3}};
+    EXPECT_NE(growth.go(720.0), NE_NOERROR);
+    EXPECT_TRUE(std::isfinite(growth.y[0]));
+    EXPECT_NEAR(growth.t, 709.8, 2.0);
     Journey kinked{kink(), {}};
     ASSERT_EQ(kinked.go(1.0), NE_NOERROR);
     EXPECT_LT(kinked.error(), 1e-6);
