@@ -59,6 +59,7 @@ bool kor_runge_kutta(Integer method, double tolerance, Vector &y)
 }
 bool kor_87(double tolerance, Vector &y) { return kor_runge_kutta(Kor_RK_7_8, tolerance, y); }
 bool kor_54(double tolerance, Vector &y) { return kor_runge_kutta(Kor_RK_4_5, tolerance, y); }
+bool kor_32(double tolerance, Vector &y) { return kor_runge_kutta(Kor_RK_2_3, tolerance, y); }
 
 bool kor_adams(double tolerance, Vector &y)
 {
@@ -91,6 +92,7 @@ bool gsl(const gsl_odeiv2_step_type *type, double tolerance, Vector &y)
 }
 bool gsl_87(double tolerance, Vector &y) { return gsl(gsl_odeiv2_step_rk8pd, tolerance, y); }
 bool gsl_54(double tolerance, Vector &y) { return gsl(gsl_odeiv2_step_rkck, tolerance, y); }
+bool gsl_32(double tolerance, Vector &y) { return gsl(gsl_odeiv2_step_rk2, tolerance, y); }
 bool gsl_adams(double tolerance, Vector &y) { return gsl(gsl_odeiv2_step_msadams, tolerance, y); }
 #endif
 
@@ -165,6 +167,7 @@ bool arkode(ARKODE_ERKTableID table, double tolerance, Vector &y)
     return status >= 0;
 }
 bool arkode_87(double tolerance, Vector &y) { return arkode(ARKODE_FEHLBERG_13_7_8, tolerance, y); }
+bool arkode_32(double tolerance, Vector &y) { return arkode(ARKODE_BOGACKI_SHAMPINE_4_2_3, tolerance, y); }
 bool arkode_54(double tolerance, Vector &y) { return arkode(ARKODE_DORMAND_PRINCE_7_4_5, tolerance, y); }
 #endif
 
@@ -213,6 +216,17 @@ const std::vector<Implementation> implementations{
 #endif
 };
 
+// Whose order is too low for an error of 1e-6: only what they cost besides the evaluations is of interest.
+const std::vector<Implementation> low_order{
+    {"order 3(2)", "KOR", kor_32},
+#ifdef KOR_HAVE_GSL
+    {"order 3(2)", "GSL", gsl_32},
+#endif
+#ifdef KOR_HAVE_SUNDIALS
+    {"order 3(2)", "ARKODE", arkode_32},
+#endif
+};
+
 void add_classics()
 {
     static std::vector<Problem> problems = kor::bench::classic_problems();
@@ -257,13 +271,15 @@ void add_overhead()
         d[1] = -y[0];
     });
     problem.solution = {std::sin(1000.0), std::cos(1000.0)};
-    for (const Implementation &one : implementations) {
-        const Run once = run(problem, one.solve, 1e-8);
-        kor::bench::add(
-            std::string{"per evaluation, "} + one.class_name + "/" + one.name,
-            [solve = one.solve] { run(problem, solve, 1e-8); },
-            {.error = once.error, .calls = static_cast<double>(once.calls), .items = static_cast<double>(once.calls)});
-    }
+    const auto add = [](const Implementation &one, double tolerance) {
+        const Run once = run(problem, one.solve, tolerance);
+        const auto calls = static_cast<double>(once.calls);
+        kor::bench::add(std::string{"per evaluation, "} + one.class_name + "/" + one.name,
+                        [solve = one.solve, tolerance] { run(problem, solve, tolerance); },
+                        {.error = once.error, .calls = calls, .items = calls});
+    };
+    for (const Implementation &one : implementations) add(one, 1e-8);
+    for (const Implementation &one : low_order) add(one, 1e-5);
 }
 
 // The error divided by the tolerance, over the tolerances: the closer to a constant, the more the tolerance means.

@@ -197,18 +197,19 @@ void Adams::choose_first_step()
 template <class Vector>
 [[gnu::always_inline]] inline void Adams::predict_components(std::size_t first, std::size_t last)
 {
-    const std::size_t stride = even_;
+    const std::size_t stride = even_, last_row = std::size_t(k_ - 1) * stride;
+    const double *const phi = phi_;
+    double *const expected = expected_;
     const int k = k_;
     const double h = h_;
     for (std::size_t l = first; l < last; l += kLanes<Vector>) {
         Vector sum{}, difference{};
-        const double *from = phi(k) + l;
-        double *to = expected(k) + l;
-        for (int i = k; i >= 1; --i, from -= stride, to -= stride) {
-            const Vector term = beta_[i] * load<Vector>(from);
+        std::size_t at = last_row + l;
+        for (int i = k; i >= 1; --i, at -= stride) {
+            const Vector term = beta_[i] * load<Vector>(phi + at);
             sum += g_[i] * term;
             difference += term;
-            store(to, difference);
+            store(expected + at, difference);
         }
         const Vector y = load<Vector>(y_ + l), change = h * sum - load<Vector>(rounding_ + l);
         const Vector predicted = y + change;

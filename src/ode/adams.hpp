@@ -124,7 +124,6 @@ class Adams {
     double *phi_, *expected_, *y_, *y_old_, *predicted_, *yp_predicted_, *reciprocal_weight_, *rounding_,
         *rounding_predicted_, *closing_, *y_try_;
     std::size_t n_, even_, lines_; // components; with one more if need be; those in whole cache lines
-    double size_;                  // of the solution, by the weights, squared
     double t_, t_old_, t_end_, h_, h_old_, direction_, tolerance_factor_;
     OrderArray psi_, psi_next_, alpha_, beta_, sigma_, g_, column_;
     int64_t steps_, low_order_steps_;
