@@ -87,7 +87,7 @@ class PivotedQr {
 
   private:
     // Reflections whose effect is gathered in a product of matrices, and the number of them from which that pays.
-    static constexpr Integer kBlock = 32, kFused = 128;
+    static constexpr Integer kBlock = 8, kFused = 128;
 
     Integer choose(Integer k, Integer *perm)
     {
