@@ -7,12 +7,12 @@
 namespace kor::testing {
 namespace {
 
-// Shapes around the widths at which blocks begin: 8 columns one by one, 32 in a block.
+// Shapes around the widths at which blocks begin: 8 columns one by one, 16 in a block.
 struct Shape {
     Integer m, n;
 };
-constexpr Shape kTall[] = {{1, 1},  {2, 1},   {2, 2},   {3, 2},   {5, 5},   {9, 8},
-                           {12, 9}, {33, 20}, {34, 33}, {70, 40}, {65, 65}, {100, 3}};
+constexpr Shape kTall[] = {{1, 1},   {2, 1},   {2, 2},   {3, 2},   {5, 5},   {9, 8},  {12, 9},
+                           {18, 17}, {33, 20}, {34, 33}, {70, 40}, {65, 65}, {100, 3}};
 
 template <class T>
 struct Routines;
