@@ -78,7 +78,7 @@ KOR_INLINE void complex_butterfly(const Radix &radix, Access access, Source sour
                                   After after)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<Pair<V>, V> points{radix};
+    typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) { points.x[l] = before(l, source.load(access, l)); });
     radix.run(points);

@@ -52,8 +52,17 @@ inline double *at_line(double *p)
 }
 inline constexpr Index whole_lines(Index count) { return (count + kLine - 1) / kLine * kLine; }
 
+enum class Kind { complex, real, hermitian };
+
+// Transforms of one sequence in place, multiplied by `scale`, for the lengths that have a butterfly.
+struct AloneTable {
+    using Transform = void (*)(Sequence x, double scale);
+    Transform complex[kLongestButterfly + 1], real[kLongestButterfly + 1], hermitian[kLongestButterfly + 1];
+};
+
 struct Kernels {
     Index lanes; // elements in a register
+    AloneTable alone;
 
     // exp(-2 pi i (first + step j) / n) for j = 0..count-1: cosines and negated sines, each within 0.75 ulp.
     // 0 <= first, step < n.

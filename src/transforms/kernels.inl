@@ -10,6 +10,7 @@
 #include "transforms/radices.inl"
 #include "transforms/complex_passes.inl"
 #include "transforms/real_passes.inl"
+#include "transforms/alone.inl"
 // clang-format on
 
 // Calls body with the type that stands for the stage's radix; no large prime.
@@ -29,6 +30,10 @@ KOR_INLINE void with_small_radix(const Stage &stage, Body body)
         return body(std::type_identity<Fixed<6>>{});
     case 7:
         return body(std::type_identity<Fixed<7>>{});
+    case 11:
+        return body(std::type_identity<Fixed<11>>{});
+    case 13:
+        return body(std::type_identity<Fixed<13>>{});
     default:
         return body(std::type_identity<Prime>{});
     }
@@ -46,28 +51,23 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 template <class Body>
 KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
 {
-    switch (stage.radix) {
-    case 8:
-        return body(std::type_identity<Fixed<8>>{});
-    case 9:
-        return body(std::type_identity<Fixed<9>>{});
-    case 10:
-        return body(std::type_identity<Fixed<10>>{});
-    case 12:
-        return body(std::type_identity<Fixed<12>>{});
-    case 14:
-        return body(std::type_identity<Fixed<14>>{});
-    case 15:
-        return body(std::type_identity<Fixed<15>>{});
-    case 16:
-        return body(std::type_identity<Fixed<16>>{});
-    default:
-        return with_radix(stage, body);
-    }
+    const auto is_this = [&]<int p>(Constant<p>) __attribute__((always_inline)) {
+        if constexpr (has_butterfly(p)) {
+            if (stage.radix != p) return false;
+            body(std::type_identity<Fixed<p>>{});
+            return true;
+        }
+        return false;
+    };
+    const bool done = [&]<int... p>(std::integer_sequence<int, p...>) __attribute__((always_inline)) {
+        return (is_this(Constant<p>{}) || ...);
+    }(std::make_integer_sequence<int, kLongestButterfly + 1>{});
+    if (!done) with_radix(stage, body);
 }
 
 inline constexpr Kernels kKernels{
     .lanes = kLanes,
+    .alone = alone_table(),
     .unit_roots = unit_roots,
     .root_table = root_table,
     .transpose = transpose,

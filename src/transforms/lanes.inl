@@ -1,7 +1,7 @@
 // Several doubles at a time, in the registers of the generation that the includer compiles for. Part of kernels.inl.
 
 #define KOR_INLINE [[gnu::always_inline]] inline
-#define KOR_UNROLL _Pragma("GCC unroll 16")
+#define KOR_UNROLL _Pragma("GCC unroll 32")
 
 inline constexpr Index kLanes = KOR_LANES;
 typedef double Lanes __attribute__((vector_size(8 * KOR_LANES)));

@@ -1,8 +1,8 @@
 // The kinds of radix that a pass can be built on: a fixed butterfly, an odd prime, a large prime. Part of kernels.inl.
 //
 // Each offers: `radix`; kRootsInTable, whether the table holds roots in place of the first twiddle factors; kInRegisters,
-// whether it takes registers of elements; loop(), a loop over points; Points, the arrays of a butterfly's inputs x and outputs y; run() for complex or
-// real inputs; run_to_real() for Hermitian inputs, which may leave the imaginary parts of y unset.
+// whether it takes registers of elements; loop(), a loop over points; Points, the arrays of a butterfly's inputs x and
+// outputs y; run() and run_to_real() as butterflies have them.
 
 template <int p>
 struct Fixed {
@@ -19,10 +19,10 @@ struct Fixed {
         KOR_UNROLL for (Index i = 0; i < count; ++i) body(i);
     }
 
-    template <class X, class V>
+    template <class X, class Y>
     struct Points {
         X x[p];
-        Pair<V> y[p];
+        Y y[p];
         KOR_INLINE explicit Points(const Fixed &) {}
     };
 
@@ -34,7 +34,7 @@ struct Fixed {
     template <class Points>
     KOR_INLINE void run_to_real(Points &points) const
     {
-        Butterfly<p>::run(points.x, points.y);
+        Butterfly<p>::run_to_real(points.x, points.y);
     }
 };
 
@@ -60,15 +60,15 @@ struct Prime {
         for (Index i = 0; i < count; ++i) body(i);
     }
 
-    template <class X, class V>
+    template <class X, class Y>
     struct Points {
         X x[kLargestDirectPrime];
-        Pair<V> y[kLargestDirectPrime];
+        Y y[kLargestDirectPrime];
         explicit Points(const Prime &) {}
     };
 
-    template <class X, class V>
-    void run(Points<X, V> &points) const
+    template <class Points>
+    void run(Points &points) const
     {
         fold(points.x);
         points.y[0] = complex(total(points.x));
@@ -84,14 +84,16 @@ struct Prime {
     {
         // Sums of conjugates are real, differences imaginary.
         V folded[kLargestDirectPrime];
-        fold(points.x);
         folded[0] = points.x[0].re;
-        for (Index l = 1; l < radix; ++l) folded[l] = l <= radix / 2 ? points.x[l].re : points.x[l].im;
-        points.y[0].re = total(folded);
+        for (Index l = 1; l <= radix / 2; ++l) {
+            folded[l] = points.x[l].re + points.x[l].re;
+            folded[radix - l] = points.x[l].im + points.x[l].im;
+        }
+        points.y[0] = total(folded);
         for (Index k = 1; k <= radix / 2; ++k) {
             const auto [even, odd] = sums(folded, k);
-            points.y[k].re = even - odd;
-            points.y[radix - k].re = even + odd;
+            points.y[k] = even - odd;
+            points.y[radix - k] = even + odd;
         }
     }
 
@@ -144,19 +146,24 @@ struct LargePrime {
         for (Index i = 0; i < count; ++i) body(i);
     }
 
-    template <class X, class V>
+    template <class X, class Y>
     struct Points {
         X *x;
-        Pair<V> *y;
+        Y *y;
         explicit Points(const LargePrime &large)
-            : x{reinterpret_cast<X *>(large.prime.input())}, y{reinterpret_cast<Pair<V> *>(large.prime.output())}
+            : x{reinterpret_cast<X *>(large.prime.input())}, y{reinterpret_cast<Y *>(large.prime.output())}
         {
         }
     };
 
-    void run(Points<Pair<double>, double> &) const { prime.run_complex(); }
-    void run(Points<double, double> &) const { prime.run_real(); }
-    void run_to_real(Points<Pair<double>, double> &) const { prime.run_complex(); }
+    void run(Points<Pair<double>, Pair<double>> &) const { prime.run_complex(); }
+    void run(Points<double, Pair<double>> &) const { prime.run_real(); }
+    void run_to_real(Points<Pair<double>, double> &points) const
+    {
+        for (Index k = 1; k <= radix / 2; ++k) points.x[radix - k] = conjugate(points.x[k]);
+        prime.run_complex();
+        for (Index l = 0; l < radix; ++l) points.y[l] = points.y[2 * l];
+    }
 
     const Index radix;
     PrimeTransform &prime;

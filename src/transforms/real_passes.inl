@@ -16,7 +16,7 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
                                        const double *in, double *out, double scale)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<V, V> points{radix};
+    typename Radix::template Points<V, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index l)
                          __attribute__((always_inline)) { points.x[l] = access.load(in + l * layout.row_step); });
@@ -35,7 +35,7 @@ KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLa
                                const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<Pair<V>, V> points{radix};
+    typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
             const double *row = in + l * layout.row_step;
@@ -64,7 +64,7 @@ KOR_INLINE void real_butterfly_at_half(const Radix &radix, Access access, const 
                                        const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<Pair<V>, V> points{radix};
+    typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
             points.x[l] = twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
@@ -83,23 +83,16 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
-    points.x[0] = {access.load(in), V{}};
     radix.loop(
-        radix.radix / 2, [&](Index i) __attribute__((always_inline)) {
-            const Index k = i + 1;
-            const V re = access.load(in + k * r * layout.long_step);
-            if (2 * k == radix.radix) {
-                points.x[k] = {re, V{}};
-            } else {
-                const V im = access.load(in + (radix.radix - k) * r * layout.long_step);
-                points.x[k] = {re, im};
-                points.x[radix.radix - k] = {re, -im};
-            }
+        radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
+            points.x[k] = {access.load(in + k * r * layout.long_step), V{}};
+            if (k > 0 && 2 * k < radix.radix)
+                points.x[k].im = access.load(in + (radix.radix - k) * r * layout.long_step);
         });
     radix.run_to_real(points);
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
-            access.store(out + l * layout.row_step, scale * points.y[l].re);
+            access.store(out + l * layout.row_step, scale * points.y[l]);
         });
 }
 
@@ -108,7 +101,7 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
                                     const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<Pair<V>, V> points{radix};
+    typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index k) __attribute__((always_inline)) {
             const double *const here = in + (f + r * k) * layout.long_step;
@@ -133,7 +126,7 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
                                             const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
-    typename Radix::template Points<Pair<V>, V> points{radix};
+    typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop((radix.radix + 1) / 2, [&](Index k) __attribute__((always_inline)) {
         const V re = access.load(in + (r / 2 + r * k) * layout.long_step);
         if (2 * k + 1 == radix.radix) {

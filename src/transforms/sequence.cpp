@@ -112,9 +112,8 @@ Passes passes_of(const Kernels &kernel, Kind kind)
 
 void transform_whole(Kind kind, Index n, Sequence x, double scale)
 {
-    // A butterfly reads all before it writes.
-    const Stage stage{n, 1, 1, nullptr, nullptr, nullptr};
-    passes_of(kernels_for_length(n), kind).whole(stage, {1, 1, 1, 1, 1}, x, x, scale);
+    const AloneTable &alone = kernels_for_length(n).alone;
+    (kind == Kind::complex ? alone.complex : kind == Kind::real ? alone.real : alone.hermitian)[n](x, scale);
 }
 
 void Plan::transform(Sequence in, Sequence out, double scale, double *work) const

@@ -5,8 +5,6 @@
 
 namespace kor::transforms {
 
-enum class Kind { complex, real, hermitian };
-
 // Sequences up to this length are better transformed side by side, if there are several.
 inline constexpr Index kLongestSideBySide = 96;
 

@@ -20,10 +20,23 @@ Stages::Stages(Index n, const double *trig) : count{0}
 
 Stages Stages::fewest(Index n, const double *trig)
 {
-    if (!has_butterfly(n)) return {n, trig};
-    Stages whole{1, trig};
-    whole.stage[whole.count++] = {n, 1, 1, trig, trig, nullptr};
-    return whole;
+    if (has_butterfly(n)) {
+        Stages whole{1, trig};
+        whole.stage[whole.count++] = {n, 1, 1, trig, trig, nullptr};
+        return whole;
+    }
+    Stages stages{n, trig};
+    int count = stages.count;
+    for (Index length = 1; count > 0 && length <= kLongestButterfly; --count) {
+        if (has_butterfly(length)) {
+            Stage &last = stages.stage[count];
+            last.radix = length;
+            last.after = 1;
+            stages.count = count + 1;
+        }
+        length *= stages.stage[count - 1].radix;
+    }
+    return stages;
 }
 
 } // namespace kor::transforms

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 
 #include <kor.h>
 
@@ -41,28 +43,15 @@ struct Stage {
     PrimeTransform *prime; // for a radix too large to work out by its definition, otherwise null
 };
 
-// Lengths with a butterfly of their own, whose roots are constants.
-constexpr bool has_butterfly(Index n)
-{
-    switch (n) {
-    case 2:
-    case 3:
-    case 4:
-    case 5:
-    case 6:
-    case 7:
-    case 8:
-    case 9:
-    case 10:
-    case 12:
-    case 14:
-    case 15:
-    case 16:
-        return true;
-    default:
-        return false;
-    }
-}
+// Lengths with a butterfly of their own, whose roots are constants: their bits are set.
+inline constexpr int kLongestButterfly = 32;
+inline constexpr std::uint64_t kButterflies = [] {
+    std::uint64_t lengths = 0;
+    for (const int n : {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 24, 25, 27, 28, 30, 32})
+        lengths |= std::uint64_t{1} << n;
+    return lengths;
+}();
+constexpr bool has_butterfly(Index n) { return n <= kLongestButterfly && (kButterflies >> n & 1) != 0; }
 
 struct Stages {
     Stage stage[kMaxFactors];
@@ -71,7 +60,7 @@ struct Stages {
     // `trig` holds 2n elements as c06gzc fills them.
     Stages(Index n, const double *trig);
 
-    // As few stages as will do: one for a length with a butterfly of its own.
+    // As few stages as will do: the last ones are taken together as far as there is a butterfly for them.
     static Stages fewest(Index n, const double *trig);
 };
 
