@@ -5,11 +5,13 @@
 
 namespace kor::transforms {
 
-InPlaceFactors c06eaz(Integer n)
+namespace {
+
+constexpr InPlaceFactors factorised(std::uint32_t n)
 {
     InPlaceFactors factors{InPlaceStatus::good, 1, 1};
     // Short divisions are faster.
-    auto rest = static_cast<std::uint32_t>(n), prime = std::uint32_t{2};
+    std::uint32_t rest = n, prime = 2;
     int count = 0;
     while (rest > 1) {
         while (prime <= kLargestInPlacePrime && rest % prime != 0) ++prime;
@@ -27,6 +29,30 @@ InPlaceFactors c06eaz(Integer n)
         }
     }
     return factors;
+}
+
+// The square roots for short lengths, 0 where a prime is too large: divisions would take as long as the transform.
+constexpr Index kTabulated = 2048;
+struct SquareRoots {
+    std::uint8_t length[kTabulated + 1];
+};
+constexpr SquareRoots kSquareRoots = [] {
+    SquareRoots roots{};
+    for (std::uint32_t n = 1; n <= kTabulated; ++n) {
+        const InPlaceFactors factors = factorised(n);
+        roots.length[n] = factors.status == InPlaceStatus::good ? static_cast<std::uint8_t>(factors.square_root) : 0;
+    }
+    return roots;
+}();
+
+} // namespace
+
+InPlaceFactors c06eaz(Integer n)
+{
+    if (n > kTabulated) return factorised(static_cast<std::uint32_t>(n));
+    const Index root = kSquareRoots.length[n];
+    if (root == 0) return {InPlaceStatus::prime_too_large, 1, 1};
+    return {InPlaceStatus::good, root, n / (root * root)};
 }
 
 } // namespace kor::transforms

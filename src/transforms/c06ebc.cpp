@@ -1,8 +1,6 @@
 // c06ebc: the transform of a Hermitian sequence, in place.
 #include <kor/c06.h>
 
-#include <cmath>
-
 #include "transforms/arguments.hpp"
 
 using namespace kor::transforms;
@@ -13,6 +11,6 @@ void c06ebc(Integer n, double x[], KorError *fail)
     InPlaceFactors factors;
     if (!suits_in_place(report, n, factors)) return;
 
-    transform_in_place(n, factors, Kind::hermitian, {x, nullptr}, 1.0 / std::sqrt(static_cast<double>(n)));
+    transform_in_place(n, factors, Kind::hermitian, {x, nullptr}, unitary_scale(n));
     report.success();
 }

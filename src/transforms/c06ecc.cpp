@@ -1,8 +1,6 @@
 // c06ecc: the transform of a complex sequence, in place.
 #include <kor/c06.h>
 
-#include <cmath>
-
 #include "transforms/arguments.hpp"
 
 using namespace kor::transforms;
@@ -13,6 +11,6 @@ void c06ecc(Integer n, double x[], double y[], KorError *fail)
     InPlaceFactors factors;
     if (!suits_in_place(report, n, factors)) return;
 
-    transform_in_place(n, factors, Kind::complex, {x, y}, 1.0 / std::sqrt(static_cast<double>(n)));
+    transform_in_place(n, factors, Kind::complex, {x, y}, unitary_scale(n));
     report.success();
 }

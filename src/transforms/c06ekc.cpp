@@ -3,7 +3,6 @@
 // The product of the transforms, transformed back; all in place.
 #include <kor/c06.h>
 
-#include <cmath>
 
 #include "transforms/arguments.hpp"
 
@@ -40,7 +39,7 @@ void c06ekc(Integer Operation, Integer n, double x[], double y[], KorError *fail
     transform_in_place(n, factors, Kind::real, {y, nullptr}, 1.0);
     multiply(n, x, y, Operation == Kor_Correlation);
     transform_in_place(n, factors, Kind::hermitian, {x, nullptr}, 1.0 / length);
-    const double scale = 1.0 / std::sqrt(length);
+    const double scale = unitary_scale(n);
     for (Index k = 0; k < n; ++k) y[k] *= scale;
     report.success();
 }

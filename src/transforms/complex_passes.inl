@@ -113,18 +113,12 @@ KOR_INLINE void complex_row(const Radix &radix, const Block &block, Index a, Seq
     }
 }
 
-// Rows of a single element have nothing to fill registers with: the lanes go across them. Covers the rows 1..count by
-// body(access, row), or returns false.
-template <class Radix, class Body>
-KOR_INLINE bool across_rows(const Block &block, Index count, Body body)
+// Rows of a single element have nothing to fill registers with: the lanes go across them.
+template <class Radix>
+KOR_INLINE bool across_rows(const Block &block, Index count)
 {
-    if constexpr (Radix::kInRegisters) {
-        const bool gapless = block.in_row == 1 && block.out_row == 1;
-        if (!gapless || block.width != 1 || block.before != 1 || block.spread != 1 || count < kLanes) return false;
-        for (Index i = 0; i < count; i += kLanes) body(Full{}, 1 + std::min(i, count - kLanes));
-        return true;
-    }
-    return false;
+    const bool gapless = block.in_row == 1 && block.out_row == 1;
+    return Radix::kInRegisters && gapless && block.width == 1 && block.before == 1 && block.spread == 1 && count >= kLanes;
 }
 
 template <class Radix>
@@ -132,22 +126,34 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
 {
     const Radix radix{stage};
     const Block block = merged(given);
+    if constexpr (Radix::kInRegisters) {
+        if (across_rows<Radix>(block, block.after)) {
+            for (Index i = 0; i < block.after; i += kLanes) {
+                const Index a = i + kLanes <= block.after ? i : block.after - kLanes, to = a * radix.radix;
+                const OneForEach<Full, Radix::kRootsInTable> twiddle{Full{}, stage, a};
+                complex_butterfly(radix, ToAfar{{}, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
+                                  Rows{{out.re + to, out.im + to}, 1}, NoTwiddle{}, twiddle);
+            }
+            return;
+        }
+    }
     complex_row(radix, block, 0, in, out, NoTwiddle{});
-    const bool done = across_rows<Radix>(
-        block, block.after - 1, [&](auto full, Index a) __attribute__((always_inline)) {
-            const Index to = a * radix.radix;
-            const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, a};
-            complex_butterfly(radix, ToAfar{full, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
-                              Rows{{out.re + to, out.im + to}, 1}, NoTwiddle{}, twiddle);
-        });
-    if (done) return;
     for (Index a = 1; a < block.after; ++a) complex_row(radix, block, a, in, out, SameForAll{stage, a * block.spread});
 }
 
 template <class Radix>
 void complex_whole(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
 {
-    complex_row(Radix{stage}, merged(given), 0, in, out, ScaledOnly{scale});
+    const Radix radix{stage};
+    const Block block = merged(given);
+    for (Index b = 0; b < block.before; ++b)
+        deal_whole(
+            radix, block, b, {in.re, in.im}, {out.re, out.im}, [&](auto access, Index c) __attribute__((always_inline)) {
+                const Index from = b * block.in_row + c, to = b * block.out_row + c;
+                const Rows source{{in.re + from, in.im + from}, block.before * block.in_row};
+                const Rows target{{out.re + to, out.im + to}, block.before * block.out_row};
+                complex_butterfly(radix, access, source, target, NoTwiddle{}, ScaledOnly{scale});
+            });
 }
 
 // What a pass over columns reads or writes, besides rows of complex numbers: columns first + c, first >= 1, of packed

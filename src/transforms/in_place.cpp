@@ -302,12 +302,20 @@ class Sweep {
     Sequence roots_; // factors of the columns of a range
 };
 
-} // namespace
-
-void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
+// A length of one block.
+void transform_block(Index n, Kind kind, Sequence x, double scale)
 {
-    if (has_butterfly(n)) return transform_whole(kind, n, x, scale);
+    alignas(sizeof(double) * kLine) double work[8 * kGathered];
+    if (const double *const table = kept_table(n); table != nullptr)
+        return Plan{kind, n, table}.transform(x, x, scale, work);
+    double table[2 * kLargestBlock];
+    fill_root_table(n, table);
+    Plan{kind, n, table}.transform(x, x, scale, work);
+}
 
+// A length of many blocks.
+void transform_blocks_and_sweep(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
+{
     const Dimensions d{n, factors};
     Stack stack;
     if (kind == Kind::hermitian) {
@@ -329,6 +337,18 @@ void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Seque
         kind == Kind::complex ? sweep.complex(x) : sweep.real(x.re);
         v *= d.size[i];
     }
+}
+
+} // namespace
+
+void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
+{
+    if (has_butterfly(n))
+        transform_whole(kind, n, x, scale);
+    else if (n <= kLargestBlock)
+        transform_block(n, kind, x, scale);
+    else
+        transform_blocks_and_sweep(n, factors, kind, x, scale);
 }
 
 } // namespace kor::transforms

@@ -52,8 +52,6 @@ inline double *at_line(double *p)
 }
 inline constexpr Index whole_lines(Index count) { return (count + kLine - 1) / kLine * kLine; }
 
-enum class Kind { complex, real, hermitian };
-
 // Transforms of one sequence in place, multiplied by `scale`, for the lengths that have a butterfly.
 struct AloneTable {
     using Transform = void (*)(Sequence x, double scale);
@@ -88,6 +86,10 @@ struct Kernels {
     void (*real_pass)(const Stage &, const Block &, Sequence in, Sequence out);
     void (*hermitian_pass)(const Stage &, const Block &, Sequence in, Sequence out);
 
+    // The first one or two stages, as lead_passes.inl has them, of a single sequence: what complex_pass() would give. There are
+    // at least so many columns as registers have lanes. Past the end of `out`, up to a register may be written.
+    void (*complex_lead)(const Stage *, int count, Sequence in, Sequence out);
+
     // A stage without twiddle factors, where `after` is 1; results are multiplied by `scale`.
     void (*complex_whole)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
     void (*real_whole)(const Stage &, const Block &, Sequence in, Sequence out, double scale);
@@ -114,7 +116,10 @@ struct Kernels {
 // The fastest that this processor can run.
 const Kernels &kernels();
 
-// The same for short lengths: long registers would stay empty.
+// The same for short lengths: long registers would stay empty, or overlap too much.
 const Kernels &kernels_for_length(Index n);
+
+// Those with the longest registers that so many elements fill, or else the shortest.
+const Kernels &kernels_for_lanes(Index elements);
 
 } // namespace kor::transforms

@@ -9,6 +9,7 @@
 #include "transforms/transposes.inl"
 #include "transforms/radices.inl"
 #include "transforms/complex_passes.inl"
+#include "transforms/lead_passes.inl"
 #include "transforms/real_passes.inl"
 #include "transforms/alone.inl"
 // clang-format on
@@ -90,6 +91,7 @@ inline constexpr Kernels kKernels{
                 packed_pass<Radix, HermitianDirection>(stage, block, in.re, out.re);
             });
         },
+    .complex_lead = any_complex_lead,
     .complex_whole =
         [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
             with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {

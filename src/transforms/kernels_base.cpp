@@ -18,18 +18,20 @@ namespace {
 const bool has_v4 = __builtin_cpu_supports("x86-64-v4"), has_v3 = __builtin_cpu_supports("x86-64-v3");
 #endif
 
-// Below these lengths shorter registers are faster.
-constexpr Index kLongestForTwoLanes = 15, kLongestForFourLanes = 127;
+// Up to this length shorter registers are faster.
+constexpr Index kLongestForFourLanes = 127;
 
 } // namespace
 
-const Kernels &kernels() { return kernels_for_length(kLongestForFourLanes + 1); }
+const Kernels &kernels() { return kernels_for_lanes(8); }
 
-const Kernels &kernels_for_length([[maybe_unused]] Index n)
+const Kernels &kernels_for_length(Index n) { return kernels_for_lanes(n > kLongestForFourLanes ? 8 : 4); }
+
+const Kernels &kernels_for_lanes([[maybe_unused]] Index elements)
 {
 #if defined(KOR_TRANSFORM_GENERATIONS)
-    if (has_v4 && n > kLongestForFourLanes) return kernels_for_v4();
-    if (has_v3 && n > kLongestForTwoLanes) return kernels_for_v3();
+    if (has_v4 && elements >= 8) return kernels_for_v4();
+    if (has_v3) return kernels_for_v3();
 #endif
     return kernels_for_all();
 }

@@ -39,6 +39,41 @@ struct One {
     KOR_INLINE void store_mirrored(double *p, double v) const { *p = v; }
 };
 
+// The first elements of a register, fewer than it holds, of rows that follow each other in ascending order. A register may be read
+// whole unless that would lead past the end of the rows; and written whole, if no gap is between the rows: what is too
+// much is overwritten by the rows that follow.
+struct Few {
+    using Value = Lanes;
+    Index count;
+    // Where the last register begins that does not lead past the end, of real and of imaginary parts.
+    const double *last_in[2];
+    const double *last_out[2];
+    bool gapless;
+
+    KOR_INLINE Lanes load(const double *p) const
+    {
+        if (!beyond(p, last_in)) return load_lanes(p);
+        double elements[kLanes] = {};
+        for (Index i = 0; i < count; ++i) elements[i] = p[i];
+        return load_lanes(elements);
+    }
+    KOR_INLINE void store(double *p, Lanes v) const
+    {
+        if (gapless && !beyond(p, last_out)) return store_lanes(p, v);
+        for (Index i = 0; i < count; ++i) p[i] = v[i];
+    }
+
+  private:
+    KOR_INLINE static bool beyond(const double *p, const double *const (&last)[2])
+    {
+        const auto within = [p](const double *from) __attribute__((always_inline)) {
+            return reinterpret_cast<std::uintptr_t>(p) - reinterpret_cast<std::uintptr_t>(from + 1) <
+                   sizeof(double) * kLanes;
+        };
+        return within(last[0]) || within(last[1]);
+    }
+};
+
 // Elements that stand `stride` apart.
 KOR_INLINE Lanes load_strided(const double *p, Index stride)
 {

@@ -178,3 +178,21 @@ KOR_INLINE void deal(Index count, Body body)
     else
         for (Index i = 0; i < count; ++i) body(One{}, i);
 }
+
+// The same for a stage that is a whole transform, row b of those before it: whatever their number, the elements go in registers.
+struct Places {
+    const double *re, *im;
+};
+template <class Radix, class Body>
+KOR_INLINE void deal_whole(const Radix &radix, const Block &block, Index b, Places in, Places out, Body body)
+{
+    if constexpr (Radix::kInRegisters) {
+        if (block.width < kLanes) {
+            const Index last = (radix.radix - 1) * block.before + b, missing = kLanes - block.width;
+            const Index from = last * block.in_row - missing, to = last * block.out_row - missing;
+            const bool gapless = block.before == 1 && block.out_row == block.width;
+            return body(Few{block.width, {in.re + from, in.im + from}, {out.re + to, out.im + to}, gapless}, 0);
+        }
+    }
+    deal<Radix>(block.width, body);
+}

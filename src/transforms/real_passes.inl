@@ -22,35 +22,42 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
                          __attribute__((always_inline)) { points.x[l] = access.load(in + l * layout.row_step); });
     radix.run(points);
     radix.loop(
-        radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
-            access.store(out + k * r * layout.long_step, scale * points.y[k].re);
-            if (k > 0 && 2 * k < radix.radix)
-                access.store(out + (radix.radix - k) * r * layout.long_step, scale * points.y[k].im);
+        radix.radix, [&](Index g) __attribute__((always_inline)) {
+            const V part = 2 * g <= radix.radix ? points.y[g].re : points.y[radix.radix - g].im;
+            access.store(out + g * r * layout.long_step, scale * part);
         });
 }
 
-// `shift` leads from f = 0 to the first lane's f; the mirror of f is r - f.
+// The last lane may stand for f = r/2, which is its own mirror: there the short sequences are real. Stores are in such an order
+// that what is right at the mirror stays.
+KOR_INLINE void clear_last(Lanes &v) { v[kLanes - 1] = 0.0; }
+KOR_INLINE void clear_last(double &v) { v = 0.0; }
+
+// The mirror of f is r - f.
 template <class Radix, class Access, class Twiddle>
 KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLayout &layout, Index r, Index f,
-                               const double *in, double *out, Twiddle twiddle)
+                               bool to_half, const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
             const double *row = in + l * layout.row_step;
-            points.x[l] = twiddle(l, Pair<V>{access.load(row + f * layout.short_step),
-                                             access.load_mirrored(row + (r - f) * layout.short_step)});
+            Pair<V> x{access.load(row + f * layout.short_step),
+                      access.load_mirrored(row + (r - f) * layout.short_step)};
+            if (to_half) clear_last(x.im);
+            points.x[l] = twiddle(l, x);
         });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index k) __attribute__((always_inline)) {
+        radix.radix, [&](Index i) __attribute__((always_inline)) {
+            const Index k = radix.radix - 1 - i;
             double *const here = out + (f + r * k) * layout.long_step;
             double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
             const Pair<V> y = points.y[k];
             if (2 * k < radix.radix) {
-                access.store(here, y.re);
                 access.store_mirrored(mirror, y.im);
+                access.store(here, y.re);
             } else {
                 access.store_mirrored(mirror, y.re);
                 access.store(here, -y.im);
@@ -98,7 +105,7 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
 
 template <class Radix, class Access, class Twiddle>
 KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const PackedLayout &layout, Index r, Index f,
-                                    const double *in, double *out, Twiddle twiddle)
+                                    bool to_half, const double *in, double *out, Twiddle twiddle)
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
@@ -110,14 +117,15 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
                 points.x[k] = {access.load(here), access.load_mirrored(mirror)};
             else
                 points.x[k] = {access.load_mirrored(mirror), -access.load(here)};
+            if (to_half && 2 * k + 1 == radix.radix) clear_last(points.x[k].im);
         });
     radix.run(points);
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
             const Pair<V> y = twiddle(l, points.y[l]);
             double *const row = out + l * layout.row_step;
-            access.store(row + f * layout.short_step, y.re);
             access.store_mirrored(row + (r - f) * layout.short_step, y.im);
+            access.store(row + f * layout.short_step, y.re);
         });
 }
 
@@ -216,17 +224,23 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
         block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
             Direction::at_zero(radix, access, layout, r, from, to, kUnscaled);
         });
-    const Index pairs = (r - 1) / 2; // of f and its mirror
-    const bool done = across_rows<Radix>(
-        block, pairs, [&](auto full, Index f) __attribute__((always_inline)) {
-            const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, f};
-            Direction::between(radix, typename Direction::Afar{full, layout.short_step}, layout, r, f, in, out,
-                               twiddle);
-        });
-    for (Index f = 1; f <= pairs && !done; ++f)
+    if constexpr (Radix::kInRegisters) {
+        const Index count = r / 2;
+        if (across_rows<Radix>(block, count)) {
+            for (Index i = 0; i < count; i += kLanes) {
+                const bool is_last = i + kLanes >= count;
+                const Index f = 1 + (is_last ? count - kLanes : i);
+                const OneForEach<Full, Radix::kRootsInTable> twiddle{Full{}, stage, f};
+                Direction::between(radix, typename Direction::Afar{{}, layout.short_step}, layout, r, f,
+                                   is_last && r % 2 == 0, in, out, twiddle);
+            }
+            return;
+        }
+    }
+    for (Index f = 1; f <= (r - 1) / 2; ++f) // each with its mirror
         over_rows<Radix>(
             block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
-                Direction::between(radix, access, layout, r, f, from, to, SameForAll{stage, f * block.spread});
+                Direction::between(radix, access, layout, r, f, false, from, to, SameForAll{stage, f * block.spread});
             });
     if (r % 2 == 0)
         over_rows<Radix>(
@@ -241,8 +255,10 @@ void packed_whole(const Stage &stage, const Block &given, const double *in, doub
     const Radix radix{stage};
     const Block block = merged(given);
     const PackedLayout layout = layout_of<Direction>(block, radix.radix);
-    over_rows<Radix>(
-        block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
-            Direction::at_zero(radix, access, layout, 1, from, to, scale);
-        });
+    for (Index b = 0; b < block.before; ++b)
+        deal_whole(
+            radix, block, b, {in, in}, {out, out}, [&](auto access, Index c) __attribute__((always_inline)) {
+                Direction::at_zero(radix, access, layout, 1, in + b * block.in_row + c, out + b * block.out_row + c,
+                                   scale);
+            });
 }

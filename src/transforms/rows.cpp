@@ -5,8 +5,6 @@
 #include "transforms/rows.hpp"
 
 #include <algorithm>
-#include <cmath>
-
 #include "frame/large_pages.hpp"
 
 namespace kor::transforms {
@@ -43,7 +41,7 @@ bool Rows::prepare(Index m)
 void Rows::transform(Index m, Sequence x)
 {
     if (n_ == 1) return;
-    const double scale = 1.0 / std::sqrt(static_cast<double>(n_));
+    const double scale = unitary_scale(n_);
     const bool complex = kind_ == Kind::complex;
     for (Index i = 0; i < m; i += side_by_side_) {
         const Sequence row{x.re + i * n_, complex ? x.im + i * n_ : nullptr};

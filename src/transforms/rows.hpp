@@ -1,8 +1,6 @@
 // Many sequences of one length, with the caller's table of roots: the driver of the multiple-sequence engine.
 #pragma once
 
-#include <cmath>
-
 #include "frame/workspace.hpp"
 #include "transforms/prime_length.hpp"
 #include "transforms/sequence.hpp"
@@ -39,7 +37,7 @@ class Rows {
 inline bool transform_rows(Kind kind, Index m, Index n, Sequence x, const double *trig)
 {
     if (m == 1 && has_butterfly(n)) {
-        transform_whole(kind, n, x, 1.0 / std::sqrt(static_cast<double>(n)));
+        transform_whole(kind, n, x, unitary_scale(n));
         return true;
     }
     Rows rows{kind, n, trig};

@@ -23,27 +23,29 @@ constexpr Index kRowBlock = kLine;
 } // namespace
 
 Plan::Plan(Kind kind, Index n, const double *trig)
-    : kind_{kind}, n_{n}, kernel_{&kernels_for_length(kind == Kind::complex ? n : n / 4)},
-      stages_{Stages::fewest(n, trig)}, columns_{n}
+    : kind_{kind}, n_{n}, stages_{Stages::fewest(kind, n, trig)}, columns_{n}
 {
+    // Roundings are others in two sweeps than in one: so that a sequence gives the same bits alone as among others, short ones
+    // go in one. So do those for which two passes are enough.
+    if (n_ <= kLongestSideBySide || stages_.in_first_pass > 0) return;
+
+    kernel_ = &kernels_for_length(kind == Kind::complex ? n : n / 4);
     // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache. Columns of packed
     // sequences come in pairs.
+    Index rows = 1, columns = n;
+    int lead = 0;
     const auto better_with_more_rows = [&] {
-        const Index radix = stages_.stage[lead_].radix;
-        return rows_ < kernel_->lanes || (columns_ > kShortRow && rows_ * radix <= columns_ / radix);
+        const Index radix = stages_.stage[lead].radix;
+        return rows < kernel_->lanes || (columns > kShortRow && rows * radix <= columns / radix);
     };
-    while (lead_ < stages_.count && better_with_more_rows()) {
-        rows_ *= stages_.stage[lead_].radix;
-        columns_ = stages_.stage[lead_++].after;
+    while (lead < stages_.count && better_with_more_rows()) {
+        rows *= stages_.stage[lead].radix;
+        columns = stages_.stage[lead++].after;
     }
-    // Packed sequences take other roundings in two sweeps than in one: so that a sequence gives the same bits alone as among
-    // others, short ones go in one.
-    if (rows_ < kernel_->lanes || columns_ < (kind_ == Kind::complex ? 1 : 2) * kernel_->lanes ||
-        (kind_ != Kind::complex && n_ <= kLongestSideBySide)) {
-        lead_ = 0;
-        rows_ = 1;
-        columns_ = n;
-    }
+    if (rows < kernel_->lanes || columns < (kind_ == Kind::complex ? 1 : 2) * kernel_->lanes) return;
+    lead_ = lead;
+    rows_ = rows;
+    columns_ = columns;
     row_block_ = std::min(rows_, kRowBlock);
     const auto columns_of = [&](Index elements) { return elements / rows_ / kRowBlock * kRowBlock; };
     column_block_ = std::min(columns_, n < kLong ? std::max(columns_of(kColumnElements), kRowBlock)
@@ -72,8 +74,8 @@ Plan::Blocks Plan::blocks(double *memory) const
 
 Index Plan::work_size() const
 {
-    const Index parts = kind_ == Kind::complex ? 2 : 1, whole = whole_lines(n_);
-    return kLine + (lead_ == 0 ? 2 * parts * whole : parts * whole + 2 * blocks(nullptr).size);
+    const Index parts = kind_ == Kind::complex ? 2 : 1;
+    return kLine + (lead_ == 0 ? 2 * parts * one_sweep_part() : parts * whole_lines(n_) + 2 * blocks(nullptr).size);
 }
 
 namespace {
@@ -108,6 +110,13 @@ Passes passes_of(const Kernels &kernel, Kind kind)
     return {kernel.complex_pass, kernel.complex_whole};
 }
 
+// Those for a stage of a transform of one sequence, or of several side by side: registers should be filled.
+Passes passes_for(Kind kind, const Stage &stage, Index batch)
+{
+    const Index across = batch > 1 ? 1 : kind == Kind::complex ? stage.after : stage.after / 2;
+    return passes_of(kernels_for_lanes(std::max(batch * stage.before, across)), kind);
+}
+
 } // namespace
 
 void transform_whole(Kind kind, Index n, Sequence x, double scale)
@@ -133,38 +142,45 @@ void Plan::transform(Sequence in, Sequence out, double scale, double *work) cons
 
 Sequence Plan::transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const
 {
-    const Kernels &kernel = batch >= kernels().lanes ? kernels() : *kernel_;
-    const Passes pass = passes_of(kernel, kind_);
     const int end = stages_.count - 1;
     const Array one{x, batch}, other{spare, batch};
     const bool reversed = kind_ == Kind::real;
     return run_passes(reversed ? end : 0, reversed ? 0 : end, one, kNone, one, other,
                       [&](int i, Array from, Array to) {
                           const Stage &stage = stages_.stage[i];
-                          pass(stage, {stage.before, stage.after, batch, batch, batch}, from.at, to.at, scale);
+                          passes_for(kind_, stage, batch)(stage, {stage.before, stage.after, batch, batch, batch},
+                                                          from.at, to.at, scale);
                       })
         .at;
 }
 
+Index Plan::one_sweep_part() const { return whole_lines(n_ + kLine); }
+
 void Plan::transform_in_one_sweep(Sequence in, Sequence out, double scale, double *work) const
 {
-    const Index part = whole_lines(n_);
+    const Index part = one_sweep_part();
     const bool complex = out.im != nullptr;
     double *const one = work, *const other = work + (complex ? 2 : 1) * part;
-    const Passes pass = passes_of(*kernel_, kind_);
     const int step = kind_ == Kind::real ? -1 : 1;
     // A single pass has a single butterfly, which reads all before it writes: it may go from an array to itself. The
     // pointers are kept apart: pairs of them would be put together in memory, and waited for.
     double *from = in.re, *from_im = in.im;
-    int i = step < 0 ? stages_.count - 1 : 0;
-    for (int left = stages_.count; left > 0; --left, i += step) {
+    int i = step < 0 ? stages_.count - 1 : 0, left = stages_.count;
+    if (stages_.in_first_pass > 0) {
+        i = stages_.in_first_pass;
+        left -= i;
+        kernels_for_lanes(stages_.stage[i - 1].after).complex_lead(stages_.stage, i, {from, from_im}, {one, one + part});
+        from = one;
+        from_im = one + part;
+    }
+    for (; left > 0; --left, i += step) {
         double *to = from == one ? other : one, *to_im = complex ? to + part : nullptr;
         if (left == 1) {
             to = out.re;
             to_im = out.im;
         }
         const Stage &stage = stages_.stage[i];
-        pass(stage, {stage.before, stage.after, 1, 1, 1}, {from, from_im}, {to, to_im}, scale);
+        passes_for(kind_, stage, 1)(stage, {stage.before, stage.after, 1, 1, 1}, {from, from_im}, {to, to_im}, scale);
         from = to;
         from_im = to_im;
     }

@@ -31,6 +31,7 @@ class Plan {
 
   private:
     struct Blocks;
+    Index one_sweep_part() const; // size of a part of the two work arrays
     Blocks blocks(double *memory) const;
     void transform_complex(Sequence in, Sequence out, double scale, double *work) const;
     void transform_real(Sequence in, Sequence out, double scale, double *work) const;
@@ -39,13 +40,14 @@ class Plan {
 
     Kind kind_;
     Index n_;
-    const Kernels *kernel_;
     Stages stages_;
-    int lead_ = 0;    // stages that act on columns; 0 for lengths too short, or too unevenly factored, for two sweeps
-    Index rows_ = 1;  // R
-    Index columns_;   // Q
-    Index row_block_; // rows that are worked on together
-    Index column_block_;
+    int lead_ = 0;   // stages that act on columns; 0 for lengths too short, or too unevenly factored, for two sweeps
+    Index rows_ = 1; // R
+    Index columns_;  // Q
+    // For two sweeps:
+    const Kernels *kernel_ = nullptr;
+    Index row_block_ = 0; // rows that are worked on together
+    Index column_block_ = 0;
 };
 
 // The transform of a sequence whose length has a butterfly of its own, in place, without tables or memory.

@@ -1,42 +1,145 @@
 // The stages of a transform, each with its part of the table of roots.
 #include "transforms/stages.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace kor::transforms {
 
-Stages::Stages(Index n, const double *trig) : count{0}
+namespace {
+
+// The radices of the stages of a length.
+template <class Number, int kMost>
+struct Radices {
+    Number radix[kMost];
+    int count, in_first_pass;
+};
+using AnyRadices = Radices<Index, kMaxFactors>;
+
+// The last factors, from `from` on, as one.
+constexpr AnyRadices ending_in_one(const Factors &factors, int from, Index product, int in_first_pass)
 {
-    if (n == 1) return;
+    AnyRadices radices{{}, from + 1, in_first_pass};
+    for (int i = 0; i < from; ++i) radices.radix[i] = factors.factor[i];
+    radices.radix[from] = product;
+    return radices;
+}
+
+constexpr bool can_lead(Index first, Index second)
+{
+    for (const Lead lead : kLeads)
+        if (lead.first == first && lead.second == second) return true;
+    return false;
+}
+
+constexpr AnyRadices fewest_radices(Kind kind, Index n)
+{
+    constexpr Index kFewestColumns = 4;
+    if (has_butterfly(n)) return {{n}, 1, 0};
     const Factors factors = c06fpz(n);
-    count = factors.count;
-    Index before = 1, after = n;
-    for (int i = 0; i < count; ++i) {
-        const Index radix = factors.factor[i];
+
+    // Two passes for a complex sequence: the shorter of the two transforms should be as long as can be.
+    AnyRadices best{};
+    Index best_shorter = 0, lead = 1;
+    for (int i = 1; kind == Kind::complex && i <= 2 && i < factors.count; ++i) {
+        lead *= factors.factor[i - 1];
+        const Index rest = n / lead, shorter = std::min(lead, rest);
+        if (!has_butterfly(rest) || rest < kFewestColumns || shorter <= best_shorter) continue;
+        if (!can_lead(factors.factor[0], i == 2 ? factors.factor[1] : 1)) continue;
+        best = ending_in_one(factors, i, rest, i);
+        best_shorter = shorter;
+    }
+    if (best_shorter > 0) return best;
+
+    int from = factors.count - 1;
+    Index product = 1;
+    best = ending_in_one(factors, from, factors.factor[from], 0);
+    for (; from >= 0 && product <= kLongestButterfly; --from) {
+        product *= factors.factor[from];
+        if (has_butterfly(product)) best = ending_in_one(factors, from, product, 0);
+    }
+    return best;
+}
+
+// Found beforehand for short lengths: to find them takes as long as a transform.
+constexpr Index kTabulated = 1024;
+constexpr int kMostTabulated = 6;
+using ShortRadices = Radices<std::uint16_t, kMostTabulated>;
+struct Table {
+    ShortRadices length[kTabulated + 1];
+};
+constexpr Table tabulated(Kind kind)
+{
+    Table table{};
+    for (Index n = 2; n <= kTabulated; ++n) {
+        const AnyRadices radices = fewest_radices(kind, n);
+        ShortRadices &entry = table.length[n];
+        entry.count = radices.count;
+        entry.in_first_pass = radices.in_first_pass;
+        for (int i = 0; i < radices.count; ++i) entry.radix[i] = static_cast<std::uint16_t>(radices.radix[i]);
+    }
+    return table;
+}
+constexpr Table kComplexTable = tabulated(Kind::complex), kPackedTable = tabulated(Kind::real);
+
+} // namespace
+
+template <class Number>
+Stages::Stages(const Number *radices, int radix_count, int first_count, Index n, const double *trig)
+    : count{radix_count}, in_first_pass{first_count}
+{
+    Index after = 1;
+    for (int i = count - 1; i >= 0; --i) {
+        stage[i].radix = static_cast<Index>(radices[i]);
+        stage[i].after = after;
+        after *= stage[i].radix;
         const Index offset = n - after; // n (before - 1) / before
-        after /= radix;
-        stage[i] = {radix, before, after, trig + offset, trig + n + offset, nullptr};
-        before *= radix;
+        stage[i].cosines = trig + offset;
+        stage[i].sines = trig + n + offset;
+        stage[i].prime = nullptr;
+    }
+    Index before = 1;
+    for (int i = 0; i < count; ++i) {
+        stage[i].before = before;
+        before *= stage[i].radix;
     }
 }
 
-Stages Stages::fewest(Index n, const double *trig)
+Stages::Stages(Index n, const double *trig) : Stages{c06fpz(n), n, trig} {}
+
+Stages Stages::fewest(Kind kind, Index n, const double *trig)
 {
-    if (has_butterfly(n)) {
-        Stages whole{1, trig};
-        whole.stage[whole.count++] = {n, 1, 1, trig, trig, nullptr};
-        return whole;
+    if (n == 1) return {n, trig};
+    if (n <= kTabulated) {
+        const ShortRadices &radices = (kind == Kind::complex ? kComplexTable : kPackedTable).length[n];
+        return {radices.radix, radices.count, radices.in_first_pass, n, trig};
     }
-    Stages stages{n, trig};
-    int count = stages.count;
-    for (Index length = 1; count > 0 && length <= kLongestButterfly; --count) {
-        if (has_butterfly(length)) {
-            Stage &last = stages.stage[count];
-            last.radix = length;
-            last.after = 1;
-            stages.count = count + 1;
-        }
-        length *= stages.stage[count - 1].radix;
+    const AnyRadices radices = fewest_radices(kind, n);
+    return {radices.radix, radices.count, radices.in_first_pass, n, trig};
+}
+
+namespace {
+
+// Beforehand for butterflies, which take no longer than a square root and a division.
+struct Scales {
+    double length[kLongestButterfly + 1];
+};
+constexpr Scales kScales = [] {
+    Scales scales{};
+    for (int n = 1; n <= kLongestButterfly; ++n) {
+        constexpr int kEnough = 40; // steps of Newton's method, from below
+        long double y = 1.0L / n;
+        for (int i = 0; i < kEnough; ++i) y = y * (1.5L - 0.5L * n * y * y);
+        scales.length[n] = static_cast<double>(y);
     }
-    return stages;
+    return scales;
+}();
+
+} // namespace
+
+double unitary_scale(Index n)
+{
+    return n <= kLongestButterfly ? kScales.length[n] : 1.0 / std::sqrt(static_cast<double>(n));
 }
 
 } // namespace kor::transforms

@@ -1,15 +1,16 @@
 // The stages of a transform of length n: one for each factor of n, with its part of the table of roots.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 
 #include <kor.h>
 
+#include "transforms/c06fpz.hpp"
+
 namespace kor::transforms {
 
-using Index = std::ptrdiff_t;
+enum class Kind { complex, real, hermitian };
 
 class PrimeTransform;
 
@@ -20,16 +21,8 @@ inline constexpr Index kLargestPlainRadix = 6;
 // Primes above this are worked out by convolution, those up to it by the definition.
 inline constexpr Index kLargestDirectPrime = 61;
 
-// No length below 2^33 has more factors in the list than this.
-inline constexpr int kMaxFactors = 30;
-
-struct Factors {
-    Index factor[kMaxFactors];
-    int count;
-};
-
-// c06fpz: the factors of n >= 1 in the order of the table: all 6, all 4, then 2, 3, 5 and the larger primes; 1 for n = 1.
-Factors c06fpz(Index n);
+// n^-1/2, the scale of all transforms, for n >= 1.
+double unitary_scale(Index n);
 
 // n = before * radix * after, with `before` the product of the factors earlier in the list.
 struct Stage {
@@ -53,15 +46,33 @@ inline constexpr std::uint64_t kButterflies = [] {
 }();
 constexpr bool has_butterfly(Index n) { return n <= kLongestButterfly && (kButterflies >> n & 1) != 0; }
 
+// Stages that the first pass of a single complex sequence can take: one, with second = 1, or two at once.
+struct Lead {
+    int first, second;
+};
+inline constexpr Lead kLeads[] = {{2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {11, 1}, {13, 1}, {6, 6},
+                                  {6, 4}, {6, 2}, {6, 3}, {6, 5}, {4, 4}, {4, 2}, {4, 3},  {4, 5},  {4, 7},
+                                  {2, 5}, {2, 7}, {3, 3}, {3, 5}, {3, 7}, {5, 5}, {5, 7}};
+inline constexpr int kLeadCount = sizeof kLeads / sizeof kLeads[0];
+
 struct Stages {
     Stage stage[kMaxFactors];
-    int count; // 0 for n = 1
+    int count;    // 0 for n = 1
+    int in_first_pass = 0; // how many stages the first of two passes takes, where two will do; otherwise 0
 
     // `trig` holds 2n elements as c06gzc fills them.
     Stages(Index n, const double *trig);
 
-    // As few stages as will do: the last ones are taken together as far as there is a butterfly for them.
-    static Stages fewest(Index n, const double *trig);
+    // As few stages as will do for this kind of data: the last ones are taken together as far as there is a butterfly for them.
+    static Stages fewest(Kind kind, Index n, const double *trig);
+
+  private:
+    template <class Number>
+    Stages(const Number *radices, int radix_count, int first_count, Index n, const double *trig);
+    Stages(const Factors &factors, Index n, const double *trig)
+        : Stages{factors.factor, n > 1 ? factors.count : 0, 0, n, trig}
+    {
+    }
 };
 
 } // namespace kor::transforms

@@ -138,7 +138,7 @@ void factors(Collected &to, const Stage &stage, Index n)
         columns(collected, stages.stage[i]);
         factors(collected, stages.stage[i], n);
     }
-    const Stages fewest = Stages::fewest(n, trig.data());
+    const Stages fewest = Stages::fewest(Kind::real, n, trig.data());
     without_twiddles(collected, fewest.stage[fewest.count - 1], size);
     return collected.values();
 }

@@ -1,13 +1,26 @@
 // c06fpz: the factors of a length, in the order of the table of roots.
-#include "transforms/stages.hpp"
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
 
 namespace kor::transforms {
 
-namespace {
+using Index = std::ptrdiff_t;
+
+// No length below 2^33 has more factors in the list than this.
+inline constexpr int kMaxFactors = 30;
+
+struct Factors {
+    Index factor[kMaxFactors];
+    int count;
+};
+
+namespace detail {
 
 // Short divisions are several times faster, and nearly all lengths allow them.
 template <class Number>
-void factorise(Number n, Factors &factors)
+constexpr void factorise(Number n, Factors &factors)
 {
     const auto remove_all = [&](Number divisor) {
         for (Number rest = n / divisor; rest * divisor == n; rest = n / divisor) {
@@ -23,18 +36,18 @@ void factorise(Number n, Factors &factors)
     if (n > 1) factors.factor[factors.count++] = static_cast<Index>(n);
 }
 
-} // namespace
+} // namespace detail
 
-Factors c06fpz(Index n)
+// For n >= 1: all 6, all 4, then 2, 3, 5 and the larger primes; 1 for n = 1.
+constexpr Factors c06fpz(Index n)
 {
-    Factors factors;
-    factors.count = 0;
+    Factors factors{};
     if (n == 1)
         factors.factor[factors.count++] = 1;
     else if (n <= INT32_MAX)
-        factorise(static_cast<uint32_t>(n), factors);
+        detail::factorise(static_cast<std::uint32_t>(n), factors);
     else
-        factorise(static_cast<uint64_t>(n), factors);
+        detail::factorise(static_cast<std::uint64_t>(n), factors);
     return factors;
 }
 
