@@ -259,11 +259,9 @@ void hermitian_alone(Sequence x, double scale)
 template <int n>
 constexpr void set_alone([[maybe_unused]] AloneTable &table)
 {
-    if constexpr (has_butterfly(n)) {
-        table.complex[n] = complex_alone<n>;
-        table.real[n] = real_alone<n>;
-        table.hermitian[n] = hermitian_alone<n>;
-    }
+    if constexpr (has_butterfly(Kind::complex, n)) table.complex[n] = complex_alone<n>;
+    if constexpr (has_butterfly(Kind::real, n)) table.real[n] = real_alone<n>;
+    if constexpr (has_butterfly(Kind::hermitian, n)) table.hermitian[n] = hermitian_alone<n>;
 }
 constexpr AloneTable alone_table()
 {

@@ -502,3 +502,18 @@ struct Butterfly<30> : Composite<6, 5> {
 template <>
 struct Butterfly<32> : Composite<8, 4> {
 };
+template <>
+struct Butterfly<22> : Composite<11, 2> {
+};
+template <>
+struct Butterfly<26> : Composite<13, 2> {
+};
+template <>
+struct Butterfly<33> : Composite<11, 3> {
+};
+template <>
+struct Butterfly<36> : Composite<6, 6> {
+};
+template <>
+struct Butterfly<45> : Composite<9, 5> {
+};

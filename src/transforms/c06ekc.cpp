@@ -3,7 +3,6 @@
 // The product of the transforms, transformed back; all in place.
 #include <kor/c06.h>
 
-
 #include "transforms/arguments.hpp"
 
 using namespace kor::transforms;

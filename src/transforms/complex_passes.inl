@@ -73,6 +73,27 @@ struct Rows {
     KOR_INLINE Rows shifted(Index by) const { return {{at.re + by, at.im + by}, step}; }
 };
 
+// All rows of a whole transform.
+struct WholeRows {
+    Sequence at;
+    Index step, count;
+
+    template <class Access>
+    KOR_INLINE auto load(Access access, Index l) const
+    {
+        const double *const re = at.re + l * step, *const im = at.im + l * step;
+        return l + 1 < count ? Pair<typename Access::Value>{access.load(re), access.load(im)}
+                             : Pair<typename Access::Value>{access.load_last(re), access.load_last(im)};
+    }
+    template <class Access, class V>
+    KOR_INLINE void store(Access access, Index k, Pair<V> y) const
+    {
+        double *const re = at.re + k * step, *const im = at.im + k * step;
+        k + 1 < count ? access.store(re, y.re) : access.store_last(re, y.re);
+        k + 1 < count ? access.store(im, y.im) : access.store_last(im, y.im);
+    }
+};
+
 template <class Radix, class Access, class Source, class Target, class Before, class After>
 KOR_INLINE void complex_butterfly(const Radix &radix, Access access, Source source, Target target, Before before,
                                   After after)
@@ -128,13 +149,13 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
     const Block block = merged(given);
     if constexpr (Radix::kInRegisters) {
         if (across_rows<Radix>(block, block.after)) {
-            for (Index i = 0; i < block.after; i += kLanes) {
-                const Index a = i + kLanes <= block.after ? i : block.after - kLanes, to = a * radix.radix;
-                const OneForEach<Full, Radix::kRootsInTable> twiddle{Full{}, stage, a};
-                complex_butterfly(radix, ToAfar{{}, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
-                                  Rows{{out.re + to, out.im + to}, 1}, NoTwiddle{}, twiddle);
-            }
-            return;
+            return cover_full(
+                block.after, [&](auto full, Index a) __attribute__((always_inline)) {
+                    const Index to = a * radix.radix;
+                    const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, a};
+                    complex_butterfly(radix, ToAfar{full, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
+                                      Rows{{out.re + to, out.im + to}, 1}, NoTwiddle{}, twiddle);
+                });
         }
     }
     complex_row(radix, block, 0, in, out, NoTwiddle{});
@@ -142,18 +163,20 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
 }
 
 template <class Radix>
-void complex_whole(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
+bool complex_whole(const Stage &stage, const Block &given, Sequence in, Sequence out, double scale)
 {
     const Radix radix{stage};
     const Block block = merged(given);
-    for (Index b = 0; b < block.before; ++b)
-        deal_whole(
-            radix, block, b, {in.re, in.im}, {out.re, out.im}, [&](auto access, Index c) __attribute__((always_inline)) {
+    bool done = true;
+    for (Index b = 0; b < block.before && done; ++b)
+        done = deal_whole<Radix>(
+            block, [&](auto access, Index c) __attribute__((always_inline)) {
                 const Index from = b * block.in_row + c, to = b * block.out_row + c;
-                const Rows source{{in.re + from, in.im + from}, block.before * block.in_row};
-                const Rows target{{out.re + to, out.im + to}, block.before * block.out_row};
+                const WholeRows source{{in.re + from, in.im + from}, block.before * block.in_row, radix.radix};
+                const WholeRows target{{out.re + to, out.im + to}, block.before * block.out_row, radix.radix};
                 complex_butterfly(radix, access, source, target, NoTwiddle{}, ScaledOnly{scale});
             });
+    return done;
 }
 
 // What a pass over columns reads or writes, besides rows of complex numbers: columns first + c, first >= 1, of packed

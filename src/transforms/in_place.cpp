@@ -343,7 +343,7 @@ void transform_blocks_and_sweep(Index n, const InPlaceFactors &factors, Kind kin
 
 void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
 {
-    if (has_butterfly(n))
+    if (has_butterfly(kind, n))
         transform_whole(kind, n, x, scale);
     else if (n <= kLargestBlock)
         transform_block(n, kind, x, scale);

@@ -1,5 +1,5 @@
 // The kernels of one generation of processors. The includer has included kernel_headers.hpp, opened a namespace of its own
-// and chosen KOR_LANES.
+// and chosen KOR_LANES; and KOR_KERNELS_BELOW, the function that gives the kernels of the generation below, if there is one.
 
 // In this order: each builds on those before it.
 // clang-format off
@@ -31,10 +31,6 @@ KOR_INLINE void with_small_radix(const Stage &stage, Body body)
         return body(std::type_identity<Fixed<6>>{});
     case 7:
         return body(std::type_identity<Fixed<7>>{});
-    case 11:
-        return body(std::type_identity<Fixed<11>>{});
-    case 13:
-        return body(std::type_identity<Fixed<13>>{});
     default:
         return body(std::type_identity<Prime>{});
     }
@@ -49,11 +45,11 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 }
 
 // The same for a stage that is a whole transform.
-template <class Body>
+template <Kind kind, class Body>
 KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
 {
     const auto is_this = [&]<int p>(Constant<p>) __attribute__((always_inline)) {
-        if constexpr (has_butterfly(p)) {
+        if constexpr (has_butterfly(kind, p)) {
             if (stage.radix != p) return false;
             body(std::type_identity<Fixed<p>>{});
             return true;
@@ -64,6 +60,26 @@ KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
         return (is_this(Constant<p>{}) || ...);
     }(std::make_integer_sequence<int, kLongestButterfly + 1>{});
     if (!done) with_radix(stage, body);
+}
+
+template <Kind kind>
+void any_whole(const Stage &stage, const Block &block, Sequence in, Sequence out, double scale)
+{
+    [[maybe_unused]] bool done = false;
+    with_whole_radix<kind>(stage, [&]<class Radix>(std::type_identity<Radix>) {
+        if constexpr (kind == Kind::complex)
+            done = complex_whole<Radix>(stage, block, in, out, scale);
+        else if constexpr (kind == Kind::real)
+            done = packed_whole<Radix, RealDirection>(stage, block, in.re, out.re, scale);
+        else
+            done = packed_whole<Radix, HermitianDirection>(stage, block, in.re, out.re, scale);
+    });
+#ifdef KOR_KERNELS_BELOW
+    if (done) return;
+    const Kernels &below = KOR_KERNELS_BELOW();
+    (kind == Kind::complex ? below.complex_whole : kind == Kind::real ? below.real_whole : below.hermitian_whole)(
+        stage, block, in, out, scale);
+#endif
 }
 
 inline constexpr Kernels kKernels{
@@ -92,24 +108,9 @@ inline constexpr Kernels kKernels{
             });
         },
     .complex_lead = any_complex_lead,
-    .complex_whole =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
-            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                complex_whole<Radix>(stage, block, in, out, scale);
-            });
-        },
-    .real_whole =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
-            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                packed_whole<Radix, RealDirection>(stage, block, in.re, out.re, scale);
-            });
-        },
-    .hermitian_whole =
-        [](const Stage &stage, const Block &block, Sequence in, Sequence out, double scale) {
-            with_whole_radix(stage, [=, &stage, &block]<class Radix>(std::type_identity<Radix>) {
-                packed_whole<Radix, HermitianDirection>(stage, block, in.re, out.re, scale);
-            });
-        },
+    .complex_whole = any_whole<Kind::complex>,
+    .real_whole = any_whole<Kind::real>,
+    .hermitian_whole = any_whole<Kind::hermitian>,
     .columns_pass =
         [](const Stage &stage, const Block &block, const Columns &columns, Sequence in, Sequence out) {
             with_radix(stage, [=, &stage, &block, &columns]<class Radix>(std::type_identity<Radix>) {

@@ -8,6 +8,7 @@
 // This vectorisation forms fused multiplications and additions (vfmaddsub) even where contraction is off (GCC 12).
 #pragma GCC optimize("no-tree-slp-vectorize")
 #define KOR_LANES 8
+#define KOR_KERNELS_BELOW kernels_for_v3
 
 namespace kor::transforms {
 

@@ -1,7 +1,7 @@
 // Several doubles at a time, in the registers of the generation that the includer compiles for. Part of kernels.inl.
 
 #define KOR_INLINE [[gnu::always_inline]] inline
-#define KOR_UNROLL _Pragma("GCC unroll 32")
+#define KOR_UNROLL _Pragma("GCC unroll 48")
 
 inline constexpr Index kLanes = KOR_LANES;
 typedef double Lanes __attribute__((vector_size(8 * KOR_LANES)));
@@ -21,12 +21,14 @@ KOR_INLINE Lanes reversed(Lanes v)
 #endif
 }
 
-// How a butterfly reaches memory: a full register or one element. The mirrored forms go down in memory from the element of
+// How a butterfly reaches memory: a full register or one element. Whole transforms tell which row is their last. The mirrored forms go down in memory from the element of
 // the first lane.
 struct Full {
     using Value = Lanes;
     KOR_INLINE Lanes load(const double *p) const { return load_lanes(p); }
     KOR_INLINE void store(double *p, Lanes v) const { store_lanes(p, v); }
+    KOR_INLINE Lanes load_last(const double *p) const { return load(p); }
+    KOR_INLINE void store_last(double *p, Lanes v) const { store(p, v); }
     KOR_INLINE Lanes load_mirrored(const double *p) const { return reversed(load_lanes(p - (kLanes - 1))); }
     KOR_INLINE void store_mirrored(double *p, Lanes v) const { store_lanes(p - (kLanes - 1), reversed(v)); }
 };
@@ -35,44 +37,30 @@ struct One {
     using Value = double;
     KOR_INLINE double load(const double *p) const { return *p; }
     KOR_INLINE void store(double *p, double v) const { *p = v; }
+    KOR_INLINE double load_last(const double *p) const { return load(p); }
+    KOR_INLINE void store_last(double *p, double v) const { store(p, v); }
     KOR_INLINE double load_mirrored(const double *p) const { return *p; }
     KOR_INLINE void store_mirrored(double *p, double v) const { *p = v; }
 };
 
-// The first elements of a register, fewer than it holds, of rows that follow each other in ascending order. A register may be read
-// whole unless that would lead past the end of the rows; and written whole, if no gap is between the rows: what is too
-// much is overwritten by the rows that follow.
+#if KOR_LANES == 4
+#define KOR_FEW 1
+// Two or three elements of each of many rows, one row after the other without a gap. Registers may be read whole, but for the
+// last row, and in ascending order be written whole: what is too much is overwritten by the next row.
 struct Few {
     using Value = Lanes;
-    Index count;
-    // Where the last register begins that does not lead past the end, of real and of imaginary parts.
-    const double *last_in[2];
-    const double *last_out[2];
-    bool gapless;
-
-    KOR_INLINE Lanes load(const double *p) const
+    bool three;
+    KOR_INLINE Lanes load(const double *p) const { return load_lanes(p); }
+    KOR_INLINE void store(double *p, Lanes v) const { store_lanes(p, v); }
+    KOR_INLINE Lanes load_last(const double *p) const { return Lanes{p[0], p[1], three ? p[2] : 0.0, 0.0}; }
+    KOR_INLINE void store_last(double *p, Lanes v) const
     {
-        if (!beyond(p, last_in)) return load_lanes(p);
-        double elements[kLanes] = {};
-        for (Index i = 0; i < count; ++i) elements[i] = p[i];
-        return load_lanes(elements);
-    }
-    KOR_INLINE void store(double *p, Lanes v) const
-    {
-        if (gapless && !beyond(p, last_out)) return store_lanes(p, v);
-        for (Index i = 0; i < count; ++i) p[i] = v[i];
-    }
-
-  private:
-    KOR_INLINE static bool beyond(const double *p, const double *const (&last)[2])
-    {
-        const auto within = [p](const double *from) __attribute__((always_inline)) {
-            return reinterpret_cast<std::uintptr_t>(p) - reinterpret_cast<std::uintptr_t>(from + 1) <
-                   sizeof(double) * kLanes;
-        };
-        return within(last[0]) || within(last[1]);
+        p[0] = v[0];
+        p[1] = v[1];
+        if (three) p[2] = v[2];
     }
 };
+#endif
 
 // Elements that stand `stride` apart.
 KOR_INLINE Lanes load_strided(const double *p, Index stride)
@@ -114,10 +102,15 @@ struct SideBySide : Access {
 // Calls body(access, i) so that the elements [0, count) are covered. The last register may overlap the one before: the
 // body must be safe to repeat, as it is when it reads one array and writes another.
 template <class Body>
+KOR_INLINE void cover_full(Index count, Body body) // count >= kLanes
+{
+    for (Index i = 0; i < count; i += kLanes) body(Full{}, i + kLanes <= count ? i : count - kLanes);
+}
+template <class Body>
 KOR_INLINE void cover(Index count, Body body)
 {
     if (count >= kLanes)
-        for (Index i = 0; i < count; i += kLanes) body(Full{}, i + kLanes <= count ? i : count - kLanes);
+        cover_full(count, body);
     else
         for (Index i = 0; i < count; ++i) body(One{}, i);
 }

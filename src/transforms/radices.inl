@@ -179,20 +179,27 @@ KOR_INLINE void deal(Index count, Body body)
         for (Index i = 0; i < count; ++i) body(One{}, i);
 }
 
-// The same for a stage that is a whole transform, row b of those before it: whatever their number, the elements go in registers.
-struct Places {
-    const double *re, *im;
-};
+// The same for a whole transform: body(access, i) covers the elements in registers, even where they do not fill them if the rows
+// follow each other without a gap. False, without any call, if that is for the generation below: butterflies of many points are
+// large, and for single elements one generation is enough.
 template <class Radix, class Body>
-KOR_INLINE void deal_whole(const Radix &radix, const Block &block, Index b, Places in, Places out, Body body)
+KOR_INLINE bool deal_whole(const Block &block, Body body)
 {
     if constexpr (Radix::kInRegisters) {
-        if (block.width < kLanes) {
-            const Index last = (radix.radix - 1) * block.before + b, missing = kLanes - block.width;
-            const Index from = last * block.in_row - missing, to = last * block.out_row - missing;
-            const bool gapless = block.before == 1 && block.out_row == block.width;
-            return body(Few{block.width, {in.re + from, in.im + from}, {out.re + to, out.im + to}, gapless}, 0);
+        if (block.width >= kLanes) {
+            cover_full(block.width, body);
+            return true;
         }
+#ifdef KOR_FEW
+        if (block.width >= 2 && block.before == 1 && block.in_row == block.width && block.out_row == block.width) {
+            body(Few{block.width == 3}, 0);
+            return true;
+        }
+#endif
+#ifdef KOR_KERNELS_BELOW
+        return false;
+#endif
     }
-    deal<Radix>(block.width, body);
+    for (Index i = 0; i < block.width; ++i) body(One{}, i);
+    return true;
 }

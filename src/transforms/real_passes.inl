@@ -18,13 +18,16 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
     using V = typename Access::Value;
     typename Radix::template Points<V, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index l)
-                         __attribute__((always_inline)) { points.x[l] = access.load(in + l * layout.row_step); });
+        radix.radix, [&](Index l) __attribute__((always_inline)) {
+            const double *const row = in + l * layout.row_step;
+            points.x[l] = l + 1 < radix.radix ? access.load(row) : access.load_last(row);
+        });
     radix.run(points);
     radix.loop(
         radix.radix, [&](Index g) __attribute__((always_inline)) {
             const V part = 2 * g <= radix.radix ? points.y[g].re : points.y[radix.radix - g].im;
-            access.store(out + g * r * layout.long_step, scale * part);
+            double *const row = out + g * r * layout.long_step;
+            g + 1 < radix.radix ? access.store(row, scale * part) : access.store_last(row, scale * part);
         });
 }
 
@@ -92,14 +95,17 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
     typename Radix::template Points<Pair<V>, V> points{radix};
     radix.loop(
         radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
-            points.x[k] = {access.load(in + k * r * layout.long_step), V{}};
-            if (k > 0 && 2 * k < radix.radix)
-                points.x[k].im = access.load(in + (radix.radix - k) * r * layout.long_step);
+            const auto load = [&](Index g) __attribute__((always_inline)) {
+                const double *const row = in + g * r * layout.long_step;
+                return g + 1 < radix.radix ? access.load(row) : access.load_last(row);
+            };
+            points.x[k] = {load(k), k > 0 && 2 * k < radix.radix ? load(radix.radix - k) : V{}};
         });
     radix.run_to_real(points);
     radix.loop(
         radix.radix, [&](Index l) __attribute__((always_inline)) {
-            access.store(out + l * layout.row_step, scale * points.y[l]);
+            double *const row = out + l * layout.row_step;
+            l + 1 < radix.radix ? access.store(row, scale * points.y[l]) : access.store_last(row, scale * points.y[l]);
         });
 }
 
@@ -227,14 +233,13 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
     if constexpr (Radix::kInRegisters) {
         const Index count = r / 2;
         if (across_rows<Radix>(block, count)) {
-            for (Index i = 0; i < count; i += kLanes) {
-                const bool is_last = i + kLanes >= count;
-                const Index f = 1 + (is_last ? count - kLanes : i);
-                const OneForEach<Full, Radix::kRootsInTable> twiddle{Full{}, stage, f};
-                Direction::between(radix, typename Direction::Afar{{}, layout.short_step}, layout, r, f,
-                                   is_last && r % 2 == 0, in, out, twiddle);
-            }
-            return;
+            return cover_full(
+                count, [&](auto full, Index i) __attribute__((always_inline)) {
+                    const bool to_half = r % 2 == 0 && i + kLanes == count;
+                    const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, 1 + i};
+                    Direction::between(radix, typename Direction::Afar{full, layout.short_step}, layout, r, 1 + i,
+                                       to_half, in, out, twiddle);
+                });
         }
     }
     for (Index f = 1; f <= (r - 1) / 2; ++f) // each with its mirror
@@ -250,15 +255,17 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
 }
 
 template <class Radix, class Direction>
-void packed_whole(const Stage &stage, const Block &given, const double *in, double *out, double scale)
+bool packed_whole(const Stage &stage, const Block &given, const double *in, double *out, double scale)
 {
     const Radix radix{stage};
     const Block block = merged(given);
     const PackedLayout layout = layout_of<Direction>(block, radix.radix);
-    for (Index b = 0; b < block.before; ++b)
-        deal_whole(
-            radix, block, b, {in, in}, {out, out}, [&](auto access, Index c) __attribute__((always_inline)) {
+    bool done = true;
+    for (Index b = 0; b < block.before && done; ++b)
+        done = deal_whole<Radix>(
+            block, [&](auto access, Index c) __attribute__((always_inline)) {
                 Direction::at_zero(radix, access, layout, 1, in + b * block.in_row + c, out + b * block.out_row + c,
                                    scale);
             });
+    return done;
 }

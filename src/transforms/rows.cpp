@@ -4,8 +4,8 @@
 // the sequences.
 #include "transforms/rows.hpp"
 
-#include <algorithm>
 #include "frame/large_pages.hpp"
+#include <algorithm>
 
 namespace kor::transforms {
 

@@ -36,7 +36,7 @@ class Rows {
 // The drivers by kind: false, with the data untouched, when there is no memory.
 inline bool transform_rows(Kind kind, Index m, Index n, Sequence x, const double *trig)
 {
-    if (m == 1 && has_butterfly(n)) {
+    if (m == 1 && has_butterfly(kind, n)) {
         transform_whole(kind, n, x, unitary_scale(n));
         return true;
     }

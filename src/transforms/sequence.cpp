@@ -27,7 +27,7 @@ Plan::Plan(Kind kind, Index n, const double *trig)
 {
     // Roundings are others in two sweeps than in one: so that a sequence gives the same bits alone as among others, short ones
     // go in one. So do those for which two passes are enough.
-    if (n_ <= kLongestSideBySide || stages_.in_first_pass > 0) return;
+    if (n_ <= kLongestSideBySide || stages_.in_first_pass > 0 || stages_.count <= 2) return;
 
     kernel_ = &kernels_for_length(kind == Kind::complex ? n : n / 4);
     // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache. Columns of packed
@@ -169,7 +169,8 @@ void Plan::transform_in_one_sweep(Sequence in, Sequence out, double scale, doubl
     if (stages_.in_first_pass > 0) {
         i = stages_.in_first_pass;
         left -= i;
-        kernels_for_lanes(stages_.stage[i - 1].after).complex_lead(stages_.stage, i, {from, from_im}, {one, one + part});
+        kernels_for_lanes(stages_.stage[i - 1].after)
+            .complex_lead(stages_.stage, i, {from, from_im}, {one, one + part});
         from = one;
         from_im = one + part;
     }

@@ -35,7 +35,7 @@ constexpr bool can_lead(Index first, Index second)
 constexpr AnyRadices fewest_radices(Kind kind, Index n)
 {
     constexpr Index kFewestColumns = 4;
-    if (has_butterfly(n)) return {{n}, 1, 0};
+    if (has_butterfly(kind, n)) return {{n}, 1, 0};
     const Factors factors = c06fpz(n);
 
     // Two passes for a complex sequence: the shorter of the two transforms should be as long as can be.
@@ -44,7 +44,7 @@ constexpr AnyRadices fewest_radices(Kind kind, Index n)
     for (int i = 1; kind == Kind::complex && i <= 2 && i < factors.count; ++i) {
         lead *= factors.factor[i - 1];
         const Index rest = n / lead, shorter = std::min(lead, rest);
-        if (!has_butterfly(rest) || rest < kFewestColumns || shorter <= best_shorter) continue;
+        if (!has_butterfly(kind, rest) || rest < kFewestColumns || shorter <= best_shorter) continue;
         if (!can_lead(factors.factor[0], i == 2 ? factors.factor[1] : 1)) continue;
         best = ending_in_one(factors, i, rest, i);
         best_shorter = shorter;
@@ -56,7 +56,7 @@ constexpr AnyRadices fewest_radices(Kind kind, Index n)
     best = ending_in_one(factors, from, factors.factor[from], 0);
     for (; from >= 0 && product <= kLongestButterfly; --from) {
         product *= factors.factor[from];
-        if (has_butterfly(product)) best = ending_in_one(factors, from, product, 0);
+        if (has_butterfly(kind, product)) best = ending_in_one(factors, from, product, 0);
     }
     return best;
 }

@@ -36,15 +36,23 @@ struct Stage {
     PrimeTransform *prime; // for a radix too large to work out by its definition, otherwise null
 };
 
-// Lengths with a butterfly of their own, whose roots are constants: their bits are set.
-inline constexpr int kLongestButterfly = 32;
-inline constexpr std::uint64_t kButterflies = [] {
+// Lengths with a butterfly of their own, whose roots are constants: their bits are set. Those of real and Hermitian points are half as
+// long, and more of them pay.
+inline constexpr int kLongestButterfly = 45;
+constexpr std::uint64_t lengths_up_to_33_and(std::initializer_list<int> more)
+{
     std::uint64_t lengths = 0;
-    for (const int n : {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 24, 25, 27, 28, 30, 32})
+    for (const int n :
+         {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 24, 25, 26, 27, 28, 30, 32, 33})
         lengths |= std::uint64_t{1} << n;
+    for (const int n : more) lengths |= std::uint64_t{1} << n;
     return lengths;
-}();
-constexpr bool has_butterfly(Index n) { return n <= kLongestButterfly && (kButterflies >> n & 1) != 0; }
+}
+constexpr bool has_butterfly(Kind kind, Index n)
+{
+    constexpr std::uint64_t kComplex = lengths_up_to_33_and({}), kPacked = lengths_up_to_33_and({36, 45});
+    return n <= kLongestButterfly && ((kind == Kind::complex ? kComplex : kPacked) >> n & 1) != 0;
+}
 
 // Stages that the first pass of a single complex sequence can take: one, with second = 1, or two at once.
 struct Lead {
@@ -57,7 +65,7 @@ inline constexpr int kLeadCount = sizeof kLeads / sizeof kLeads[0];
 
 struct Stages {
     Stage stage[kMaxFactors];
-    int count;    // 0 for n = 1
+    int count;             // 0 for n = 1
     int in_first_pass = 0; // how many stages the first of two passes takes, where two will do; otherwise 0
 
     // `trig` holds 2n elements as c06gzc fills them.
