@@ -36,6 +36,10 @@ inline bool suits_in_place(const Report &report, Integer n, InPlaceFactors &fact
         report.error<NE_INT_ARG_LE>("n", "1", "n", n);
         return false;
     }
+    if (has_butterfly(Kind::complex, n)) { // there is no need of factors
+        factors = {InPlaceStatus::good, 1};
+        return true;
+    }
     factors = c06eaz(n);
     switch (factors.status) {
     case InPlaceStatus::good:

@@ -9,7 +9,7 @@ namespace {
 
 constexpr InPlaceFactors factorised(std::uint32_t n)
 {
-    InPlaceFactors factors{InPlaceStatus::good, 1, 1};
+    InPlaceFactors factors{InPlaceStatus::good, 1};
     // Short divisions are faster.
     std::uint32_t rest = n, prime = 2;
     int count = 0;
@@ -20,7 +20,7 @@ constexpr InPlaceFactors factorised(std::uint32_t n)
             return factors;
         }
         const bool pair = rest % (prime * prime) == 0;
-        (pair ? factors.square_root : factors.square_free) *= static_cast<Index>(prime);
+        if (pair) factors.square_root *= static_cast<Integer>(prime);
         rest /= pair ? prime * prime : prime;
         count += pair ? 2 : 1;
         if (count > kMostInPlaceFactors) {
@@ -50,9 +50,8 @@ constexpr SquareRoots kSquareRoots = [] {
 InPlaceFactors c06eaz(Integer n)
 {
     if (n > kTabulated) return factorised(static_cast<std::uint32_t>(n));
-    const Index root = kSquareRoots.length[n];
-    if (root == 0) return {InPlaceStatus::prime_too_large, 1, 1};
-    return {InPlaceStatus::good, root, n / (root * root)};
+    const Integer root = kSquareRoots.length[n];
+    return {root > 0 ? InPlaceStatus::good : InPlaceStatus::prime_too_large, root};
 }
 
 } // namespace kor::transforms

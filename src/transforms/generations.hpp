@@ -9,8 +9,8 @@
 
 namespace kor::transforms {
 
-const Kernels &kernels_for_all();
-const Kernels &kernels_for_v3(); // AVX2; only where KOR_TRANSFORM_GENERATIONS is defined
-const Kernels &kernels_for_v4(); // AVX-512
+extern const Kernels kKernelsForAll;
+extern const Kernels kKernelsForV3; // AVX2; only where KOR_TRANSFORM_GENERATIONS is defined
+extern const Kernels kKernelsForV4; // AVX-512
 
 } // namespace kor::transforms

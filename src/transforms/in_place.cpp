@@ -30,12 +30,12 @@ Index divisor_from(Index n, Index least)
 
 } // namespace
 
-Dimensions::Dimensions(Index length, const InPlaceFactors &factors) : n{length}
+Dimensions::Dimensions(Index length, InPlaceFactors factors) : n{length}
 {
     // As few dimensions as the sizes allow: the mirrored ones no more than are needed to bring the rest down to a block.
     const Index needed = n <= kLargestBlock ? 1 : std::max((n + kLargestBlock - 1) / kLargestBlock, kLine);
-    const Index wanted = divisor_from(factors.square_root, needed);
-    mirrored_product = wanted > 0 ? wanted : factors.square_root;
+    const Index square_root = factors.square_root, wanted = divisor_from(square_root, needed);
+    mirrored_product = wanted > 0 ? wanted : square_root;
     const Index middle = n / (mirrored_product * mirrored_product);
 
     // Appends dimensions whose product is `product`, as even in size as its primes allow.
@@ -314,7 +314,7 @@ void transform_block(Index n, Kind kind, Sequence x, double scale)
 }
 
 // A length of many blocks.
-void transform_blocks_and_sweep(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
+void transform_blocks_and_sweep(Index n, InPlaceFactors factors, Kind kind, Sequence x, double scale)
 {
     const Dimensions d{n, factors};
     Stack stack;
@@ -341,14 +341,10 @@ void transform_blocks_and_sweep(Index n, const InPlaceFactors &factors, Kind kin
 
 } // namespace
 
-void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale)
+void transform_longer_in_place(Index n, InPlaceFactors factors, Kind kind, Sequence x, double scale)
 {
-    if (has_butterfly(kind, n))
-        transform_whole(kind, n, x, scale);
-    else if (n <= kLargestBlock)
-        transform_block(n, kind, x, scale);
-    else
-        transform_blocks_and_sweep(n, factors, kind, x, scale);
+    if (n <= kLargestBlock) return transform_block(n, kind, x, scale);
+    transform_blocks_and_sweep(n, factors, kind, x, scale);
 }
 
 } // namespace kor::transforms

@@ -18,7 +18,7 @@ struct Dimensions {
     static constexpr int kMost = 16;
 
     // `factors` are those of n, found good.
-    Dimensions(Index n, const InPlaceFactors &factors);
+    Dimensions(Index n, InPlaceFactors factors);
 
     Index n;
     Index size[kMost];
@@ -34,6 +34,11 @@ void c06eay(const Dimensions &, double *x);
 void c06eay_inverse(const Dimensions &, double *x);
 
 // The transforms of length n, their results multiplied by `scale`; `factors` are those of n, found good.
-void transform_in_place(Index n, const InPlaceFactors &factors, Kind kind, Sequence x, double scale);
+void transform_longer_in_place(Index n, InPlaceFactors factors, Kind kind, Sequence x, double scale);
+inline void transform_in_place(Index n, InPlaceFactors factors, Kind kind, Sequence x, double scale)
+{
+    if (has_butterfly(kind, n)) return transform_whole(kind, n, x, scale);
+    transform_longer_in_place(n, factors, kind, x, scale);
+}
 
 } // namespace kor::transforms

@@ -1,5 +1,5 @@
 // The kernels of one generation of processors. The includer has included kernel_headers.hpp, opened a namespace of its own
-// and chosen KOR_LANES; and KOR_KERNELS_BELOW, the function that gives the kernels of the generation below, if there is one.
+// and chosen KOR_LANES; and KOR_KERNELS_BELOW, the kernels of the generation below, if there is one.
 
 // In this order: each builds on those before it.
 // clang-format off
@@ -76,9 +76,10 @@ void any_whole(const Stage &stage, const Block &block, Sequence in, Sequence out
     });
 #ifdef KOR_KERNELS_BELOW
     if (done) return;
-    const Kernels &below = KOR_KERNELS_BELOW();
-    (kind == Kind::complex ? below.complex_whole : kind == Kind::real ? below.real_whole : below.hermitian_whole)(
-        stage, block, in, out, scale);
+    constexpr auto Kernels::*kWhole = kind == Kind::complex ? &Kernels::complex_whole
+                                     : kind == Kind::real  ? &Kernels::real_whole
+                                                           : &Kernels::hermitian_whole;
+    (KOR_KERNELS_BELOW.*kWhole)(stage, block, in, out, scale);
 #endif
 }
 

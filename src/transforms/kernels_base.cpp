@@ -10,7 +10,7 @@ namespace base {
 #include "transforms/kernels.inl"
 } // namespace base
 
-const Kernels &kernels_for_all() { return base::kKernels; }
+constexpr Kernels kKernelsForAll = base::kKernels;
 
 namespace {
 
@@ -30,10 +30,10 @@ const Kernels &kernels_for_length(Index n) { return kernels_for_lanes(n > kLonge
 const Kernels &kernels_for_lanes([[maybe_unused]] Index elements)
 {
 #if defined(KOR_TRANSFORM_GENERATIONS)
-    if (has_v4 && elements >= 8) return kernels_for_v4();
-    if (has_v3) return kernels_for_v3();
+    if (has_v4 && elements >= 8) return kKernelsForV4;
+    if (has_v3) return kKernelsForV3;
 #endif
-    return kernels_for_all();
+    return kKernelsForAll;
 }
 
 } // namespace kor::transforms

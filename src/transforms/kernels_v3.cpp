@@ -8,7 +8,7 @@
 // This vectorisation forms fused multiplications and additions (vfmaddsub) even where contraction is off (GCC 12).
 #pragma GCC optimize("no-tree-slp-vectorize")
 #define KOR_LANES 4
-#define KOR_KERNELS_BELOW kernels_for_all
+#define KOR_KERNELS_BELOW kKernelsForAll
 
 namespace kor::transforms {
 
@@ -16,7 +16,7 @@ namespace v3 {
 #include "transforms/kernels.inl"
 } // namespace v3
 
-const Kernels &kernels_for_v3() { return v3::kKernels; }
+constexpr Kernels kKernelsForV3 = v3::kKernels;
 
 } // namespace kor::transforms
 

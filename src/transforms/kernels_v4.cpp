@@ -8,7 +8,7 @@
 // This vectorisation forms fused multiplications and additions (vfmaddsub) even where contraction is off (GCC 12).
 #pragma GCC optimize("no-tree-slp-vectorize")
 #define KOR_LANES 8
-#define KOR_KERNELS_BELOW kernels_for_v3
+#define KOR_KERNELS_BELOW kKernelsForV3
 
 namespace kor::transforms {
 
@@ -16,7 +16,7 @@ namespace v4 {
 #include "transforms/kernels.inl"
 } // namespace v4
 
-const Kernels &kernels_for_v4() { return v4::kKernels; }
+constexpr Kernels kKernelsForV4 = v4::kKernels;
 
 } // namespace kor::transforms
 

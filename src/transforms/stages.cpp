@@ -2,7 +2,6 @@
 #include "transforms/stages.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kor::transforms {
 
@@ -116,30 +115,6 @@ Stages Stages::fewest(Kind kind, Index n, const double *trig)
     }
     const AnyRadices radices = fewest_radices(kind, n);
     return {radices.radix, radices.count, radices.in_first_pass, n, trig};
-}
-
-namespace {
-
-// Beforehand for butterflies, which take no longer than a square root and a division.
-struct Scales {
-    double length[kLongestButterfly + 1];
-};
-constexpr Scales kScales = [] {
-    Scales scales{};
-    for (int n = 1; n <= kLongestButterfly; ++n) {
-        constexpr int kEnough = 40; // steps of Newton's method, from below
-        long double y = 1.0L / n;
-        for (int i = 0; i < kEnough; ++i) y = y * (1.5L - 0.5L * n * y * y);
-        scales.length[n] = static_cast<double>(y);
-    }
-    return scales;
-}();
-
-} // namespace
-
-double unitary_scale(Index n)
-{
-    return n <= kLongestButterfly ? kScales.length[n] : 1.0 / std::sqrt(static_cast<double>(n));
 }
 
 } // namespace kor::transforms

@@ -1,6 +1,7 @@
 // The stages of a transform of length n: one for each factor of n, with its part of the table of roots.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <initializer_list>
 
@@ -20,9 +21,6 @@ inline constexpr Index kLargestPlainRadix = 6;
 
 // Primes above this are worked out by convolution, those up to it by the definition.
 inline constexpr Index kLargestDirectPrime = 61;
-
-// n^-1/2, the scale of all transforms, for n >= 1.
-double unitary_scale(Index n);
 
 // n = before * radix * after, with `before` the product of the factors earlier in the list.
 struct Stage {
@@ -52,6 +50,26 @@ constexpr bool has_butterfly(Kind kind, Index n)
 {
     constexpr std::uint64_t kComplex = lengths_up_to_33_and({}), kPacked = lengths_up_to_33_and({36, 45});
     return n <= kLongestButterfly && ((kind == Kind::complex ? kComplex : kPacked) >> n & 1) != 0;
+}
+
+// n^-1/2, the scale of all transforms, for n >= 1. Known beforehand for butterflies, which take no longer than a square root and
+// a division.
+struct Scales {
+    double length[kLongestButterfly + 1];
+};
+inline constexpr Scales kScales = [] {
+    Scales scales{};
+    for (int n = 1; n <= kLongestButterfly; ++n) {
+        constexpr int kEnough = 40; // steps of Newton's method, from below
+        long double y = 1.0L / n;
+        for (int i = 0; i < kEnough; ++i) y = y * (1.5L - 0.5L * n * y * y);
+        scales.length[n] = static_cast<double>(y);
+    }
+    return scales;
+}();
+inline double unitary_scale(Index n)
+{
+    return n <= kLongestButterfly ? kScales.length[n] : 1.0 / std::sqrt(static_cast<double>(n));
 }
 
 // Stages that the first pass of a single complex sequence can take: one, with second = 1, or two at once.

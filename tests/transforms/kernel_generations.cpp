@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <cstring>
 #include <initializer_list>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -55,6 +57,20 @@ void without_twiddles(Collected &to, const Stage &stage, std::size_t n)
     const Kernels &kernel = to.kernel();
     for (const auto pass : {kernel.complex_whole, kernel.real_whole, kernel.hermitian_whole})
         to.run(kBatch * n, kBatch * n, [&](Sequence x, Sequence y) { pass(stage, block, x, y, 0.3); });
+}
+
+// A whole sequence in place.
+void alone(Collected &to, Index n)
+{
+    const AloneTable &table = to.kernel().alone;
+    for (const auto &[kind, transform] :
+         {std::pair{Kind::complex, table.complex}, {Kind::real, table.real}, {Kind::hermitian, table.hermitian}}) {
+        if (!has_butterfly(kind, n)) continue;
+        Doubles x = random_doubles(static_cast<std::size_t>(n), 1), y = random_doubles(static_cast<std::size_t>(n), 2);
+        transform[n]({x.data(), y.data()}, 0.3);
+        to.add(x);
+        to.add(y);
+    }
 }
 
 // Runs pass(block, columns, in, out) from each kind of data in `from` to each in `to`: `rows` rows of some of the `count` columns.
@@ -138,24 +154,33 @@ void factors(Collected &to, const Stage &stage, Index n)
         columns(collected, stages.stage[i]);
         factors(collected, stages.stage[i], n);
     }
-    const Stages fewest = Stages::fewest(Kind::real, n, trig.data());
-    without_twiddles(collected, fewest.stage[fewest.count - 1], size);
+    for (const Kind kind : {Kind::complex, Kind::real}) {
+        const Stages fewest = Stages::fewest(kind, n, trig.data());
+        without_twiddles(collected, fewest.stage[fewest.count - 1], size);
+        if (fewest.in_first_pass > 0 && fewest.stage[fewest.in_first_pass - 1].after >= kernels().lanes)
+            collected.run(size, size + kLine, [&](Sequence x, Sequence y) {
+                kernel.complex_lead(fewest.stage, fewest.in_first_pass, x, y);
+            });
+    }
+    alone(collected, n);
     return collected.values();
 }
 
 TEST(Generations, GiveTheSameBits)
 {
 #if defined(KOR_TRANSFORM_GENERATIONS)
-    for (const Index n : {2, 3, 5, 6, 7, 8, 9, 10, 12, 14, 15, 16, 240, 1296, 1001, 945, 61 * 61}) {
-        const Doubles base = everything(kernels_for_all(), n);
+    std::vector<Index> lengths{60, 64, 75, 81, 240, 1296, 1001, 945, 61 * 61};
+    for (Index n = 2; n <= kLongestButterfly; ++n) lengths.push_back(n);
+    for (const Index n : lengths) {
+        const Doubles base = everything(kKernelsForAll, n);
         const auto same = [&](const Doubles &other) {
             return std::memcmp(base.data(), other.data(), base.size() * sizeof(double)) == 0;
         };
         if (__builtin_cpu_supports("x86-64-v3")) {
-            EXPECT_TRUE(same(everything(kernels_for_v3(), n))) << n;
+            EXPECT_TRUE(same(everything(kKernelsForV3, n))) << n;
         }
         if (__builtin_cpu_supports("x86-64-v4")) {
-            EXPECT_TRUE(same(everything(kernels_for_v4(), n))) << n;
+            EXPECT_TRUE(same(everything(kKernelsForV4, n))) << n;
         }
     }
 #else
