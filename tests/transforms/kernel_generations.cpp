@@ -160,6 +160,8 @@ void factors(Collected &to, const Stage &stage, Index n)
         if (fewest.in_first_pass > 0 && fewest.stage[fewest.in_first_pass - 1].after >= kernels().lanes)
             collected.run(size, size + kLine, [&](Sequence x, Sequence y) {
                 kernel.complex_lead(fewest.stage, fewest.in_first_pass, x, y);
+                std::fill_n(y.re + n, kLine, 0.0); // where it may have written more or less
+                std::fill_n(y.im + n, kLine, 0.0);
             });
     }
     alone(collected, n);
