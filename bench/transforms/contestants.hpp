@@ -330,7 +330,7 @@ class Race {
     Race &enter_fftw()
     {
 #ifdef KOR_HAVE_FFTW
-        fftw_set_timelimit(0.5);
+        fftw_set_timelimit(4.0); // seconds a plan
         enter<Fftw>("FFTW estimated", FFTW_ESTIMATE);
         enter<Fftw>("FFTW measured", FFTW_MEASURE);
 #endif
@@ -347,7 +347,7 @@ class Race {
 inline std::vector<int> lengths(int largest)
 {
     std::vector<int> all;
-    for (int n = 16; n <= 4194304; n *= n < 64 || n >= 512 ? 4 : 2) all.push_back(n);
+    for (int n = 16; n <= 4194304; n *= 2) all.push_back(n);
     all.insert(all.end(), {12, 60, 100, 1000, 5040, 44100, 59049, 1000000, 17, 101, 1009, 10007, 65537, 1000003});
     std::erase_if(all, [=](int n) { return n > largest; });
     return all;

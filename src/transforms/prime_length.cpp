@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 
+#include "frame/large_pages.hpp"
 #include "transforms/root_table.hpp"
 
 namespace kor::transforms {
@@ -95,34 +95,38 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
     length_ = convolution_length(p, factors);
 
     if (!table_.allocate(2 * length_)) return false;
+    suggest_large_pages(table_.data(), table_.size() * sizeof(double));
     fill_root_table(length_, table_.data());
     const Index work =
         std::max({plan(Kind::complex).work_size(), plan(Kind::real).work_size(), plan(Kind::hermitian).work_size()});
 
-    const Index parts[] = {2 * p, 2 * p, length_, 2 * length_, work};
-    Count total = 0;
-    for (const Index part : parts) total = total + Count{part};
-    if (!memory_.allocate(total) || !powers_.allocate(p - 1)) return false;
-    double *next = memory_.data();
-    double **const slots[] = {&input_, &output_, &kernel_, &signal_, &work_};
-    for (std::size_t i = 0; i < std::size(parts); next += parts[i++]) *slots[i] = next;
+    if (!memory_.allocate(Count{3} * length_ + work) || !powers_.allocate(p - 1)) return false;
+    suggest_large_pages(memory_.data(), memory_.size() * sizeof(double));
+    kernel_ = memory_.data();
+    signal_ = kernel_ + length_;
+    work_ = signal_ + 2 * length_;
 
+    // g^((p-1)/2) = -1: the second half of the powers is the first, negated.
     const std::uint64_t g = static_cast<std::uint64_t>(generator(p, factors));
+    const Index half = (p - 1) / 2;
     std::uint64_t residue = 1;
-    for (Index q = 0; q < p - 1; ++q) {
+    for (Index q = 0; q < half; ++q) {
         powers_[q] = static_cast<Integer>(residue);
+        powers_[q + half] = static_cast<Integer>(p) - static_cast<Integer>(residue);
         residue = residue * g % static_cast<std::uint64_t>(p);
     }
 
-    // The kernel at q belongs to g^-q = g^(p-1-q); for a padded convolution it is continued to negative q.
+    // The kernel at q belongs to g^-q = g^(p-1-q), whose root is the conjugate of that half of the powers away; for a padded
+    // convolution it is continued to negative q.
     std::fill_n(kernel_, length_, 0.0);
     const double scale = 1.0 / static_cast<double>(length_);
-    for (Index q = 0; q < p - 1; ++q) {
+    for (Index q = 0; q < half; ++q) {
         const Index root = powers_[q == 0 ? 0 : p - 1 - q];
-        const double value = scale * (cosines[(root - 1) * step] + sines[(root - 1) * step]);
-        kernel_[q] = value;
-        if (length_ > p - 1 && q > 0) kernel_[length_ - (p - 1) + q] = value;
+        const double cosine = scale * cosines[(root - 1) * step], sine = scale * sines[(root - 1) * step];
+        kernel_[q] = cosine + sine;
+        kernel_[q + half] = cosine - sine;
     }
+    if (length_ > p - 1) std::copy(kernel_ + 1, kernel_ + p - 1, kernel_ + length_ - (p - 2));
     const Sequence kernel{kernel_, nullptr};
     plan(Kind::real).transform(kernel, kernel, 1.0, work_);
     return true;
@@ -132,32 +136,35 @@ Plan PrimeTransform::plan(Kind kind) const { return {kind, length_, table_.data(
 
 void PrimeTransform::run_real() const
 {
-    const double *x = input_;
-    double *a = signal_;
+    const double *x = points();
+    const double first = x[0];
+    double *a = signal_, *y = points();
     for (Index q = 0; q < p_ - 1; ++q) a[q] = x[powers_[q]];
     std::fill(a + p_ - 1, a + length_, 0.0);
 
     plan(Kind::real).transform({a, nullptr}, {a, nullptr}, 1.0, work_);
-    output_[0] = x[0] + a[0];
-    output_[1] = 0.0;
+    const double sum = a[0];
     multiply_packed_conjugate(length_, a, kernel_);
     plan(Kind::hermitian).transform({a, nullptr}, {a, nullptr}, 1.0, work_);
 
     // a_q holds the sums with cosines plus those with negated sines, at the frequency g^-q.
+    y[0] = first + sum;
+    y[1] = 0.0;
     const Index half = (p_ - 1) / 2;
     for (Index q = 0; q < half; ++q) {
         const Index k = powers_[q == 0 ? 0 : p_ - 1 - q];
-        const double even = x[0] + 0.5 * (a[q] + a[q + half]), odd = 0.5 * (a[q] - a[q + half]);
+        const double even = first + 0.5 * (a[q] + a[q + half]), odd = 0.5 * (a[q] - a[q + half]);
         const Index lower = std::min(k, p_ - k);
-        output_[2 * lower] = even;
-        output_[2 * lower + 1] = k == lower ? odd : -odd;
+        y[2 * lower] = even;
+        y[2 * lower + 1] = k == lower ? odd : -odd;
     }
 }
 
 void PrimeTransform::run_complex() const
 {
-    const double *x = input_;
-    double *re = signal_, *im = signal_ + length_;
+    const double *x = points();
+    const double first_re = x[0], first_im = x[1];
+    double *re = signal_, *im = signal_ + length_, *y = points();
     for (Index q = 0; q < p_ - 1; ++q) {
         re[q] = x[2 * powers_[q]];
         im[q] = x[2 * powers_[q] + 1];
@@ -167,20 +174,21 @@ void PrimeTransform::run_complex() const
 
     const Plan transform = plan(Kind::complex);
     transform.transform({re, im}, {re, im}, 1.0, work_);
-    output_[0] = x[0] + re[0];
-    output_[1] = x[1] + im[0];
+    const double sum_re = re[0], sum_im = im[0];
     multiply_conjugate(length_, re, im, kernel_);
     transform.transform({re, im}, {re, im}, 1.0, work_); // the conjugate of the convolution
 
+    y[0] = first_re + sum_re;
+    y[1] = first_im + sum_im;
     const Index half = (p_ - 1) / 2;
     for (Index q = 0; q < half; ++q) {
         const Index k = powers_[q == 0 ? 0 : p_ - 1 - q];
-        const double even_re = x[0] + 0.5 * (re[q] + re[q + half]), odd_re = 0.5 * (re[q] - re[q + half]);
-        const double even_im = x[1] - 0.5 * (im[q] + im[q + half]), odd_im = -0.5 * (im[q] - im[q + half]);
-        output_[2 * k] = even_re - odd_im;
-        output_[2 * k + 1] = even_im + odd_re;
-        output_[2 * (p_ - k)] = even_re + odd_im;
-        output_[2 * (p_ - k) + 1] = even_im - odd_re;
+        const double even_re = first_re + 0.5 * (re[q] + re[q + half]), odd_re = 0.5 * (re[q] - re[q + half]);
+        const double even_im = first_im - 0.5 * (im[q] + im[q + half]), odd_im = -0.5 * (im[q] - im[q + half]);
+        y[2 * k] = even_re - odd_im;
+        y[2 * k + 1] = even_im + odd_re;
+        y[2 * (p_ - k)] = even_re + odd_im;
+        y[2 * (p_ - k) + 1] = even_im - odd_re;
     }
 }
 

@@ -11,7 +11,7 @@ namespace kor::transforms {
 // Of primes above kLargestDirectPrime no 32-bit length has more.
 inline constexpr int kMaxLargePrimes = 5;
 
-// The discrete transform of p points, from input() to output(), where complex numbers stand as pairs re, im.
+// The discrete transform of p points, in place at points(), where complex numbers stand as pairs re, im.
 //
 // Rader (1968): with a generator g of the residues modulo p, x_{g^q} and X_{g^-q} are related by a cyclic convolution of
 // length p - 1 with w^{g^-q}, w = exp(-2 pi i / p). The halves of that kernel are conjugates, so that its cosines repeat and
@@ -25,8 +25,7 @@ class PrimeTransform {
     // False when there is no memory.
     bool prepare(Index p, const double *cosines, const double *sines, Index step);
 
-    double *input() const { return input_; }
-    double *output() const { return output_; }
+    double *points() const { return work_; } // which has no other use before and after the convolution
 
     // p complex numbers to p complex numbers.
     void run_complex() const;
@@ -41,8 +40,6 @@ class PrimeTransform {
     Workspace<double> table_; // of roots for length_
     Workspace<double> memory_;
     Workspace<Integer> powers_; // g^q modulo p, q = 0..p-2
-    double *input_ = nullptr;
-    double *output_ = nullptr;
     double *kernel_ = nullptr; // packed transform of the kernel, divided by length_
     double *signal_ = nullptr; // the sequences that are convolved: real parts, then imaginary parts
     double *work_ = nullptr;

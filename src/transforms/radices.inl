@@ -151,7 +151,7 @@ struct LargePrime {
         X *x;
         Y *y;
         explicit Points(const LargePrime &large)
-            : x{reinterpret_cast<X *>(large.prime.input())}, y{reinterpret_cast<Y *>(large.prime.output())}
+            : x{reinterpret_cast<X *>(large.prime.points())}, y{reinterpret_cast<Y *>(large.prime.points())}
         {
         }
     };
