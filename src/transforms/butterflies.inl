@@ -517,3 +517,6 @@ struct Butterfly<36> : Composite<6, 6> {
 template <>
 struct Butterfly<45> : Composite<9, 5> {
 };
+template <>
+struct Butterfly<35> : Composite<7, 5> {
+};

@@ -1,40 +1,49 @@
-// The first pass of a transform of one complex sequence: one stage, or two that are taken together without a way through memory.
+// The first pass of a transform of one complex sequence: a stage, or several that are taken together without a way through memory.
 // Part of kernels.inl.
 //
-// The columns fill the registers, and leave as rows: what the stage before, row by row, would leave behind.
+// The columns fill the registers, and leave as rows: what the stages, one by one, would leave behind.
 
-template <int first, int second>
+// Stages number `at`, at + 1, .. of the lead, on columns c, c + 1, ..: from x, point l of the first of them and t of the rest at
+// l * rest + t.
+template <int lead, int at>
+KOR_INLINE void run_lead(const Stage *stages, Index columns, Index c, const Pair<Lanes> *x, Pair<Lanes> *y)
+{
+    constexpr int radix = kLeads[lead].radix[at], rest = kLeads[lead].points(at + 1);
+    Pair<Lanes> middle[radix][rest];
+    KOR_UNROLL for (int t = 0; t < rest; ++t)
+    {
+        Pair<Lanes> points[radix], transform[radix];
+        KOR_UNROLL for (int l = 0; l < radix; ++l) points[l] = x[l * rest + t];
+        Butterfly<radix>::run(static_cast<const Pair<Lanes> *>(points), transform);
+        const OneForEach<Full, (radix > kLargestPlainRadix)> twiddle{Full{}, stages[at], t * columns + c};
+        KOR_UNROLL for (int k = 0; k < radix; ++k) middle[k][t] = twiddle(k, transform[k]);
+    }
+    KOR_UNROLL for (int k = 0; k < radix; ++k)
+    {
+        if constexpr (rest == 1) {
+            y[k] = middle[k][0];
+        } else {
+            Pair<Lanes> transform[rest];
+            run_lead<lead, at + 1>(stages, columns, c, middle[k], transform);
+            KOR_UNROLL for (int i = 0; i < rest; ++i) y[k + radix * i] = transform[i];
+        }
+    }
+}
+
+template <int lead>
 void complex_lead(const Stage *stages, Sequence in, Sequence out)
 {
-    constexpr Index kRows = first * second, kPadded = kRows < kLanes ? kLanes : kRows;
-    constexpr auto kRootsInTable = [](int radix) { return radix > kLargestPlainRadix; };
-    const Index columns = second > 1 ? stages[1].after : stages[0].after;
+    constexpr Index kRows = kLeads[lead].points(), kPadded = kRows < kLanes ? kLanes : kRows;
+    const Index columns = stages[kLeads[lead].count - 1].after;
     for (Index group = 0; group < columns; group += kLanes) {
         const Index c = group + kLanes <= columns ? group : columns - kLanes;
-        Pair<Lanes> middle[first][second], done[kPadded];
-        each<second>([&]<int t>(Constant<t>) __attribute__((always_inline)) {
-            const Index place = t * columns + c;
-            Pair<Lanes> x[first], y[first];
-            KOR_UNROLL for (int l = 0; l < first; ++l)
-            {
-                const Index at = l * stages[0].after + place;
-                x[l] = {load_lanes(in.re + at), load_lanes(in.im + at)};
-            }
-            Butterfly<first>::run(static_cast<const Pair<Lanes> *>(x), y);
-            const OneForEach<Full, kRootsInTable(first)> twiddle{Full{}, stages[0], place};
-            KOR_UNROLL for (int k = 0; k < first; ++k) middle[k][t] = twiddle(k, y[k]);
-        });
-        KOR_UNROLL for (int k1 = 0; k1 < first; ++k1)
+        Pair<Lanes> points[kRows], done[kPadded];
+        KOR_UNROLL for (Index l = 0; l < kRows; ++l)
         {
-            if constexpr (second == 1) {
-                done[k1] = middle[k1][0];
-            } else {
-                Pair<Lanes> y[second];
-                Butterfly<second>::run(static_cast<const Pair<Lanes> *>(middle[k1]), y);
-                const OneForEach<Full, kRootsInTable(second)> twiddle{Full{}, stages[1], c};
-                KOR_UNROLL for (int k2 = 0; k2 < second; ++k2) done[k1 + first * k2] = twiddle(k2, y[k2]);
-            }
+            const Index at = l * columns + c;
+            points[l] = {load_lanes(in.re + at), load_lanes(in.im + at)};
         }
+        run_lead<lead, 0>(stages, columns, c, points, done);
         // Rows too short for a register are stored whole: what is too much is overwritten by the next.
         KOR_UNROLL for (Index k = kRows; k < kPadded; ++k) done[k] = done[0];
         KOR_UNROLL for (Index block = 0; block < kPadded; block += kLanes)
@@ -59,11 +68,9 @@ void complex_lead(const Stage *stages, Sequence in, Sequence out)
 
 inline void any_complex_lead(const Stage *stages, int count, Sequence in, Sequence out)
 {
-    const Index first = stages[0].radix, second = count == 2 ? stages[1].radix : 1;
     const auto is_this = [&]<int i>(Constant<i>) __attribute__((always_inline)) {
-        constexpr Lead lead = kLeads[i];
-        if (first != lead.first || second != lead.second) return false;
-        complex_lead<lead.first, lead.second>(stages, in, out);
+        if (!kLeads[i].is(stages, count)) return false;
+        complex_lead<i>(stages, in, out);
         return true;
     };
     [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {

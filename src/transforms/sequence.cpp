@@ -22,12 +22,21 @@ constexpr Index kRowBlock = kLine;
 
 } // namespace
 
+// Two sweeps pay when the data outgrow the first cache, and sooner for complex data, whose first sweep fills registers with columns.
+bool Plan::one_sweep_is_faster() const
+{
+    constexpr Index kLongestPacked = 400, kLongestPackedInThree = 600;
+    // Roundings are others in two sweeps than in one: a sequence is to give the same bits alone as among others.
+    if (n_ <= kLongestSideBySide || stages_.count <= 2) return true;
+    if (kind_ == Kind::complex) return stages_.in_first_pass > 0;
+    return n_ <= kLongestPacked ||
+           (n_ <= kLongestPackedInThree && stages_.count == 3 && stages_.stage[1].radix <= kLargestPlainRadix);
+}
+
 Plan::Plan(Kind kind, Index n, const double *trig)
     : kind_{kind}, n_{n}, stages_{Stages::fewest(kind, n, trig)}, columns_{n}
 {
-    // Roundings are others in two sweeps than in one: so that a sequence gives the same bits alone as among others, short ones
-    // go in one. So do those for which two passes are enough.
-    if (n_ <= kLongestSideBySide || stages_.in_first_pass > 0 || stages_.count <= 2) return;
+    if (one_sweep_is_faster()) return;
 
     kernel_ = &kernels_for_length(kind == Kind::complex ? n : n / 4);
     // Few rows keep the sweep over the columns cheap, but the other one must not outgrow the cache. Columns of packed

@@ -31,6 +31,7 @@ class Plan {
 
   private:
     struct Blocks;
+    bool one_sweep_is_faster() const;
     Index one_sweep_part() const; // size of a part of the two work arrays
     Blocks blocks(double *memory) const;
     void transform_complex(Sequence in, Sequence out, double scale, double *work) const;

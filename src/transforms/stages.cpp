@@ -24,10 +24,13 @@ constexpr AnyRadices ending_in_one(const Factors &factors, int from, Index produ
     return radices;
 }
 
-constexpr bool can_lead(Index first, Index second)
+constexpr bool can_lead(const Factors &factors, int count)
 {
-    for (const Lead lead : kLeads)
-        if (lead.first == first && lead.second == second) return true;
+    for (const Lead &lead : kLeads) {
+        bool same = lead.count == count;
+        for (int i = 0; same && i < count; ++i) same = lead.radix[i] == factors.factor[i];
+        if (same) return true;
+    }
     return false;
 }
 
@@ -40,11 +43,11 @@ constexpr AnyRadices fewest_radices(Kind kind, Index n)
     // Two passes for a complex sequence: the shorter of the two transforms should be as long as can be.
     AnyRadices best{};
     Index best_shorter = 0, lead = 1;
-    for (int i = 1; kind == Kind::complex && i <= 2 && i < factors.count; ++i) {
+    for (int i = 1; kind == Kind::complex && i <= 3 && i < factors.count; ++i) {
         lead *= factors.factor[i - 1];
         const Index rest = n / lead, shorter = std::min(lead, rest);
         if (!has_butterfly(kind, rest) || rest < kFewestColumns || shorter <= best_shorter) continue;
-        if (!can_lead(factors.factor[0], i == 2 ? factors.factor[1] : 1)) continue;
+        if (!can_lead(factors, i)) continue;
         best = ending_in_one(factors, i, rest, i);
         best_shorter = shorter;
     }

@@ -48,7 +48,7 @@ constexpr std::uint64_t lengths_up_to_33_and(std::initializer_list<int> more)
 }
 constexpr bool has_butterfly(Kind kind, Index n)
 {
-    constexpr std::uint64_t kComplex = lengths_up_to_33_and({}), kPacked = lengths_up_to_33_and({36, 45});
+    constexpr std::uint64_t kComplex = lengths_up_to_33_and({35}), kPacked = lengths_up_to_33_and({36, 45});
     return n <= kLongestButterfly && ((kind == Kind::complex ? kComplex : kPacked) >> n & 1) != 0;
 }
 
@@ -72,13 +72,31 @@ inline double unitary_scale(Index n)
     return n <= kLongestButterfly ? kScales.length[n] : 1.0 / std::sqrt(static_cast<double>(n));
 }
 
-// Stages that the first pass of a single complex sequence can take: one, with second = 1, or two at once.
+// Stages that the first pass of a single complex sequence can take together.
 struct Lead {
-    int first, second;
+    int count;
+    int radix[3];
+
+    // The product of the radices from number `from` on.
+    constexpr int points(int from = 0) const
+    {
+        int product = 1;
+        for (int i = from; i < count; ++i) product *= radix[i];
+        return product;
+    }
+    bool is(const Stage *stages, int stage_count) const
+    {
+        if (stage_count != count) return false;
+        for (int i = 0; i < count; ++i)
+            if (stages[i].radix != radix[i]) return false;
+        return true;
+    }
 };
-inline constexpr Lead kLeads[] = {{2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {11, 1}, {13, 1}, {6, 6},
-                                  {6, 4}, {6, 2}, {6, 3}, {6, 5}, {4, 4}, {4, 2}, {4, 3},  {4, 5},  {4, 7},
-                                  {2, 5}, {2, 7}, {3, 3}, {3, 5}, {3, 7}, {5, 5}, {5, 7}};
+inline constexpr Lead kLeads[] = {{1, {2}},    {1, {3}},       {1, {4}},      {1, {5}},    {1, {6}},    {1, {7}},
+                                  {1, {11}},   {1, {13}},      {2, {6, 6}},   {2, {6, 4}}, {2, {6, 2}}, {2, {6, 3}},
+                                  {2, {6, 5}}, {2, {4, 4}},    {2, {4, 2}},   {2, {4, 3}}, {2, {4, 5}}, {2, {4, 7}},
+                                  {2, {2, 5}}, {2, {2, 7}},    {2, {3, 3}},   {2, {3, 5}}, {2, {3, 7}}, {2, {5, 5}},
+                                  {2, {5, 7}}, {3, {3, 3, 3}}, {3, {3, 3, 5}}};
 inline constexpr int kLeadCount = sizeof kLeads / sizeof kLeads[0];
 
 struct Stages {
