@@ -22,8 +22,8 @@ KOR_BEGIN_DECLS
 /// Within 0.6 units in the last place, given `p`; a `p` next to 1 cannot be known well: use g01fac() with Kor_UpperTail
 /// there.
 /// \par Method
-/// A rational approximation and a step of Halley's method on the tail itself. M. J. Wichura, Appl. Statist. 37 (1988)
-/// 477-484.
+/// Polynomials on short intervals of the logarithm of the smaller tail, or next to the median of the squared distance of the
+/// probability from 1/2.
 /// \par Thread safety
 /// Safe.
 /// \par See also
@@ -78,8 +78,8 @@ double g01eac(Integer tail, double x, KorError *fail);
 /// \par Accuracy
 /// Within 0.6 units in the last place, near the median too, where x is small.
 /// \par Method
-/// A rational approximation and a step of Halley's method on the tail itself, or next to the median on the probability from
-/// there. M. J. Wichura, Appl. Statist. 37 (1988) 477-484.
+/// Polynomials on short intervals of the logarithm of the smaller tail, or next to the median of the squared distance of the
+/// probability from 1/2.
 /// \par Thread safety
 /// Safe.
 /// \par See also

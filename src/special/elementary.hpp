@@ -54,29 +54,38 @@ KOR_INLINE Exponential extended_exp(DoubleDouble x)
     return {fast_two_sum(power.hi, power.lo + power.hi * growth), n.count >> 6};
 }
 
-// x = 2^exponent m, and m factor = 1 + r1 + rest, where r1 has so few bits that its square is exact. |rest| is below 2^-20,
-// and at most |r1| in the cells about 1 unless r1 is 0.
-struct LogReduction {
+// x = 2^exponent m, m in the cell.
+struct LogCellAndExponent {
     const tables::LogCell &cell;
     int exponent;
+};
+
+// x normal.
+KOR_INLINE LogCellAndExponent find_log_cell(double x)
+{
+    constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // 45/64
+    const std::uint64_t offset = std::bit_cast<std::uint64_t>(x) - kFirstCell;
+    return {tables::kLogCells[(offset >> 45) % 128], static_cast<int>(static_cast<std::int64_t>(offset) >> 52)};
+}
+
+// m factor = 1 + r1 + rest.
+struct LogReduction : LogCellAndExponent {
     double r1, rest;
 };
 
+// r1 has so few bits that its square is exact, and |rest| is below 2^-20.
 KOR_INLINE LogReduction reduce_for_log(double x)
 {
-    constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // 45/64
     constexpr std::uint64_t kHalfOfBit20 = std::uint64_t{1} << 32;
     constexpr std::uint64_t kUpper20Bits = ~((std::uint64_t{1} << 33) - 1);
     const bool subnormal = x < 0x1p-1022;
     if (subnormal) [[unlikely]]
         x *= 0x1p54;
-    const std::uint64_t bits = std::bit_cast<std::uint64_t>(x), offset = bits - kFirstCell;
-    const int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
-    const std::uint64_t m_bits = bits - (static_cast<std::uint64_t>(exponent) << 52);
+    const auto [cell, exponent] = find_log_cell(x);
+    const std::uint64_t m_bits = std::bit_cast<std::uint64_t>(x) - (static_cast<std::uint64_t>(exponent) << 52);
     const double m = std::bit_cast<double>(m_bits);
     const double m_hi = std::bit_cast<double>((m_bits + kHalfOfBit20) & kUpper20Bits);
-    const tables::LogCell &cell = tables::kLogCells[(offset >> 45) % 128];
-    return {cell, subnormal ? exponent - 54 : exponent, m_hi * cell.factor - 1.0, (m - m_hi) * cell.factor};
+    return {{cell, subnormal ? exponent - 54 : exponent}, m_hi * cell.factor - 1.0, (m - m_hi) * cell.factor};
 }
 
 // The logarithm of a reduced number whose rest has become rest.hi + rest.lo: r1 - r1^2/2 + rest, joined exactly, and
@@ -104,10 +113,36 @@ KOR_INLINE DoubleDouble extended_log(double x)
 KOR_INLINE DoubleDouble extended_log(DoubleDouble x)
 {
     const LogReduction reduced = reduce_for_log(x.hi);
-    // x.lo 2^-exponent; from 2^1023 on it is of no account.
-    const int power = reduced.exponent < 1023 ? 1023 - reduced.exponent : 0;
+    // x.lo 2^-exponent; from 2^1023 on it is of no account, and beside subnormal numbers it is zero.
+    const int power = std::abs(reduced.exponent) < 1023 ? 1023 - reduced.exponent : 0;
     const double low = x.lo * std::bit_cast<double>(static_cast<std::uint64_t>(power) << 52);
     return join_log(reduced, two_sum(reduced.rest, low * reduced.cell.factor));
+}
+
+// The logarithm of a reduced number by fewer steps, for sums that plain arithmetic goes on with: relative error 2^-60 next to
+// 1, absolute error 2^-69 elsewhere.
+KOR_INLINE OpenSum join_open_log(const LogReduction &x)
+{
+    using namespace tables;
+    const double high = x.exponent * kLn2High + x.cell.log_hi + x.r1; // exact
+    const DoubleDouble sum = fast_two_sum(high, x.rest);
+    const double r = x.r1 + x.rest;
+    const double series = r * r * (r * polynomial(kLogSeries, r) - 0.5);
+    return {sum.hi, sum.lo + (series + (x.exponent * kLn2Low + x.cell.log_lo))};
+}
+
+// ln(x), x positive and finite.
+KOR_INLINE OpenSum open_log(double x) { return join_open_log(reduce_for_log(x)); }
+
+// ln(1 + x), -1 < x < 2^27. With f = factor 2^-exponent from the cell of the rounded sum, (1 + x) f = 1 + (f - 1) + x f, where
+// the upper half of x goes into r1: f has so few bits that products and sums are exact.
+KOR_INLINE OpenSum open_log_one_plus(double x)
+{
+    const LogCellAndExponent found = find_log_cell(1.0 + x);
+    const double f = std::bit_cast<double>(std::bit_cast<std::uint64_t>(found.cell.factor) -
+                                           (static_cast<std::uint64_t>(found.exponent) << 52));
+    const double x_1 = upper_half(x), x_2 = x - x_1;
+    return join_open_log({found, (f - 1.0) + x_1 * f, x_2 * f});
 }
 
 struct SineAndCosine {

@@ -57,13 +57,6 @@ double scaled_erfc(double x)
     return u / kRootPi * (1.0 - v * (0.5 - v * (0.75 - v * (1.875 - v * 6.5625))));
 }
 
-Exponential extended_normal_upper_tail(double x)
-{
-    Exponential q = tail(x * tables::kRootHalf, two_square(x).scaled(0.5));
-    --q.exponent;
-    return q;
-}
-
 double normal_upper_tail(double x)
 {
     if (std::isnan(x)) return x;

@@ -28,7 +28,4 @@ double scaled_erfc(double x);
 // The upper tail of the standard normal distribution, 1/2 erfc(x / sqrt 2).
 double normal_upper_tail(double x);
 
-// The same as value 2^exponent, x in [0.7072, 44]: neither part underflows; relative error 2^-55.
-Exponential extended_normal_upper_tail(double x);
-
 } // namespace kor::special

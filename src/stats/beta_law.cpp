@@ -170,7 +170,7 @@ double start_odds(double a, double b, double p)
     double start = 0.0;
     if (a > 0.75 && b > 0.75) {
         // Carter's approximation to Fisher's z.
-        const double y = rough_normal_upper_quantile(p);
+        const double y = -normal_quantile(p);
         const double r = (y * y - 3.0) / 6.0, s = 1.0 / (2.0 * a - 1.0), t = 1.0 / (2.0 * b - 1.0);
         const double h = 2.0 / (s + t);
         if (h + r > 0.0) {
@@ -194,11 +194,8 @@ double start_odds(double a, double b, double p)
 // the first term of the expansion about the gamma law takes away.
 double start_odds_of_student(double b, Target target)
 {
-    constexpr double kProportionalBelow = 1e-3;
-    const double p = target.probability;
-    const double z = target.upper             ? rough_normal_upper_quantile(0.5 * p)
-                     : p < kProportionalBelow ? p * 1.2533141373155003
-                                              : rough_normal_upper_quantile(0.5 - 0.5 * p);
+    const double half = 0.5 * target.probability;
+    const double z = target.upper ? normal_upper_quantile(half) : normal_central_quantile(half);
     const double scale = b - 0.25, u = 0.5 * z * z, correction = (u + 1.5) / (48.0 * scale * scale);
     constexpr double kMostCorrection = 0.1, kLargestLog = 600.0;
     return std::expm1(std::fmin(u * (1.0 - std::fmin(correction, kMostCorrection)) / scale, kLargestLog));

@@ -19,7 +19,7 @@ double start_quantile(double a, Target target)
     double start = 0.0;
     if (a > 0.5) {
         // Wilson and Hilferty: the cube root is nearly normal.
-        const double z = (target.upper ? 1.0 : -1.0) * rough_normal_upper_quantile(target.probability);
+        const double below = normal_quantile(target.probability), z = target.upper ? -below : below;
         const double c = 1.0 / (9.0 * a);
         const double cube_root = 1.0 - c + z * std::sqrt(c);
         constexpr double kGood = 0.5;

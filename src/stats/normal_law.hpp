@@ -15,9 +15,6 @@ double normal_hazard(double x);
 // The x >= 0 with P(X > x) = q, 0 < q <= 1/2.
 double normal_upper_quantile(double q);
 
-// The same for 0 < q < 1, to about 1e-15: where others start from.
-double rough_normal_upper_quantile(double q);
-
 // The x >= 0 with P(0 < X < x) = half, 0 <= half < 1/2: keeps its digits as half goes to 0.
 double normal_central_quantile(double half);
 

@@ -99,6 +99,25 @@ TEST(Laws, QuantilesReturnToTheirProbability)
     }
 }
 
+// The normal quantile has a polynomial in each of many intervals: one place of x to either side the tail is beyond q.
+TEST(Laws, NormalQuantilesInAllPieces)
+{
+    Record fail;
+    for (double minus_log = 0.4; minus_log < 690.0; minus_log *= 1.011) {
+        const double q = std::exp(-minus_log), x = g01fac(Kor_UpperTail, q, &fail);
+        EXPECT_GE(g01eac(Kor_UpperTail, std::nextafter(x, -kInfinity), &fail) * (1.0 + 2 * kEps), q) << q;
+        EXPECT_LE(g01eac(Kor_UpperTail, std::nextafter(x, kInfinity), &fail) * (1.0 - 2 * kEps), q) << q;
+        EXPECT_EQ(g01fac(Kor_LowerTail, q, &fail), -x) << q;
+        if (q <= 0.25) {
+            EXPECT_EQ(g01fac(Kor_TwoTailSignif, 2.0 * q, &fail), x) << q;
+        }
+    }
+    for (double p = 1e-300; p < 1e-4; p *= 17.0) // (2 pi)^(1/2) p / 2 (1 + pi p^2 / 12)
+        EXPECT_NEAR(g01fac(Kor_TwoTailConfid, p, &fail) / (1.2533141373155003 * p * (1.0 + 0.2617993877991494 * p * p)),
+                    1.0, 2 * kEps)
+            << p;
+}
+
 TEST(Laws, QuantilesOfExtremeTailsConvergeAndAreMonotone)
 {
     for (const double df : {1.0, 1.5, 2.0, 3.0, 10.0, 100.0, 1e5, 1e10, 1e21})

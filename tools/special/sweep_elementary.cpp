@@ -12,6 +12,7 @@
 #include <gsl/gsl_errno.h>
 #include <gsl/gsl_sf.h>
 
+#include <kor/g01.h>
 #include <kor/s01.h>
 #include <kor/s07.h>
 #include <kor/s10.h>
@@ -53,6 +54,8 @@ void run_extended()
          arb_exp, -700, 700, false},
         {"log", [](double x) { return extended_log({x}); }, arb_log, 1e-300, 1e300, true},
         {"log", [](double x) { return extended_log({x}); }, arb_log, 0.5, 2, false},
+        {"open log", [](double x) -> DoubleDouble { return open_log(x); }, arb_log, 1e-300, 1e300, true},
+        {"open log", [](double x) -> DoubleDouble { return open_log(x); }, arb_log, 0.5, 2, false},
         {"sin", [](double x) { return extended_sine_cosine_of({x}).sine; }, arb_sin, 1e-5, 1e3, true},
         {"sin", [](double x) { return extended_sine_cosine_of({x}).sine; }, arb_sin, 1e3, 1e16, true},
         {"cos", [](double x) { return extended_sine_cosine_of({x}).cosine; }, arb_cos, 1e-5, 1e3, true},
@@ -118,6 +121,58 @@ void normal_complement(arb_t y, const arb_t x, slong precision)
     arb_neg(minus, x);
     normal(y, minus, precision);
     arb_clear(minus);
+}
+
+// P(|X| <= x) of the normal law.
+void normal_confidence(arb_t y, const arb_t x, slong precision)
+{
+    arb_set_ui(y, 2);
+    arb_sqrt(y, y, precision);
+    arb_div(y, x, y, precision);
+    arb_hypgeom_erf(y, y, precision);
+}
+
+// The x with law(x) = p by Newton's method from a double value, the slope being `multiple` times the normal density.
+template <sweep::Truth law, int multiple>
+void normal_deviate(arb_t x, double start, const arb_t p, slong precision)
+{
+    precision += 60;
+    arb_t step, density;
+    arb_init(step), arb_init(density);
+    arb_set_d(x, start);
+    for (int k = 0; k < 4; ++k) {
+        arb_mul(density, x, x, precision);
+        arb_mul_2exp_si(density, density, -1);
+        arb_neg(density, density);
+        arb_exp(density, density, precision);
+        arb_const_sqrt_pi(step, precision);
+        arb_div(density, density, step, precision);
+        arb_set_ui(step, 2);
+        arb_sqrt(step, step, precision);
+        arb_div(density, density, step, precision);
+        arb_mul_si(density, density, multiple, precision);
+        law(step, x, precision);
+        arb_sub(step, p, step, precision);
+        arb_div(step, step, density, precision);
+        arb_add(x, x, step, precision);
+        mag_zero(arb_radref(x));
+    }
+    arb_clear(step), arb_clear(density);
+}
+
+const boost::math::normal_distribution<double, Policy> normal_of_boost;
+
+void deviate_of_upper_tail(arb_t x, const arb_t q, slong precision)
+{
+    const double start = quantile(complement(normal_of_boost, arf_get_d(arb_midref(q), ARF_RND_NEAR)));
+    normal_deviate<normal_complement, -1>(x, start, q, precision);
+}
+
+void deviate_of_confidence(arb_t x, const arb_t p, slong precision)
+{
+    const double middle = arf_get_d(arb_midref(p), ARF_RND_NEAR);
+    const double start = middle < 0.1 ? 1.25 * middle : quantile(complement(normal_of_boost, 0.5 - 0.5 * middle));
+    normal_deviate<normal_confidence, 2>(x, start, p, precision);
 }
 
 void e1(arb_t y, const arb_t x, slong precision) { arb_hypgeom_expint(y, one(), x, precision); }
@@ -462,7 +517,7 @@ int main(int argc, char **argv)
          [&](double x) { return s01bac(x, &fail); },
          arb_log1p,
          {{-0.99999999999999, 1}, {1, 1e300, true}, {1e-300, 1, true}, {-1e-300, -0.5, true}},
-         {0, 0.41421356, -0.296875, 0.40625, -1},
+         {0, 0.41421356, -0.296875, 0.40625, -1, 0x1p27},
          {{"libm", [](double x) { return std::log1p(x); }}}},
         {"s07aac",
          [&](double x) { return s07aac(x, &fail); },
@@ -604,6 +659,18 @@ int main(int argc, char **argv)
          {{"libm", [](double x) { return std::erf(x); }},
           {"gsl", gsl_sf_erf},
           {"boost", [&](double x) { return boost::math::erf(x, p); }}}},
+        {"g01fac",
+         [&](double q) { return g01fac(Kor_UpperTail, q, &fail); },
+         deviate_of_upper_tail,
+         {{1e-322, 0.25, true}, {1e-3, 0.25}, {0.25, 0.75}, {0.75, 0.99999999999999}},
+         {0.25, 0.5, 0.75},
+         {{"gsl", gsl_cdf_ugaussian_Qinv},
+          {"boost", [](double q) { return quantile(complement(normal_of_boost, q)); }}}},
+        {"g01fac C",
+         [&](double p) { return g01fac(Kor_TwoTailConfid, p, &fail); },
+         deviate_of_confidence,
+         {{1e-300, 0.5, true}, {0.4, 0.99999999999999}},
+         {0.5}},
         {"s20acc", s20acc, fresnel_sine, {{1e-100, 0.5, true}, {-8, 8}, {4, 1000}, {4, 1e16, true}}, {0.5, 4, 1e16}},
         {"s20adc", s20adc, fresnel_cosine, {{1e-300, 0.5, true}, {-8, 8}, {4, 1000}, {4, 1e16, true}}, {0.5, 4, 1e16}},
     };
