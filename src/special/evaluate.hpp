@@ -219,6 +219,15 @@ struct OpenSum {
     KOR_INLINE constexpr operator DoubleDouble() const { return fast_two_sum(large, small); }
 };
 
+// 1 / x by one division: its upper half, and the rest from the remainder that this leaves, which is exact.
+KOR_INLINE constexpr OpenSum open_reciprocal(DoubleDouble x)
+{
+    const double quotient = 1.0 / x.hi, upper = upper_half(quotient);
+    const double x_1 = upper_half(x.hi), x_2 = x.hi - x_1;
+    const double remainder = ((1.0 - upper * x_1) - upper * x_2) - upper * x.lo;
+    return {upper, remainder * quotient};
+}
+
 // head + x tail(x), for functions that stay near their constant term: with |x tail(x)| below |head| / 8 the sum is good to
 // 2^-55, without any exact product. head.hi has but 26 bits, so that its product with another short number is exact.
 template <std::size_t T>

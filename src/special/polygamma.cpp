@@ -19,9 +19,10 @@ using Cplx = std::complex<double>;
 constexpr Integer kLargestRealOrder = 6;
 constexpr Integer kLargestComplexOrder = 4;
 constexpr double kFactorial[] = {1, 1, 2, 6, 24, 120, 720};
-constexpr double kDigammaTailFrom = 16.0;
+constexpr double kTableEnds = 16.0;         // of digamma and trigamma
 constexpr double kSeriesFrom = 16.0;        // real argument: twelve terms give the last bit for k = 6
 constexpr double kComplexSeriesFrom = 20.0; // modulus: near the imaginary axis the terms count more
+constexpr double kOrdinary = 1e40;          // from its reciprocal on no order overflows, and up to it none underflows
 constexpr double kLogLargest = 709.78;
 constexpr double kLogSmallest = -708.39;
 
@@ -60,13 +61,28 @@ T series_beyond_first(T y, Integer k)
     return 0.5 * static_cast<double>(k) / y + asymptotic_series(y, k);
 }
 
-// psi(x), x >= 1: the distance from its zero times a factor without zeros, or the asymptotic series.
-DoubleDouble extended_digamma(DoubleDouble x)
+// psi(x), x >= 1/2: the distance from its zero times a factor without zeros, or the asymptotic series.
+KOR_INLINE OpenSum open_digamma(DoubleDouble x)
 {
     using namespace tables;
-    if (x.hi < kDigammaTailFrom) return kDigammaFactor.times(x - kDigammaZero, x);
+    if (x.hi < kTableEnds) {
+        const double distance = x.hi - kDigammaZero[0]; // exact
+        const DoubleDouble sum = fast_two_sum(distance, -kDigammaZero[1]);
+        return kDigammaFactor.times({sum.hi, sum.lo + (x.lo - kDigammaZero[2])}, x);
+    }
     const double reciprocal = 1.0 / x.hi, square = reciprocal * reciprocal;
-    return extended_log(x) - (0.5 * reciprocal + square * kDigammaTail.open(square).rounded());
+    const OpenSum log = open_log(x.hi);
+    return {log.large, log.small + ((x.lo - 0.5) * reciprocal - square * polynomial(kDigammaTail, square))};
+}
+
+// psi'(x) likewise.
+KOR_INLINE OpenSum open_trigamma(DoubleDouble x)
+{
+    using namespace tables;
+    if (x.hi < kTableEnds) return kTrigamma.open(x);
+    const OpenSum reciprocal = open_reciprocal(x);
+    const double u = reciprocal.rounded(), square = u * u;
+    return {reciprocal.large, reciprocal.small + square * (0.5 + u * polynomial(kTrigammaTail, square))};
 }
 
 // The asymptotic series of |psi^(k)(x)|, x large, k >= 1.
@@ -76,22 +92,10 @@ DoubleDouble magnitude_by_series(DoubleDouble x, Integer k)
     return first + first * series_beyond_first(x.hi, k);
 }
 
-// psi'(x), x > 0.
-DoubleDouble trigamma(DoubleDouble x)
-{
-    using namespace tables;
-    if (x.hi < 1.0) return kTrigamma(x + 1.0) + 1.0 / square(x);
-    if (x.hi < kSeriesFrom) return kTrigamma(x);
-    const DoubleDouble reciprocal = 1.0 / x;
-    const double square = reciprocal.hi * reciprocal.hi;
-    return reciprocal + square * (0.5 + reciprocal.hi * kTrigammaTail.open(square).rounded());
-}
-
-// |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 1; about 2^-54. Trigamma has a table; else the first terms,
-// which may carry the sum, are formed with low parts.
+// |psi^(k)(x)| = k! sum over n >= 0 of 1 / (x + n)^(k+1), x > 0, k >= 2; about 2^-54. The first terms, which may carry the
+// sum, are formed with low parts.
 DoubleDouble magnitude(DoubleDouble x, Integer k)
 {
-    if (k == 1) return trigamma(x);
     if (x.hi >= kSeriesFrom) return magnitude_by_series(x, k);
     constexpr int kCarefulTerms = 4;
     DoubleDouble leading{0.0};
@@ -118,21 +122,55 @@ T cotangent_derivative(T c, T one_plus_square, Integer k)
 }
 
 // psi^(k)(x) for x < 0 away from the poles, k >= 1.
-double reflected(double x, Integer k)
+[[gnu::noinline]] double reflected(double x, Integer k)
 {
     const auto [sine, cosine] = extended_sine_cosine_pi(x);
     const DoubleDouble derivative =
         cotangent_derivative(cosine / sine, 1.0 / square(sine), k) * power(tables::kPi, k + 1);
     // (-1)^k psi^(k)(1 - x) is -|psi^(k)(1 - x)|.
-    return (-derivative - magnitude(two_sum(1.0, -x), k)).rounded();
+    const DoubleDouble other = two_sum(1.0, -x);
+    return (-derivative - (k == 1 ? static_cast<DoubleDouble>(open_trigamma(other)) : magnitude(other, k))).rounded();
 }
 
-double polygamma(double x, Integer k)
+// psi(x), x < 1/2 and not a pole.
+[[gnu::noinline]] double digamma_to_the_left(double x)
+{
+    if (x <= 0.0) {
+        const auto [sine, cosine] = extended_sine_cosine_pi(x);
+        const DoubleDouble other = open_digamma(two_sum(1.0, -x));
+        return (other - tables::kPi * (cosine / sine)).rounded();
+    }
+    // psi(x) = psi(1 + x) - 1/x
+    const OpenSum pole = open_reciprocal({x}), next = open_digamma(fast_two_sum(1.0, x));
+    const DoubleDouble sum = two_sum(next.large, -pole.large);
+    return sum.hi + (sum.lo + (next.small - pole.small));
+}
+
+// psi'(x) likewise.
+[[gnu::noinline]] double trigamma_to_the_left(double x)
+{
+    if (x < -0.5) return reflected(x, 1);
+    // psi'(x) = 1/x^2 + psi'(1 + x); the square of the upper half of 1/x is exact.
+    const OpenSum pole = open_reciprocal({x}), next = open_trigamma(fast_two_sum(1.0, x));
+    const DoubleDouble sum = two_sum(pole.large * pole.large, next.large);
+    return sum.hi + (sum.lo + (pole.small * (2.0 * pole.large + pole.small) + next.small));
+}
+
+// psi^(k)(x), k >= 2.
+[[gnu::noinline]] double higher_polygamma(double x, Integer k)
 {
     if (x < -0.5) return reflected(x, k);
     if (x > 0.0) return -alternating(k) * magnitude({x}, k).rounded();
     const DoubleDouble pole_term = kFactorial[k] / power({x}, k + 1);
     return -alternating(k) * (pole_term + magnitude(two_sum(1.0, x), k)).rounded();
+}
+
+// psi^(k)(x), x not a pole, without over- or underflow.
+KOR_INLINE double polygamma(double x, Integer k)
+{
+    if (k == 0) return x >= 0.5 ? open_digamma({x}).rounded() : digamma_to_the_left(x);
+    if (k == 1) return x >= 0.5 ? open_trigamma({x}).rounded() : trigamma_to_the_left(x);
+    return higher_polygamma(x, k);
 }
 
 // cot(pi z) and 1 + cot^2(pi z).
@@ -166,30 +204,24 @@ Cplx right_half_plane(Cplx z, Integer k)
     return -alternating(k) * (kFactorial[k] * sum + (first + first * series_beyond_first(z, k)));
 }
 
-} // namespace
-
-double digamma(double x)
+// What stands against psi^(k)(x).
+[[gnu::noinline]] Integer unusual_argument(double x, Integer k)
 {
-    using namespace tables;
-    if (x >= 1.0) return extended_digamma({x}).rounded();
-    if (x > 0.0) return (extended_digamma(fast_two_sum(1.0, x)) - 1.0 / DoubleDouble{x}).rounded();
-    const auto [sine, cosine] = extended_sine_cosine_pi(x);
-    return (extended_digamma(two_sum(1.0, -x)) - kPi * (cosine / sine)).rounded();
+    if (x <= 0.0 && x == std::floor(x)) return kPolygammaPole;
+    const double log_size = std::log(std::fabs(x));
+    if (std::log(kFactorial[k]) - (k + 1) * log_size > kLogLargest) return kPolygammaOverflow;
+    if (k > 0 && x > 1.0 && std::log(kFactorial[k - 1]) - k * log_size < kLogSmallest) return kPolygammaUnderflow;
+    return kPolygammaDone;
 }
 
-Integer s14aef_f(double x, Integer k, double *value)
+} // namespace
+
+Polygamma s14aef_f(double x, Integer k)
 {
-    *value = 0.0;
-    if (k < 0 || k > kLargestRealOrder) return kPolygammaOrder;
-    if (x <= 0.0 && x == std::floor(x)) return kPolygammaPole;
-    constexpr double kOrdinary = 1e40; // from its reciprocal on no order overflows, and up to it none underflows
-    if (const double size = std::fabs(x); size < 1.0 / kOrdinary || size > kOrdinary) {
-        const double log_size = std::log(size);
-        if (std::log(kFactorial[k]) - (k + 1) * log_size > kLogLargest) return kPolygammaOverflow;
-        if (k > 0 && x > 1.0 && std::log(kFactorial[k - 1]) - k * log_size < kLogSmallest) return kPolygammaUnderflow;
-    }
-    *value = k == 0 ? digamma(x) : polygamma(x, k);
-    return kPolygammaDone;
+    if (k < 0 || k > kLargestRealOrder) return {0.0, kPolygammaOrder};
+    if (!(x > 1.0 / kOrdinary && x < kOrdinary))
+        if (const Integer status = unusual_argument(x, k); status != kPolygammaDone) return {0.0, status};
+    return {polygamma(x, k), kPolygammaDone};
 }
 
 Integer s14aff_f(Complex z, Integer k, Complex *value)
@@ -202,7 +234,7 @@ Integer s14aff_f(Complex z, Integer k, Complex *value)
     const Cplx argument{z.re, z.im};
     Cplx result;
     if (z.im == 0.0) {
-        result = k == 0 ? digamma(z.re) : polygamma(z.re, k);
+        result = polygamma(z.re, k);
     } else if (k > 0 && k * log_size > -kLogSmallest) {
         result = 0.0;
     } else if (z.re >= 0.5) {

@@ -5,9 +5,6 @@
 
 namespace kor::special {
 
-// digamma(x), x not zero or a negative integer; also accurate next to its positive zero.
-double digamma(double x);
-
 enum PolygammaStatus : Integer {
     kPolygammaDone = 0,
     kPolygammaOrder = 1,     // k out of range
@@ -16,8 +13,14 @@ enum PolygammaStatus : Integer {
     kPolygammaOverflow = 4,
 };
 
-// psi^(k)(x), 0 <= k <= 6; `value` is 0 unless all is well.
-Integer s14aef_f(double x, Integer k, double *value);
+// `value` is 0 unless all is well.
+struct Polygamma {
+    double value;
+    Integer status;
+};
+
+// psi^(k)(x), 0 <= k <= 6.
+Polygamma s14aef_f(double x, Integer k);
 
 // psi^(k)(z), 0 <= k <= 4.
 Integer s14aff_f(Complex z, Integer k, Complex *value);

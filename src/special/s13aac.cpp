@@ -16,10 +16,9 @@ double exponential_integral(double x)
 {
     using namespace kor::special;
     if (x < kLogarithmBelow) {
-        const DoubleDouble log_x = extended_log(x);
-        const OpenSum rest = tables::kE1LessLog.open(x);
-        const DoubleDouble sum = fast_two_sum(-log_x.hi, rest.large);
-        return sum.hi + (sum.lo + (rest.small - log_x.lo));
+        const OpenSum log = open_log(x), rest = tables::kE1LessLog.open(x);
+        const DoubleDouble sum = fast_two_sum(-log.large, rest.large);
+        return sum.hi + (sum.lo + (rest.small - log.small));
     }
     const Exponential e = extended_exp({-x});
     return times_power_of_two(tables::kScaledE1.times(e.value, {x}).rounded(), e.exponent);

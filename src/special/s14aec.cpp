@@ -12,13 +12,13 @@ double s14aec(double x, Integer k, KorError *fail)
     const kor::Report report{"s14aec", fail};
     if (std::isnan(x)) return x;
 
-    double value = 0.0;
-    const Integer status = s14aef_f(x, k, &value);
+    const auto [value, status] = s14aef_f(x, k);
     report.set_errnum(status);
-    switch (status) {
-    case kPolygammaDone:
+    if (status == kPolygammaDone) [[likely]] {
         report.success();
-        break;
+        return value;
+    }
+    switch (status) {
     case kPolygammaOrder:
         report.error<NE_INT>("k", k, "0 <= k <= 6");
         break;

@@ -27,6 +27,11 @@ def stirling(u):
 ZERO = mp.findroot(mp.digamma, mpf("1.46"))
 
 
+def digamma_zero():
+    first, _ = short_pair(ZERO)
+    return [first, *double_double(ZERO - first)]
+
+
 def digamma_factor(x):
     return mp.digamma(x) / (x - ZERO)
 
@@ -73,15 +78,15 @@ parts = [
     near_constant("kStirling", stirling, 0, mpf(1) / 144, mpf(2) ** -56,
                   "x (ln gamma(x) - (x - 1/2) ln x + x - ln sqrt(2 pi)) in 1/x^2, x >= 12"),
     pair_constant("kLogRootTwoPi", mp.log(2 * mp.pi) / 2, "ln sqrt(2 pi)"),
-    pair_constant("kDigammaZero", ZERO, "the positive zero of digamma"),
-    pieces("kDigammaFactor", "BinadePieces<1.0, 3, {count}, {terms}>", digamma_factor, binade_centres(0, 4, 3), TIGHT,
-           "digamma(x) / (x - zero) on [1, 16), eight pieces a binade"),
-    near_constant("kDigammaTail", digamma_tail, 0, mpf(1) / 256, mpf(2) ** -56,
-                  "x^2 (ln x - 1/(2 x) - digamma(x)) in 1/x^2, x >= 16"),
-    pieces("kTrigamma", "BinadePieces<1.0, 3, {count}, {terms}>", lambda x: mp.polygamma(1, x), binade_centres(0, 4, 3), TIGHT,
-           "trigamma on [1, 16), eight pieces a binade"),
-    near_constant("kTrigammaTail", trigamma_tail, 0, mpf(1) / 256, mpf(2) ** -50,
-                  "x^3 (trigamma(x) - 1/x - 1/(2 x^2)) in 1/x^2, x >= 16"),
+    array("kDigammaZero", digamma_zero(), "the positive zero of digamma, its first part of 26 bits"),
+    pieces("kDigammaFactor", "BinadePieces<0.5, 3, {count}, {terms}>", digamma_factor, binade_centres(-1, 4, 3), TIGHT,
+           "digamma(x) / (x - zero) on [1/2, 16), eight pieces a binade"),
+    array("kDigammaTail", fit(digamma_tail, 0, mpf(1) / 256, mpf(2) ** -50),
+          "x^2 (ln x - 1/(2 x) - digamma(x)) in 1/x^2, x >= 16; error 2^-50"),
+    pieces("kTrigamma", "BinadePieces<0.5, 3, {count}, {terms}>", lambda x: mp.polygamma(1, x), binade_centres(-1, 4, 3), TIGHT,
+           "trigamma on [1/2, 16), eight pieces a binade"),
+    array("kTrigammaTail", fit(trigamma_tail, 0, mpf(1) / 256, mpf(2) ** -50),
+          "x^3 (trigamma(x) - 1/x - 1/(2 x^2)) in 1/x^2, x >= 16; error 2^-50"),
     polygamma_series(),
 ]
 header(OUT, "Tables of the gamma function and its logarithm.", "make_gamma_tables.py", parts)
