@@ -127,8 +127,7 @@ KOR_INLINE OpenSum join_open_log(const LogReduction &x)
     const double high = x.exponent * kLn2High + x.cell.log_hi + x.r1; // exact
     const DoubleDouble sum = fast_two_sum(high, x.rest);
     const double r = x.r1 + x.rest;
-    const double series = r * r * (r * polynomial(kLogSeries, r) - 0.5);
-    return {sum.hi, sum.lo + (series + (x.exponent * kLn2Low + x.cell.log_lo))};
+    return {sum.hi, (sum.lo + (x.exponent * kLn2Low + x.cell.log_lo)) + r * r * polynomial(kLogBend, r)};
 }
 
 // ln(x), x positive and finite.

@@ -189,6 +189,11 @@ inline constexpr std::array<double, 7> kLogSeries = {
     0.3333333333333333, -0.2500000000000025, 0.20000000000000517, -0.16666666634067534, 0.14285714243377343,
     -0.12501068185087755, 0.11112220921825182};
 
+// (ln(1+r) - r) / r^2: the same behind one more term
+inline constexpr std::array<double, 8> kLogBend = {
+    -0.5, 0.3333333333333333, -0.2500000000000025, 0.20000000000000517, -0.16666666634067534, 0.14285714243377343,
+    -0.12501068185087755, 0.11112220921825182};
+
 // sine and cosine of j pi/128
 struct SineCosine {
     DoubleDouble sine, cosine;

@@ -9,19 +9,22 @@
 
 namespace {
 
-constexpr double kLogarithmBelow = 0.25;
+constexpr double kLogarithmBelow = 0.0625, kScaledFrom = 1.0;
 constexpr double kZeroBeyond = 708.3;
 
 double exponential_integral(double x)
 {
     using namespace kor::special;
+    if (x >= kScaledFrom) {
+        const Exponential e = extended_exp({-x});
+        return times_power_of_two(tables::kScaledE1.times(e.value, {x}).rounded(), e.exponent);
+    }
     if (x < kLogarithmBelow) {
         const OpenSum log = open_log(x), rest = tables::kE1LessLog.open(x);
         const DoubleDouble sum = fast_two_sum(-log.large, rest.large);
         return sum.hi + (sum.lo + (rest.small - log.small));
     }
-    const Exponential e = extended_exp({-x});
-    return times_power_of_two(tables::kScaledE1.times(e.value, {x}).rounded(), e.exponent);
+    return tables::kE1.open({x}).rounded();
 }
 
 } // namespace
@@ -29,9 +32,8 @@ double exponential_integral(double x)
 double s13aac(double x, KorError *fail)
 {
     const kor::Report report{"s13aac", fail};
-    if (std::isnan(x)) return x;
-
-    if (x <= 0.0) {
+    if (!(x > 0.0)) {
+        if (std::isnan(x)) return x;
         report.error<NE_REAL_ARG_LE>("x", "0.0", "x", x);
         return 0.0;
     }

@@ -56,6 +56,7 @@ def logarithm():
     yield f"inline constexpr double kLn2Low = {number(ln2_lo)};\n"
     yield array("kLogSeries", series, f"(ln(1+r) - r + r^2/2) / r^3, |r| <= {mp.nstr(largest, 5)}; error " + mp.nstr(
         table_error(g, -largest, largest, [], series), 2))
+    yield array("kLogBend", [-mpf(1) / 2, *series], "(ln(1+r) - r) / r^2: the same behind one more term")
 
 
 def sine_cosine():

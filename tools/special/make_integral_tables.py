@@ -77,9 +77,11 @@ def ci_pieces():
 
 
 parts = [
-    near_constant("kE1LessLog", e1_less_log, 0, mpf("0.25"), mpf(2) ** -56, "E1(x) + ln x, x <= 1/4"),
-    pieces("kScaledE1", "BinadePieces<0.25, 3, {count}, {terms}>", scaled_e1, binade_centres(-2, 10, 3), TIGHT,
-           "exp(x) E1(x) on [1/4, 1024), eight pieces a binade"),
+    near_constant("kE1LessLog", e1_less_log, 0, mpf("0.0625"), mpf(2) ** -56, "E1(x) + ln x, x <= 1/16"),
+    pieces("kE1", "BinadePieces<0.0625, 4, {count}, {terms}>", mp.e1, binade_centres(-4, 0, 4), TIGHT,
+           "E1 on [1/16, 1), sixteen pieces a binade"),
+    pieces("kScaledE1", "BinadePieces<1.0, 3, {count}, {terms}>", scaled_e1, binade_centres(0, 10, 3), TIGHT,
+           "exp(x) E1(x) on [1, 1024), eight pieces a binade"),
     pair_constant("kEuler", mp.euler, "Euler's constant"),
     array("kCiSeries", fit(ci_less_log, 0, mpf("0.25"), mpf(2) ** -56),
           "(Ci(x) - ln x - euler) / x^2 in x^2, x <= 1/2"),

@@ -565,7 +565,7 @@ int main(int argc, char **argv)
          [&](double x) { return s13aac(x, &fail); },
          e1,
          {{1e-300, 0.25, true}, {0.1, 20}, {16, 708.3}},
-         {0.25, 2, 4, 16, 701, 708.3},
+         {0.0625, 1, 2, 4, 16, 701, 708.3},
          {{"gsl", gsl_sf_expint_E1}, {"boost", [&](double x) { return boost::math::expint(1, x, p); }}}},
         {"s13acc",
          [&](double x) { return s13acc(x, &fail); },
