@@ -50,7 +50,6 @@ double scaled_erfc(double x)
     constexpr double kReciprocalFrom = 32.0;
     constexpr double kRootPi = 1.7724538509055161;
     if (std::isnan(x)) return x;
-    if (x < kNearZero) return (extended_exp(two_square(x)).value * complement({x})).rounded();
     if (x < kReciprocalFrom) return extended_scaled_erfc({x}).rounded();
     const double u = 1.0 / x, v = u * u;
     // The asymptotic series: five terms are enough from 32 on.

@@ -10,8 +10,11 @@ namespace kor::special {
 inline constexpr double kErfcIsZeroFrom = 26.6; // erfc underflows a little below
 inline constexpr double kErfIsOneFrom = 6.25;   // and erfc of the negative is 2
 
-// exp(z^2) erfc(z), z in [1/2, 32); relative error 2^-56.
-KOR_INLINE DoubleDouble extended_scaled_erfc(DoubleDouble z) { return tables::kScaledErfc(z); }
+// exp(z^2) erfc(z), z in [0, 32); relative error 2^-56.
+KOR_INLINE DoubleDouble extended_scaled_erfc(DoubleDouble z)
+{
+    return z.hi < 0.5 ? tables::kScaledErfcNearZero(z) : tables::kScaledErfc(z);
+}
 
 // erf(z), |z| <= 1/2, relative error 2^-56.
 KOR_INLINE DoubleDouble extended_erf_near_zero(DoubleDouble z) { return tables::kErfSlope.times(z, z.hi * z.hi); }

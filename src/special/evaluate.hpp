@@ -25,8 +25,8 @@ namespace kor::special {
 namespace detail {
 
 // c[First] + c[First + 1] x + ... with Count terms; powers[k] holds x^(2^k).
-template <std::size_t First, std::size_t Count, std::size_t N>
-KOR_INLINE constexpr double estrin(const std::array<double, N> &c, const double *powers)
+template <std::size_t First, std::size_t Count, class T, std::size_t N>
+KOR_INLINE constexpr T estrin(const std::array<T, N> &c, const double *powers)
 {
     if constexpr (Count == 1) {
         return c[First];
@@ -39,9 +39,10 @@ KOR_INLINE constexpr double estrin(const std::array<double, N> &c, const double 
 
 } // namespace detail
 
-// c[0] + c[1] x + ... + c[N-1] x^(N-1), terms combined in pairs: the length of the chain is log2(N), not N.
-template <std::size_t N>
-KOR_INLINE constexpr double polynomial(const std::array<double, N> &c, double x)
+// c[0] + c[1] x + ... + c[N-1] x^(N-1), terms combined in pairs: the length of the chain is log2(N), not N. T is double, or
+// several of them side by side.
+template <class T, std::size_t N>
+KOR_INLINE constexpr T polynomial(const std::array<T, N> &c, double x)
 {
     static_assert(N > 0);
     constexpr std::size_t levels = std::bit_width(N - 1) + (N == 1);
@@ -236,6 +237,7 @@ struct NearConstantPolynomial {
     std::array<double, T> tail;
 
     KOR_INLINE OpenSum open(double x) const { return {head.hi, x * polynomial(tail, x) + head.lo}; }
+    KOR_INLINE OpenSum open(DoubleDouble x) const { return open(x.hi + x.lo); }
     KOR_INLINE DoubleDouble operator()(double x) const { return open(x); }
     // The same times `factor`: one exact product, and what is left is small.
     KOR_INLINE OpenSum times(DoubleDouble factor, double x) const
@@ -243,6 +245,22 @@ struct NearConstantPolynomial {
         const double factor_1 = upper_half(factor.hi), factor_2 = (factor.hi - factor_1) + factor.lo;
         const double rest = x * polynomial(tail, x) + head.lo;
         return {factor_1 * head.hi, factor_1 * rest + factor_2 * (head.hi + rest)};
+    }
+};
+
+// head + x (slope + tail(x)), |slope x| below |head|, for errors of the size of x^2 2^-53: slope has but 26 bits, so that its
+// product with the upper half of x is exact, and tail[0] has the rest of it.
+template <std::size_t T>
+struct NearLinearPolynomial {
+    DoubleDouble head;
+    double slope;
+    std::array<double, T> tail;
+
+    KOR_INLINE OpenSum open(DoubleDouble x) const
+    {
+        const double whole = x.hi + x.lo, x_1 = upper_half(whole), x_2 = (x.hi - x_1) + x.lo;
+        const DoubleDouble lead = fast_two_sum(head.hi, slope * x_1);
+        return {lead.hi, lead.lo + (head.lo + (slope * x_2 + whole * polynomial(tail, whole)))};
     }
 };
 
@@ -285,14 +303,15 @@ struct BinadePieces {
 };
 
 // The same with pieces of one width, 1/PerUnit, from First on.
-template <double First, int PerUnit, std::size_t Pieces, std::size_t Terms>
+template <double First, int PerUnit, std::size_t Pieces, std::size_t Terms,
+          template <std::size_t> class Polynomial = NearConstantPolynomial>
 struct UniformPieces {
-    std::array<NearConstantPolynomial<Terms>, Pieces> piece;
+    std::array<Polynomial<Terms>, Pieces> piece;
 
     KOR_INLINE OpenSum open(DoubleDouble x) const
     {
         const auto [p, centre] = find(x.hi);
-        return p.open((x.hi - centre) + x.lo);
+        return p.open(DoubleDouble{x.hi - centre, x.lo});
     }
     KOR_INLINE DoubleDouble operator()(DoubleDouble x) const { return open(x); }
     KOR_INLINE OpenSum times(DoubleDouble factor, DoubleDouble x) const
@@ -303,7 +322,7 @@ struct UniformPieces {
 
   private:
     struct Found {
-        const NearConstantPolynomial<Terms> &piece;
+        const Polynomial<Terms> &piece;
         double centre;
     };
     KOR_INLINE Found find(double x) const

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "frame/constants.hpp"
+#include "frame/dispatch.hpp"
 #include "special/erf.hpp"
 #include "special/gamma.hpp"
 #include "special/incomplete_gamma_tables.hpp"
@@ -23,38 +24,43 @@ constexpr double kUniformFrom = 16.0;   // a: from here on the uniform expansion
 constexpr double kStepFrom = 1e250;     // a or x: P is a step at x = a
 constexpr double kExponentLimit = 2000; // beyond it exp(-t) is far out of range
 
-// A tail is `factor` 2^-k however small; its complement is one minus it.
-IncompleteGamma with_p(double p) { return {p, 1.0 - p}; }
-IncompleteGamma with_q(double q) { return {1.0 - q, q}; }
+// A tail is computed however small; its complement is one minus it.
+IncompleteGamma with_p(double p, double term) { return {p, 1.0 - p, term}; }
+IncompleteGamma with_q(double q, double term) { return {1.0 - q, q, term}; }
 
-// c_0(eta) + c_1(eta) / a + ...
-double expansion(double a, double eta)
+// Lane j: c_j(eta) + c_(j+4)(eta) u^4 + ..., from a block of four orders on.
+template <std::size_t Block = 0>
+KOR_INLINE Lanes orders(double fourth_power, double eta)
 {
-    const double u = 1.0 / a;
-    return std::apply(
-        [&](const auto &...c) {
-            double sum = 0.0, power = 1.0;
-            ((sum += power * polynomial(c, eta), power *= u), ...);
-            return sum;
-        },
-        tables::kUniformExpansion);
+    const Lanes here = polynomial(std::get<Block>(tables::kUniformExpansion), eta);
+    if constexpr (Block + 1 == std::tuple_size_v<decltype(tables::kUniformExpansion)>)
+        return here;
+    else
+        return here + fourth_power * orders<Block + 1>(fourth_power, eta);
+}
+
+// c_0(eta) + c_1(eta) u + ..., u = 1/a.
+KOR_INLINE double expansion(double u, double eta)
+{
+    const double square = u * u;
+    const Lanes c = orders(square * square, eta);
+    return (c[0] + u * c[1]) + square * (c[2] + u * c[3]);
 }
 
 // With z = sqrt(a) |eta| / sqrt 2, the smaller of P and Q is exp(-z^2) (erfcx(z) / 2 + side S / sqrt(2 pi a)).
-IncompleteGamma uniform(double a, bool upper, DoubleDouble deviance)
+KOR_CLONES IncompleteGamma uniform(double a, bool upper, DoubleDouble deviance)
 {
-    constexpr double kScaledErfcSeriesFrom = 0.5;
     const DoubleDouble z = deviance.hi > 0.0 ? sqrt(deviance) : DoubleDouble{0.0};
+    const double u = 1.0 / a, root_u = std::sqrt(u), per_root = tables::kInverseRootTwoPi * root_u;
     const double side = upper ? 1.0 : -1.0;
-    const double eta = side * z.hi * std::sqrt(2.0 / a);
-    const double correction = side * expansion(a, eta) / std::sqrt(tables::kTwoPi.hi * a);
+    const double correction = side * per_root * expansion(u, side * tables::kRootTwo * z.hi * root_u);
 
     const Exponential e = extended_exp(-deviance);
-    const DoubleDouble scaled = z.hi >= kScaledErfcSeriesFrom
-                                    ? extended_scaled_erfc(z)
-                                    : extended_exp(deviance).value * (1.0 - extended_erf_near_zero(z));
-    const double tail = times_power_of_two((e.value * (0.5 * scaled + correction)).rounded(), e.exponent);
-    return upper ? with_q(tail) : with_p(tail);
+    const DoubleDouble half = extended_scaled_erfc(z).scaled(0.5), sum = fast_two_sum(half.hi, correction);
+    const double tail = times_power_of_two((e.value * DoubleDouble{sum.hi, sum.lo + half.lo}).rounded(), e.exponent);
+    const double term =
+        times_power_of_two(e.value.hi * per_root * polynomial(tables::kInverseGammaStar, u), e.exponent);
+    return upper ? with_q(tail, term) : with_p(tail, term);
 }
 
 // P = factor (1 + x/(a+1) + x^2/((a+1)(a+2)) + ...).
@@ -68,7 +74,8 @@ IncompleteGamma by_series(double a, double x, double tol)
         if (term <= tol * (1.0 + sum)) break;
     }
     const Exponential factor = extended_poisson_term(a, x);
-    IncompleteGamma result = with_p(times_power_of_two((factor.value * two_sum(1.0, sum)).rounded(), factor.exponent));
+    IncompleteGamma result =
+        with_p(times_power_of_two((factor.value * two_sum(1.0, sum)).rounded(), factor.exponent), factor.rounded());
     result.converged = n <= kMaxSteps;
     return result;
 }
@@ -88,7 +95,7 @@ IncompleteGamma by_fraction(double a, double x, double tol)
     }
     const Exponential factor = extended_poisson_term(a, x);
     IncompleteGamma result =
-        with_q(times_power_of_two((factor.value * two_product(a, sum)).rounded(), factor.exponent));
+        with_q(times_power_of_two((factor.value * two_product(a, sum)).rounded(), factor.exponent), factor.rounded());
     result.converged = n <= kMaxSteps;
     return result;
 }
@@ -107,20 +114,15 @@ IncompleteGamma both_small(double a, double x, double tol)
     const double u =
         exponent.hi < -1.0 ? extended_exp(exponent).rounded() - 1.0 : std::expm1(exponent.hi) + exponent.lo;
     const double one_plus_u = extended_exp(exponent).rounded();
-    return {one_plus_u + one_plus_u * j, -u - j * one_plus_u};
+    return {one_plus_u + one_plus_u * j, -u - j * one_plus_u, one_plus_u * std::exp(-x)};
 }
 
 } // namespace
 
 DoubleDouble extended_deviance(double a, double x)
 {
-    constexpr double kSeriesBelow = 0x1p-6;
-    const DoubleDouble mu = two_sum(x, -a) / a;
-    if (std::fabs(mu.hi) < kSeriesBelow) {
-        const double cube = mu.hi * mu.hi * mu.hi * polynomial(tables::kLessLogSeries, mu.hi);
-        return a * (square(mu).scaled(0.5) + cube);
-    }
-    return a * (mu - extended_log(two_quotient(x, a)));
+    const DoubleDouble distance = two_sum(x, -a);
+    return deviance(a, distance, distance / a, [&] { return extended_log(two_quotient(x, a)); });
 }
 
 Exponential extended_poisson_term(double a, double x)
@@ -141,11 +143,11 @@ Exponential extended_poisson_term(double a, double x)
 IncompleteGamma incomplete_gamma(double a, double x, double tol)
 {
     if (!(tol >= kPrecision && tol <= 1.0)) tol = kPrecision;
-    if (x == 0.0) return {0.0, 1.0};
-    if (a > kStepFrom || x > kStepFrom) return a == x ? IncompleteGamma{0.5, 0.5} : x < a ? with_p(0.0) : with_q(0.0);
+    if (x == 0.0) return with_p(0.0, 0.0);
+    if (a > kStepFrom || x > kStepFrom) return a == x ? with_p(0.5, 0.0) : x < a ? with_p(0.0, 0.0) : with_q(0.0, 0.0);
     if (a >= kUniformFrom) {
         const DoubleDouble deviance = extended_deviance(a, x);
-        if (deviance.hi > kExponentLimit) return x < a ? with_p(0.0) : with_q(0.0);
+        if (deviance.hi > kExponentLimit) return x < a ? with_p(0.0, 0.0) : with_q(0.0, 0.0);
         if (deviance.hi <= 0.5 * a) return uniform(a, x > a, deviance);
     } else if (a < 1.0 && x < 1.0) {
         return both_small(a, x, tol);

@@ -47,18 +47,6 @@ StirlingRatio stirling_ratio(double a)
     return {a - a * extended_log({a}), gamma / sqrt(tables::kTwoPi * a)};
 }
 
-// a (mu - ln(1 + mu)); one_plus_mu() is called where mu is so near -1 that it tells too little.
-template <class OnePlusMu>
-DoubleDouble deviance(double a, DoubleDouble mu, const OnePlusMu &one_plus_mu)
-{
-    constexpr double kSeriesBelow = 0x1p-6;
-    if (std::fabs(mu.hi) < kSeriesBelow) {
-        const double cube = mu.hi * mu.hi * mu.hi * polynomial(tables::kLessLogSeries, mu.hi);
-        return a * (square(mu).scaled(0.5) + cube);
-    }
-    return a * (mu - extended_log(mu.hi > -0.5 ? 1.0 + mu : one_plus_mu()));
-}
-
 // ln Gamma(b + a) - ln Gamma(b) for a <= 1, relative to itself.
 DoubleDouble log_gamma_increment(double b, double a)
 {
@@ -257,8 +245,8 @@ BinomialTerm::BinomialTerm(double a, double b) : a_{a}, b_{b}
 
 DoubleDouble fall_of_powers(double a, double b, DoubleDouble x, DoubleDouble y, DoubleDouble surplus)
 {
-    return deviance(a, -surplus / a, [&] { return two_sum(a, b) * x / a; }) +
-           deviance(b, surplus / b, [&] { return two_sum(a, b) * y / b; });
+    return deviance(a, -surplus, -surplus / a, [&] { return extended_log(two_sum(a, b) * x / a); }) +
+           deviance(b, surplus, surplus / b, [&] { return extended_log(two_sum(a, b) * y / b); });
 }
 
 Exponential BinomialTerm::at(DoubleDouble x, DoubleDouble y) const
@@ -360,7 +348,6 @@ std::optional<PointOfLaw> BetaLaw::by_gamma_expansion(DoubleDouble x, DoubleDoub
 std::optional<Tails> BetaLaw::by_uniform_expansion(DoubleDouble fall, bool below) const
 {
     constexpr double kUnderflow = 750.0;
-    constexpr double kScaledErfcFrom = 0.5;
     const double small = std::fmin(a_, b_), large = std::fmax(a_, b_);
     const double n = small * (1.0 + small / large);
     if (small < kUniformFrom || 2.0 * fall.hi > kUniformWithin * kUniformWithin * n) return {};
@@ -375,9 +362,8 @@ std::optional<Tails> BetaLaw::by_uniform_expansion(DoubleDouble fall, bool below
     const double correction =
         side * uniform_correction(small / large, n, y) * std::exp(log_stirling) / std::sqrt(tables::kTwoPi.hi * n);
     const Exponential e = extended_exp(-fall);
-    const DoubleDouble scaled = z.hi >= kScaledErfcFrom ? extended_scaled_erfc(z)
-                                                        : extended_exp(fall).value * (1.0 - extended_erf_near_zero(z));
-    const double tail = times_power_of_two((e.value * (0.5 * scaled + correction)).rounded(), e.exponent);
+    const DoubleDouble half = extended_scaled_erfc(z).scaled(0.5);
+    const double tail = times_power_of_two((e.value * (half + correction)).rounded(), e.exponent);
     return below ? Tails{tail, 1.0 - tail} : Tails{1.0 - tail, tail};
 }
 

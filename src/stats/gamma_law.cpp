@@ -10,6 +10,13 @@ namespace kor::stats {
 
 namespace {
 
+special::IncompleteGamma gamma_ratios(double a, double x)
+{
+    constexpr double kLargeShape = 16.0, kVanishing = 1e-250; // together they leave nothing, nor could quotients tell
+    if (a >= kLargeShape && x < kVanishing) return {0.0, 1.0, 0.0};
+    return special::incomplete_gamma(a, x);
+}
+
 // Where P = x^a / Gamma(a + 1): a lower bound of the quantile, and sharp for small ones.
 double small_quantile(double a, double p) { return std::exp((std::log(p) + special::log_gamma(a + 1.0)) / a); }
 
@@ -44,9 +51,7 @@ double start_quantile(double a, Target target)
 
 Tails gamma_tails(double a, double x)
 {
-    constexpr double kLargeShape = 16.0, kVanishing = 1e-250; // together they leave nothing, nor could quotients tell
-    if (a >= kLargeShape && x < kVanishing) return {0.0, 1.0};
-    const special::IncompleteGamma ratios = special::incomplete_gamma(a, x);
+    const special::IncompleteGamma ratios = gamma_ratios(a, x);
     return {ratios.p, ratios.q};
 }
 
@@ -54,14 +59,10 @@ Quantile gamma_quantile(double a, Target target)
 {
     const double start = start_quantile(a, target);
     if (start == 0.0) return {0.0, true};
-    // The slope guides the steps, and need not be as good as the tails.
-    const double log_factor = special::log_gamma(a);
     return solve_tail(
-        [a, log_factor](double x) {
-            constexpr double kLogarithmsTo = 1e4;
-            const double slope = a <= kLogarithmsTo ? std::exp(a * std::log(x) - x - log_factor)
-                                                    : a * special::extended_poisson_term(a, x).rounded();
-            return PointOfLaw{gamma_tails(a, x), slope, a - x};
+        [a](double x) {
+            const special::IncompleteGamma at = gamma_ratios(a, x);
+            return PointOfLaw{{at.p, at.q}, a * at.term, a - x};
         },
         target, start);
 }

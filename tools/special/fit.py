@@ -82,6 +82,12 @@ def rounded(coefficients, heads):
     return ([double_double(c) for c in coefficients[:heads]], [float(c) for c in coefficients[heads:]])
 
 
+def rounded_near_linear(coefficients):
+    """Head, and the tail behind the short part of the slope, which is returned in the middle."""
+    slope, slope_low = short_pair(coefficients[1])
+    return [double_double(coefficients[0])], slope, [slope_low, *(float(c) for c in coefficients[2:])]
+
+
 def rounded_near_constant(coefficients):
     return ([short_pair(coefficients[0])], [float(c) for c in coefficients[1:]])
 
@@ -180,26 +186,32 @@ def grid(first, last, per_unit):
         yield mpf(k) / per_unit, mpf(k + 1) / per_unit
 
 
-def pieces(name, type_text, f, intervals, tolerance, comment, scale=None, centre_of=None):
-    """One NearConstantPolynomial a piece, all of one length."""
+def pieces(name, type_text, f, intervals, tolerance, comment, scale=None, centre_of=None, near_linear=False):
+    """One NearConstantPolynomial, or NearLinearPolynomial, a piece, all of one length."""
     intervals = list(intervals)
     centres = [centre_of(a, b) if centre_of else (a + b) / 2 for a, b in intervals]
     fits = [fit(f, a, b, tolerance, c, scale) for (a, b), c in zip(intervals, centres)]
     n = max(len(c) for c in fits)
     rows, worst = [], mpf(0)
     for (a, b), centre in zip(intervals, centres):
-        head, tail = rounded_near_constant(fit_terms(f, a, b, n, centre))
-        worst = max(worst, table_error(f, a, b, head, tail, centre, scale, 40))
-        rows.append("    {" + pair(head[0]) + ",\n     {" + lines([number(v) for v in tail], 6).lstrip() + "}}")
+        coefficients = fit_terms(f, a, b, n, centre)
+        if near_linear:
+            head, slope, tail = rounded_near_linear(coefficients)
+            whole, first = [mpf(slope) + mpf(tail[0]), *tail[1:]], f"{pair(head[0])}, {number(slope)}"
+        else:
+            head, tail = rounded_near_constant(coefficients)
+            whole, first = tail, pair(head[0])
+        worst = max(worst, table_error(f, a, b, head, whole, centre, scale, 40))
+        rows.append("    {" + first + ",\n     {" + lines([number(v) for v in tail], 6).lstrip() + "}}")
     return (f"// {comment}; error {mp.nstr(worst, 2)}\n"
             f"inline constexpr {type_text.format(count=len(rows), terms=n - 1)} {name} = {{{{{{\n" + ",\n".join(rows) + "}}};\n")
 
 
-def header(path, purpose, script, parts, system=()):
-    """Writes the header `path`; `system`: standard headers that it needs beside evaluate.hpp."""
+def header(path, purpose, script, parts, system=(), own=("special/evaluate.hpp",)):
+    """Writes the header `path`; `system`, `own`: standard headers and headers of the library that it needs."""
     standard = "".join(f"#include <{name}>\n" for name in system) + ("\n" if system else "")
     text = (f"// {purpose}\n// Made by tools/special/{script}: do not edit.\n#pragma once\n\n"
-            f"{standard}#include \"special/evaluate.hpp\"\n\n"
+            f"{standard}" + "".join(f"#include \"{name}\"\n" for name in own) + "\n"
             "// clang-format off\nnamespace kor::special::tables {\n\n" + "\n".join(parts) + "\n} // namespace kor::special::tables\n")
     with open(path, "w") as f:
         f.write(text)

@@ -42,6 +42,8 @@ parts = [
            "erf on [1/2, 6.5), eight pieces a binade"),
     pieces("kScaledErfc", "BinadePieces<0.5, 3, {count}, {terms}>", scaled_erfc, binade_centres(-1, 5, 3), tight,
            "exp(x^2) erfc(x) on [1/2, 32), eight pieces a binade"),
+    pieces("kScaledErfcNearZero", "UniformPieces<0.0, 16, {count}, {terms}>", scaled_erfc, grid(0, mpf(1) / 2, 16), tight,
+           "the same on [0, 1/2), pieces of width 1/16"),
     pair_constant("kRootHalf", mp.sqrt(mpf(1) / 2), "1 / sqrt 2"),
     pieces("kNormalCentral", "UniformPieces<0.0, 64, {count}, {terms}>", central_quantile_slope, grid(0, mpf(1) / 16, 64), tight,
            "x / half in half^2, P(0 < X < x) = half, half < 1/4, pieces of width 1/64"),

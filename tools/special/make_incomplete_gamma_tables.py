@@ -14,6 +14,7 @@ mp.dps = 80
 ORDERS = 14
 SERIES = 130
 SMALLEST_A = 16
+TIGHT = mpf(2) ** -57
 
 
 def reciprocal_mu():
@@ -51,19 +52,45 @@ def expansions():
     return c
 
 
+LANES = 4
+
+
 def table():
-    rows = []
+    """Polynomials of neighbouring orders side by side, short ones filled up with zeros."""
+    polynomials = []
     for k, series in enumerate(expansions()):
         f = lambda eta: mp.polyval(series[::-1], eta)
-        tolerance = mpf(2) ** -58 * mpf(SMALLEST_A) ** k
-        rows.append("    std::array{" + lines([number(c) for c in fit(f, -1, 1, tolerance, 0, lambda x: mpf(1), 45)], 8).lstrip() + "}")
-    return ("// c_0, c_1, ... in powers of eta, |eta| <= 1, each to 2^-58 of what a = 16 makes of it\n"
+        polynomials.append(fit(f, -1, 1, TIGHT * mpf(SMALLEST_A) ** k, 0, lambda x: mpf(1), 45))
+    rows = []
+    for first in range(0, ORDERS, LANES):
+        block = polynomials[first:first + LANES]
+        columns = [[c[j] if j < len(c) else 0 for c in block] + [0] * (LANES - len(block)) for j in range(max(map(len, block)))]
+        rows.append(f"    std::array<Lanes, {len(columns)}>{{{{\n" + lines([braces(c) for c in columns], 8) + "}}")
+    return ("// c_0, c_1, ... in powers of eta, |eta| <= 1, each to 2^-57 of what a = 16 makes of it, four at a time\n"
             "inline constexpr std::tuple kUniformExpansion = {\n" + ",\n".join(rows) + "};\n")
 
 
-log_series = fit(lambda m: (m - mp.log1p(m) - m ** 2 / 2) / m ** 3 if m else -mpf(1) / 3, -mpf(1) / 64, mpf(1) / 64, mpf(2) ** -54)
+def inverse_gamma_star(u):
+    """sqrt(2 pi / a) (a/e)^a / Gamma(a) as a function of u = 1/a."""
+    if u == 0:
+        return mpf(1)
+    a = 1 / u
+    return mp.exp((a - mpf(1) / 2) * mp.log(a) - a + mp.log(2 * mp.pi) / 2 - mp.loggamma(a))
+
+
+def deviance(mu):
+    """(mu - ln(1 + mu)) / mu^2."""
+    return (mu - mp.log1p(mu)) / mu ** 2 if mu else mpf(1) / 2
+
+
 header(OUT, "Tables of the incomplete gamma functions.", "make_incomplete_gamma_tables.py", [
     table(),
-    array("kLessLogSeries", log_series, "(mu - ln(1 + mu) - mu^2/2) / mu^3, |mu| <= 1/64"),
+    pieces("kDeviance", "UniformPieces<-0.75, 32, {count}, {terms}, NearLinearPolynomial>", deviance,
+           grid(mpf(-3) / 4, mpf(3) / 2, 32), mpf(2) ** -65, "(mu - ln(1 + mu)) / mu^2 on [-3/4, 3/2), pieces of width 1/32",
+           near_linear=True),
+    array("kInverseGammaStar", fit(inverse_gamma_star, 0, mpf(1) / SMALLEST_A, mpf(2) ** -45),
+          "sqrt(2 pi / a) (a/e)^a / Gamma(a) in 1/a, a >= 16; error 2^-45"),
     pair_constant("kTwoPi", 2 * mp.pi, "2 pi"),
-], ["tuple"])
+    f"inline constexpr double kInverseRootTwoPi = {number(1 / mp.sqrt(2 * mp.pi))};\n",
+    f"inline constexpr double kRootTwo = {number(mp.sqrt(2))};\n",
+], ["tuple"], ["special/lanes.hpp"])
