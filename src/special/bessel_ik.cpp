@@ -40,20 +40,20 @@ double large(double x)
 }
 
 // Next to 0 the value is -ln(x), or the pole, and a constant; the rest is small against them.
-KOR_INLINE DoubleDouble small_k0(double x)
+KOR_INLINE OpenSum small_k0(double x)
 {
     const double z = x * x;
-    const DoubleDouble log_x = log_of_small(x), constant = kSmallK0(z);
-    const DoubleDouble sum = fast_two_sum(-log_x.hi, constant.hi);
-    return fast_two_sum(sum.hi, sum.lo + ((constant.lo - log_x.lo) - log_x.hi * (z * polynomial(kSmallI0, z))));
+    const OpenSum log_x = open_log(x), constant = kSmallK0.open(z);
+    const DoubleDouble sum = fast_two_sum(-log_x.large, constant.large);
+    return {sum.hi, sum.lo + ((constant.small - log_x.small) - log_x.rounded() * (z * polynomial(kSmallI0, z)))};
 }
 
-KOR_INLINE DoubleDouble small_k1(double x)
+KOR_INLINE OpenSum small_k1(double x)
 {
     const double z = x * x;
-    const DoubleDouble pole = two_quotient(1.0, x);
+    const OpenSum pole = open_quotient({1.0}, {x});
     const double rest = x * (polynomial(kSmallK1, z) + std::log(x) * polynomial(kSmallI1, z));
-    return fast_two_sum(pole.hi, pole.lo + rest);
+    return {pole.large, pole.small + rest};
 }
 
 template <const auto &table, const auto &series>
@@ -68,14 +68,14 @@ KOR_INLINE double growing_scaled(double a)
     return a < table.end() ? table(a) : large_scaled<kHalfInversePi, series>(a);
 }
 
-template <DoubleDouble (*small)(double), const auto &table, const auto &series>
+template <OpenSum (*small)(double), const auto &table, const auto &series>
 KOR_INLINE double decaying(double x)
 {
     if (x < kSmallArgument) return small(x).rounded();
     return x < table.end() ? table(x) : large<kHalfPi, series, -1>(x);
 }
 
-template <DoubleDouble (*small)(double), const auto &table, const auto &series>
+template <OpenSum (*small)(double), const auto &table, const auto &series>
 KOR_INLINE double decaying_scaled(double x)
 {
     if (x < kSmallArgument) return times_small_exponential(small(x), x);

@@ -64,11 +64,9 @@ double large_y1(double x)
 double small_y0(double x)
 {
     const double z = x * x;
-    const DoubleDouble log_x = log_of_small(x), constant = kSmallY0(z);
-    const DoubleDouble product = two_product(kTwoOverPi.hi, log_x.hi);
-    const DoubleDouble sum = fast_two_sum(product.hi, constant.hi);
-    const double rest = product.lo + (kTwoOverPi.hi * log_x.lo + kTwoOverPi.lo * log_x.hi) + constant.lo;
-    return sum.hi + (sum.lo + (rest + product.hi * (z * polynomial(kSmallJ0, z))));
+    const OpenSum product = open_product(kTwoOverPi, open_log(x)), constant = kSmallY0.open(z);
+    const DoubleDouble sum = fast_two_sum(product.large, constant.large);
+    return sum.hi + (sum.lo + (product.small + constant.small + product.rounded() * (z * polynomial(kSmallJ0, z))));
 }
 
 double small_y1(double x)

@@ -1,4 +1,4 @@
-// What the Bessel, Airy and Kelvin functions share: constants, the logarithm for small arguments, and the factors that
+// What the Bessel, Airy and Kelvin functions share: constants, and the factors that
 // make up the functions for large ones. All of it takes care that one rounding decides the result, and that no division
 // or branch is there which a product can replace.
 #pragma once
@@ -19,33 +19,6 @@ inline constexpr DoubleDouble kInverseRootPi{0x1.20dd750429b6dp-1, 0x1.1ae3a914f
 
 // Where the piecewise polynomials of functions with a logarithm begin; below it their series hold.
 inline constexpr double kSmallArgument = 0.25;
-
-// ln(x) for 0 < x < 1/2, subnormal or not; relative error 2^-66. It is shorter than extended_log(): far from 1 the square of
-// what the table leaves needs no low part.
-KOR_INLINE DoubleDouble log_of_small(double x)
-{
-    using namespace tables;
-    constexpr std::uint64_t kFirstCell = 0x3fe6800000000000; // as in extended_log()
-    constexpr int kSubnormalShift = 54;
-    int shift = 0;
-    if (x < 0x1p-1022) [[unlikely]] {
-        x *= 0x1p54;
-        shift = kSubnormalShift;
-    }
-    const std::uint64_t bits = std::bit_cast<std::uint64_t>(x);
-    const std::uint64_t offset = bits - kFirstCell;
-    const int exponent = static_cast<int>(static_cast<std::int64_t>(offset) >> 52);
-    const LogCell &cell = kLogCells[(offset >> 45) % 128];
-    const double m = std::bit_cast<double>(bits - (static_cast<std::uint64_t>(exponent) << 52));
-    const double m_hi = upper_half(m), m_lo = m - m_hi;
-
-    const double first = m_hi * cell.factor - 1.0, second = m_lo * cell.factor; // exact: products of 26 and 11 bits
-    const double r = first + second, r_lo = (first - r) + second;
-    const double n = exponent - shift;
-    const DoubleDouble sum = fast_two_sum(n * kLn2High + cell.log_hi, r);
-    const double series = r * r * (r * polynomial(kLogSeries, r) - 0.5);
-    return fast_two_sum(sum.hi, sum.lo + (series + (r_lo + (n * kLn2Low + cell.log_lo))));
-}
 
 // (exp(x) - 1 - x) / x^2 for 0 <= x <= 1/4, relative error 2^-53.
 inline constexpr std::array<double, 11> kGrowthSeries = {1.0 / 2,       1.0 / 6,        1.0 / 24,       1.0 / 120,

@@ -39,13 +39,13 @@ constexpr DoubleDouble kThird{0x1.5555555555555p-2, 0x1.5555555555555p-56};
 constexpr DoubleDouble kFifth{0x1.999999999999ap-3, -0x1.999999999999ap-57};
 
 // Sums and products whose low part may be a few units of the high part's last place: it goes no further than this file.
-KOR_INLINE DoubleDouble open_sum(DoubleDouble x, DoubleDouble y)
+KOR_INLINE DoubleDouble loose_sum(DoubleDouble x, DoubleDouble y)
 {
     const DoubleDouble sum = two_sum(x.hi, y.hi);
     return {sum.hi, sum.lo + (x.lo + y.lo)};
 }
 
-KOR_INLINE DoubleDouble open_product(DoubleDouble x, DoubleDouble y)
+KOR_INLINE DoubleDouble loose_product(DoubleDouble x, DoubleDouble y)
 {
     const DoubleDouble product = two_product(x.hi, y.hi);
     return {product.hi, product.lo + (x.hi * y.lo + x.lo * y.hi)};
@@ -67,7 +67,7 @@ KOR_INLINE DoubleDouble over_root(DoubleDouble numerator, DoubleDouble radicand)
 KOR_INLINE DoubleDouble sum_of_products(const ExtendedLanes &roots)
 {
     const ExtendedLanes products = neighbour_products(roots);
-    return open_sum(open_sum(products[0], products[1]), products[2]);
+    return loose_sum(loose_sum(products[0], products[1]), products[2]);
 }
 
 // Polynomials in e2, one for each power of e3.
@@ -204,15 +204,15 @@ KOR_CLONES double carlson_rj(double x, double y, double z, double p)
         // With d = (sqrt p + sqrt x)(sqrt p + sqrt y)(sqrt p + sqrt z) and a = 2 sqrt p (p + lambda) the term RC(1, a/d) / d
         // is RC(d/a, 1) / sqrt(a d), which has no cancellation.
         const ExtendedLanes factors = sum(roots, root_p);
-        const DoubleDouble d = open_product(open_product(factors[0], factors[1]), factors[2]);
-        const DoubleDouble a = open_product(root_p.scaled(2.0), open_sum(lambda, w[3]));
+        const DoubleDouble d = loose_product(loose_product(factors[0], factors[1]), factors[2]);
+        const DoubleDouble a = loose_product(root_p.scaled(2.0), loose_sum(lambda, w[3]));
         const double reciprocal = 1.0 / a.hi, ratio = d.hi * reciprocal;
         const DoubleDouble rc = rc_of_ratio(ratio + (d.lo - ratio * a.lo) * reciprocal);
-        const DoubleDouble term = over_root(rc, open_product(a, d)).scaled(scale);
-        total = open_sum(total, term);
+        const DoubleDouble term = over_root(rc, loose_product(a, d)).scaled(scale);
+        total = loose_sum(total, term);
 
         w = quarter_of_sum(w, lambda);
-        mean = open_sum(mean, lambda).scaled(0.25);
+        mean = loose_sum(mean, lambda).scaled(0.25);
         scale *= 0.25;
     }
     const double per_mean = scale / mean.hi;

@@ -212,7 +212,7 @@ struct ExtendedPolynomial {
     }
 };
 
-// A sum whose rounding waits: until it is wanted as one double, or as two.
+// A sum whose rounding waits: until it is wanted as one double, or as two. `small` is no rounding error: products need both.
 struct OpenSum {
     double large, small;
 
@@ -220,13 +220,21 @@ struct OpenSum {
     KOR_INLINE constexpr operator DoubleDouble() const { return fast_two_sum(large, small); }
 };
 
-// 1 / x by one division: its upper half, and the rest from the remainder that this leaves, which is exact.
-KOR_INLINE constexpr OpenSum open_reciprocal(DoubleDouble x)
+// a b: the upper halves exactly, and the rest.
+KOR_INLINE constexpr OpenSum open_product(DoubleDouble a, DoubleDouble b)
 {
-    const double quotient = 1.0 / x.hi, upper = upper_half(quotient);
-    const double x_1 = upper_half(x.hi), x_2 = x.hi - x_1;
-    const double remainder = ((1.0 - upper * x_1) - upper * x_2) - upper * x.lo;
-    return {upper, remainder * quotient};
+    const double a_1 = upper_half(a.hi), a_2 = (a.hi - a_1) + a.lo;
+    const double b_1 = upper_half(b.hi), b_2 = (b.hi - b_1) + b.lo;
+    return {a_1 * b_1, a_1 * b_2 + a_2 * b.hi};
+}
+
+// a / b by one division: the upper half of the quotient, and the rest from the remainder that this leaves, which is exact.
+KOR_INLINE constexpr OpenSum open_quotient(DoubleDouble a, DoubleDouble b)
+{
+    const double reciprocal = 1.0 / b.hi, quotient = upper_half(a.hi * reciprocal);
+    const double b_1 = upper_half(b.hi), b_2 = b.hi - b_1;
+    const double remainder = ((a.hi - quotient * b_1) - quotient * b_2) + (a.lo - quotient * b.lo);
+    return {quotient, remainder * reciprocal};
 }
 
 // head + x tail(x), for functions that stay near their constant term: with |x tail(x)| below |head| / 8 the sum is good to

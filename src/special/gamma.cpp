@@ -20,21 +20,21 @@ KOR_INLINE double plain_stirling_correction(double x)
 
 // ln Gamma(x) = (x - 1/2) ln x - x + ln sqrt(2 pi) + correction, x >= 12; absolute error 2^-59 up to x = 172. The product of
 // the upper halves of its factors is exact, and the other products are small beside it.
-KOR_INLINE DoubleDouble stirling(DoubleDouble x, DoubleDouble log_x)
+KOR_INLINE DoubleDouble stirling(DoubleDouble x, OpenSum log_x)
 {
     const double factor = x.hi - 0.5; // exact wherever the 1/2 counts
     const double factor_1 = upper_half(factor), factor_2 = (factor - factor_1) + x.lo;
-    const double log_1 = upper_half(log_x.hi), log_2 = (log_x.hi - log_1) + log_x.lo;
+    const double log_1 = upper_half(log_x.large), log_2 = (log_x.large - log_1) + log_x.small;
 
     const double main_product = factor_1 * log_1;
-    const double rest = factor_1 * log_2 + factor_2 * log_x.hi - x.lo;
+    const double rest = factor_1 * log_2 + factor_2 * log_x.rounded() - x.lo;
     const DoubleDouble less_x = fast_two_sum(main_product, -x.hi);
     const DoubleDouble sum = fast_two_sum(less_x.hi, tables::kLogRootTwoPi.hi);
     const double correction = plain_stirling_correction(x.hi) + tables::kLogRootTwoPi.lo;
     return fast_two_sum(sum.hi, (rest + (less_x.lo + sum.lo)) + correction);
 }
 
-KOR_INLINE DoubleDouble stirling(double x) { return stirling({x}, extended_log(x)); }
+KOR_INLINE DoubleDouble stirling(double x) { return stirling({x}, open_log(x)); }
 
 // ln Gamma(1 + d) is zero at 0 and 1; without a branch.
 KOR_INLINE double distance_from_zero(double d) { return d - static_cast<double>(d >= 0.5); }
@@ -42,11 +42,10 @@ KOR_INLINE double distance_from_zero(double d) { return d - static_cast<double>(
 // -pi / (x sin(pi x) Gamma(-x)).
 double reflected(double x)
 {
-    const DoubleDouble x_sine = extended_sine_pi(x) * -x;
-    if (-x < kStirlingFrom)
-        return (tables::kPi / static_cast<DoubleDouble>(tables::kGamma.times(x_sine, {-x}))).rounded();
+    const DoubleDouble x_sine = open_product(extended_sine_pi(x), {-x});
+    if (-x < kStirlingFrom) return open_quotient(tables::kPi, tables::kGamma.times(x_sine, {-x})).rounded();
     const Exponential e = extended_exp(-stirling(-x));
-    return times_power_of_two((tables::kPi * e.value / x_sine).rounded(), e.exponent);
+    return times_power_of_two(open_quotient(open_product(tables::kPi, e.value), x_sine).rounded(), e.exponent);
 }
 
 } // namespace
@@ -56,7 +55,9 @@ DoubleDouble stirling_correction(double x) { return tables::kStirling(1.0 / (x *
 DoubleDouble extended_gamma(DoubleDouble x)
 {
     if (x.hi < kStirlingFrom) return tables::kGamma(x);
-    const Exponential e = extended_exp(stirling(x, extended_log(x)));
+    OpenSum log_x = open_log(x.hi);
+    log_x.small += x.lo / x.hi;
+    const Exponential e = extended_exp(stirling(x, log_x));
     return {times_power_of_two(e.value.hi, e.exponent), times_power_of_two(e.value.lo, e.exponent)};
 }
 
@@ -65,7 +66,7 @@ double gamma(double x)
     if (x >= kStirlingFrom) return extended_exp(stirling(x)).rounded();
     if (x >= 0.5) return tables::kGamma.open({x}).rounded();
     if (x < -0.5) return reflected(x);
-    return (tables::kGamma(fast_two_sum(1.0, x)) / x).rounded();
+    return open_quotient(tables::kGamma(fast_two_sum(1.0, x)), {x}).rounded();
 }
 
 DoubleDouble extended_log_gamma_one_plus(double d)
@@ -83,8 +84,8 @@ double log_gamma(double x)
         return tables::kLogGammaFactor.times({distance_from_zero(d)}, {d}).rounded();
     }
     if (x >= kLogarithmBelow) return tables::kLogGammaBelowHalf.open({x}).rounded();
-    const DoubleDouble log_x = extended_log(x);
-    return -log_x.hi + (tables::kLogGammaFactor.times({x}, {x}).rounded() - log_x.lo);
+    const OpenSum log_x = open_log(x);
+    return -log_x.large + (tables::kLogGammaFactor.times({x}, {x}).rounded() - log_x.small);
 }
 
 DoubleDouble extended_log_gamma(double x)

@@ -47,9 +47,9 @@ double large_kei(double x)
 double small_ker(double x)
 {
     const double z = x * x, w = z * z;
-    const DoubleDouble log_x = log_of_small(x), constant = kSmallKer(z);
-    const DoubleDouble sum = fast_two_sum(-log_x.hi, constant.hi);
-    return sum.hi + (sum.lo + ((constant.lo - log_x.lo) - log_x.hi * (w * polynomial(kSmallBer, w))));
+    const OpenSum log_x = open_log(x), constant = kSmallKer.open(z);
+    const DoubleDouble sum = fast_two_sum(-log_x.large, constant.large);
+    return sum.hi + (sum.lo + ((constant.small - log_x.small) - log_x.rounded() * (w * polynomial(kSmallBer, w))));
 }
 
 double small_bei(double x)

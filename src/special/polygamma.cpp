@@ -80,7 +80,7 @@ KOR_INLINE OpenSum open_trigamma(DoubleDouble x)
 {
     using namespace tables;
     if (x.hi < kTableEnds) return kTrigamma.open(x);
-    const OpenSum reciprocal = open_reciprocal(x);
+    const OpenSum reciprocal = open_quotient({1.0}, x);
     const double u = reciprocal.rounded(), square = u * u;
     return {reciprocal.large, reciprocal.small + square * (0.5 + u * polynomial(kTrigammaTail, square))};
 }
@@ -141,7 +141,7 @@ T cotangent_derivative(T c, T one_plus_square, Integer k)
         return (other - tables::kPi * (cosine / sine)).rounded();
     }
     // psi(x) = psi(1 + x) - 1/x
-    const OpenSum pole = open_reciprocal({x}), next = open_digamma(fast_two_sum(1.0, x));
+    const OpenSum pole = open_quotient({1.0}, {x}), next = open_digamma(fast_two_sum(1.0, x));
     const DoubleDouble sum = two_sum(next.large, -pole.large);
     return sum.hi + (sum.lo + (next.small - pole.small));
 }
@@ -151,7 +151,7 @@ T cotangent_derivative(T c, T one_plus_square, Integer k)
 {
     if (x < -0.5) return reflected(x, 1);
     // psi'(x) = 1/x^2 + psi'(1 + x); the square of the upper half of 1/x is exact.
-    const OpenSum pole = open_reciprocal({x}), next = open_trigamma(fast_two_sum(1.0, x));
+    const OpenSum pole = open_quotient({1.0}, {x}), next = open_trigamma(fast_two_sum(1.0, x));
     const DoubleDouble sum = two_sum(pole.large * pole.large, next.large);
     return sum.hi + (sum.lo + (pole.small * (2.0 * pole.large + pole.small) + next.small));
 }
