@@ -133,7 +133,7 @@ KOR_INLINE OpenSum join_open_log(const LogReduction &x)
 // ln(x), x positive and finite.
 KOR_INLINE OpenSum open_log(double x) { return join_open_log(reduce_for_log(x)); }
 
-// ln(1 + x), -1 < x < 2^27. With f = factor 2^-exponent from the cell of the rounded sum, (1 + x) f = 1 + (f - 1) + x f, where
+// ln(1 + x), -1 < x < 2^36. With f = factor 2^-exponent from the cell of the rounded sum, (1 + x) f = 1 + (f - 1) + x f, where
 // the upper half of x goes into r1: f has so few bits that products and sums are exact.
 KOR_INLINE OpenSum open_log_one_plus(double x)
 {

@@ -19,7 +19,7 @@ using Cplx = std::complex<double>;
 constexpr Integer kLargestRealOrder = 6;
 constexpr Integer kLargestComplexOrder = 4;
 constexpr double kFactorial[] = {1, 1, 2, 6, 24, 120, 720};
-constexpr double kTableEnds = 16.0;         // of digamma and trigamma
+constexpr double kTableEnds = 64.0;         // of digamma and trigamma
 constexpr double kSeriesFrom = 16.0;        // real argument: twelve terms give the last bit for k = 6
 constexpr double kComplexSeriesFrom = 20.0; // modulus: near the imaginary axis the terms count more
 constexpr double kOrdinary = 1e40;          // from its reciprocal on no order overflows, and up to it none underflows

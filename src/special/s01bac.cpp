@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double kLarge = 0x1p27; // from here on 1/x^2 is nothing beside ln x
+constexpr double kLarge = 0x1p36; // from here on 1/x^2 is nothing beside ln x
 
 // ln(1 + x) = ln x + 1/x - ...
 double log_one_plus_large(double x)
