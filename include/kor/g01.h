@@ -401,7 +401,8 @@ double g01efc(Integer tail, double g, double a, double b, KorError *fail);
 /// As good as the condition of the problem allows: the tail of the result is `p` within a few units in the last place.
 /// \par Method
 /// Halley's method for the logarithm of the smaller tail against the logarithm of the variable; log-concavity keeps
-/// the steps from going astray.
+/// the steps from going astray. From shape 16 on it starts from the inverse of the uniform expansion of the tail, and one
+/// step does: N. M. Temme, Math. Comp. 58 (1992) 755-764.
 /// \par Thread safety
 /// Safe.
 /// \par See also

@@ -21,8 +21,8 @@ KOR_BEGIN_DECLS
 /// \par Accuracy
 /// Within 0.51 ulp everywhere.
 /// \par Method
-/// 1 + x is formed as two doubles without error; a table of logarithms brings it near 1, and a short series in two
-/// doubles does the rest.
+/// A factor from a table, with its logarithm, brings 1 + x near 1, the two terms being multiplied without error; a short
+/// series does the rest.
 /// \par Thread safety
 /// Safe: no state.
 /// \par See also

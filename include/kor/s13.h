@@ -21,8 +21,8 @@ KOR_BEGIN_DECLS
 /// \par Accuracy
 /// Within 0.8 ulp, 1 ulp where the result is subnormal (x > 701.8).
 /// \par Method
-/// Below 1/4, E1(x) + ln x as a polynomial; up to 16, exp(x) E1(x) on pieces; beyond, x exp(x) E1(x) as a polynomial
-/// in 1/x; exponential and logarithm with low parts.
+/// Below 1/16, E1(x) + ln x as a polynomial; up to 1, E1(x) as polynomials on pieces; beyond, exp(x) E1(x) likewise;
+/// exponential and logarithm with low parts.
 /// \par Thread safety
 /// Safe: no state.
 /// \par Example
