@@ -24,7 +24,7 @@ KOR_BEGIN_DECLS
 /// - NE_REAL_ARG_GT: `x` or |y| is greater than x02alc() / 5.
 ///
 /// \par Accuracy
-/// Within 0.8 ulp.
+/// Within 0.9 ulp, within 1.3 ulp for y < 0.
 /// \par Method
 /// A function of x/y, tabulated as polynomials on pieces, divided by sqrt y in numbers of two doubles; logarithms for
 /// large x/y.
@@ -85,9 +85,9 @@ double s21bbc(double x, double y, double z, KorError *fail);
 /// - NE_REAL_ARG_GT: `x`, `y` or `z` is greater than 5.1e202 (the value might underflow).
 ///
 /// \par Accuracy
-/// Within 0.8 ulp.
+/// Within 1.3 ulp.
 /// \par Method
-/// Duplication in numbers of two doubles, then a series to the seventh order. B. C. Carlson, Numer. Math. 33 (1979)
+/// Duplication in numbers of two doubles, then a series to the eleventh order. B. C. Carlson, Numer. Math. 33 (1979)
 /// 1-16; Numer. Algorithms 10 (1995) 13-26.
 /// \par Thread safety
 /// Safe: no state.
@@ -119,9 +119,9 @@ double s21bcc(double x, double y, double z, KorError *fail);
 /// - NE_REAL_ARG_GT: `x`, `y`, `z` or |r| is greater than 9.9e101 (the value might underflow).
 ///
 /// \par Accuracy
-/// Within 1 ulp for r > 0. The principal value is a difference that vanishes somewhere: a few eps of its terms.
+/// Within 1.4 ulp for r > 0. The principal value is a difference that vanishes somewhere: a few eps of its terms.
 /// \par Method
-/// Duplication in numbers of two doubles with RC, then a series to the seventh order. B. C. Carlson, Numer. Math. 33
+/// Duplication in numbers of two doubles with RC, then a series to the eleventh order. B. C. Carlson, Numer. Math. 33
 /// (1979) 1-16; Numer. Algorithms 10 (1995) 13-26.
 /// \par Thread safety
 /// Safe: no state.

@@ -19,7 +19,8 @@ namespace kor::special {
 
 namespace {
 
-constexpr double kNear = 0.05; // relative distances from the mean at which the series, to the 11th order, serve
+// Relative distances from the mean at which the series serve: of RF to the 15th order, of RD and RJ to the 11th.
+constexpr double kNearForRf = 0.1, kNearForRj = 0.05;
 constexpr int kMaxSteps = 600; // a step takes two binades of at most 2100 between the arguments
 
 // RD and RJ, of degree -3/2, are scaled to keep their products in range: arguments by 4^k, the value by 2^3k.
@@ -63,6 +64,8 @@ KOR_INLINE DoubleDouble over_root(DoubleDouble numerator, DoubleDouble radicand)
     return {quotient, left * reciprocal};
 }
 
+KOR_INLINE double distance(DoubleDouble mean, double w) { return (mean.hi - w) + mean.lo; }
+
 // lambda, from the roots of the arguments.
 KOR_INLINE DoubleDouble sum_of_products(const ExtendedLanes &roots)
 {
@@ -74,12 +77,11 @@ KOR_INLINE DoubleDouble sum_of_products(const ExtendedLanes &roots)
 template <class Table, class T, std::size_t Power = 0>
 KOR_INLINE T in_two_variables(const Table &table, T e2, T e3)
 {
-    const auto &row = std::get<Power>(table);
-    T sum{row.back()};
-    for (std::size_t i = row.size() - 1; i-- > 0;) sum = sum * e2 + row[i];
+    const T sum{polynomial(std::get<Power>(table), e2)};
     if constexpr (Power + 1 < std::tuple_size_v<Table>)
-        sum += e3 * in_two_variables<Table, T, Power + 1>(table, e2, e3);
-    return sum;
+        return sum + e3 * in_two_variables<Table, T, Power + 1>(table, e2, e3);
+    else
+        return sum;
 }
 
 // The series about equal arguments, less their constant terms 1.
@@ -138,11 +140,11 @@ double carlson_rc_principal(double x, double y)
 KOR_CLONES double carlson_rf(double x, double y, double z)
 {
     const DoubleDouble mean = (two_sum(x, y) + z) * kThird;
-    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z;
+    const double far_x = distance(mean, x), far_y = distance(mean, y), far_z = distance(mean, z);
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z)});
     ExtendedLanes w{{x, y, z, mean.hi}, {0.0, 0.0, 0.0, mean.lo}};
     double scale = 1.0; // 4^-n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * w.hi[3]; ++n) {
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearForRf * w.hi[3]; ++n) {
         w = quarter_of_sum(w, sum_of_products(sqrt(w)));
         scale *= 0.25;
     }
@@ -159,12 +161,12 @@ KOR_CLONES double carlson_rd(double x, double y, double z)
         return carlson_rd(x * factor, y * factor, z * factor) * power * power * power;
     }
     const DoubleDouble mean = (two_sum(x, y) + two_sum(2.0 * z, z)) * kFifth;
-    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z;
+    const double far_x = distance(mean, x), far_y = distance(mean, y), far_z = distance(mean, z);
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z)});
     ExtendedLanes w{{x, y, z, mean.hi}, {0.0, 0.0, 0.0, mean.lo}};
     DoubleDouble sum{0.0};
     double scale = 1.0, reciprocal_scale = 1.0; // 4^-n, 4^n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * w.hi[3]; ++n) {
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearForRj * w.hi[3]; ++n) {
         const ExtendedLanes roots = sqrt(w);
         const DoubleDouble lambda = sum_of_products(roots), root_z = roots[2];
         // 4^-n / (sqrt z (z + lambda)): the denominator with its rounding errors, the quotient without its own.
@@ -193,12 +195,13 @@ KOR_CLONES double carlson_rj(double x, double y, double z, double p)
         return carlson_rj(x * factor, y * factor, z * factor, p * factor) * power * power * power;
     }
     DoubleDouble mean = (two_sum(x, y) + two_sum(z, 2.0 * p)) * kFifth;
-    const double far_x = mean.hi - x, far_y = mean.hi - y, far_z = mean.hi - z, far_p = mean.hi - p;
+    const double far_x = distance(mean, x), far_y = distance(mean, y), far_z = distance(mean, z),
+                 far_p = distance(mean, p);
     const double farthest = std::max({std::fabs(far_x), std::fabs(far_y), std::fabs(far_z), std::fabs(far_p)});
     ExtendedLanes w{{x, y, z, p}, {0.0, 0.0, 0.0, 0.0}};
     DoubleDouble total{0.0};
     double scale = 1.0; // 4^-n
-    for (int n = 0; n < kMaxSteps && farthest * scale >= kNear * mean.hi; ++n) {
+    for (int n = 0; n < kMaxSteps && farthest * scale >= kNearForRj * mean.hi; ++n) {
         const ExtendedLanes roots = sqrt(w);
         const DoubleDouble lambda = sum_of_products(roots), root_p = roots[3];
         // With d = (sqrt p + sqrt x)(sqrt p + sqrt y)(sqrt p + sqrt z) and a = 2 sqrt p (p + lambda) the term RC(1, a/d) / d
@@ -246,7 +249,7 @@ bool carlson_rf(Cplx x, Cplx y, Cplx z, Cplx &value)
     Cplx mean = first_mean;
     double scale = 1.0;
     int n = 0;
-    for (; n < kMaxSteps && farthest * scale >= kNear * std::abs(mean); ++n) {
+    for (; n < kMaxSteps && farthest * scale >= kNearForRf * std::abs(mean); ++n) {
         const Cplx rx = std::sqrt(x), ry = std::sqrt(y), rz = std::sqrt(z);
         const Cplx lambda = rx * ry + rz * (rx + ry);
         x = (x + lambda) * 0.25;
@@ -268,7 +271,7 @@ bool carlson_rd(Cplx x, Cplx y, Cplx z, Cplx &value)
     Cplx mean = first_mean, sum{};
     double scale = 1.0;
     int n = 0;
-    for (; n < kMaxSteps && farthest * scale >= kNear * std::abs(mean); ++n) {
+    for (; n < kMaxSteps && farthest * scale >= kNearForRj * std::abs(mean); ++n) {
         const Cplx rx = std::sqrt(x), ry = std::sqrt(y), rz = std::sqrt(z);
         const Cplx lambda = rx * ry + rz * (rx + ry);
         sum += scale / (rz * (z + lambda));

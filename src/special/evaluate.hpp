@@ -25,8 +25,8 @@ namespace kor::special {
 namespace detail {
 
 // c[First] + c[First + 1] x + ... with Count terms; powers[k] holds x^(2^k).
-template <std::size_t First, std::size_t Count, class T, std::size_t N>
-KOR_INLINE constexpr T estrin(const std::array<T, N> &c, const double *powers)
+template <std::size_t First, std::size_t Count, class T, std::size_t N, class X>
+KOR_INLINE constexpr auto estrin(const std::array<T, N> &c, const X *powers)
 {
     if constexpr (Count == 1) {
         return c[First];
@@ -40,13 +40,13 @@ KOR_INLINE constexpr T estrin(const std::array<T, N> &c, const double *powers)
 } // namespace detail
 
 // c[0] + c[1] x + ... + c[N-1] x^(N-1), terms combined in pairs: the length of the chain is log2(N), not N. T is double, or
-// several of them side by side.
-template <class T, std::size_t N>
-KOR_INLINE constexpr T polynomial(const std::array<T, N> &c, double x)
+// several of them side by side; x may be complex.
+template <class T, std::size_t N, class X>
+KOR_INLINE constexpr auto polynomial(const std::array<T, N> &c, X x)
 {
     static_assert(N > 0);
     constexpr std::size_t levels = std::bit_width(N - 1) + (N == 1);
-    double powers[levels] = {x};
+    X powers[levels] = {x};
     for (std::size_t k = 1; k < levels; ++k) powers[k] = powers[k - 1] * powers[k - 1];
     return detail::estrin<0, N>(c, powers);
 }

@@ -33,12 +33,12 @@ def coefficient(powers, numerator, denominator):
     return value
 
 
-ORDER = 11
+RF_ORDER, RJ_ORDER = 15, 11
 
 
-def series(name, numerator, denominator, text, fourth=0, fifth=0):
+def series(name, numerator, denominator, order, text, fourth=0, fifth=0):
     """A tuple of arrays: powers of E3, each with its powers of E2, times E4^fourth E5^fifth; less the constant term 1."""
-    rows, left = [], ORDER - 4 * fourth - 5 * fifth
+    rows, left = [], order - 4 * fourth - 5 * fifth
     for j in range(left // 3 + 1):
         row = [coefficient({2: i, 3: j, 4: fourth, 5: fifth}, numerator, denominator) if i + j + fourth + fifth else mpf(0)
                for i in range((left - 3 * j) // 2 + 1)]
@@ -51,11 +51,11 @@ header(OUT, "Tables of Carlson's elliptic integrals.", "make_carlson_tables.py",
            "RC(r, 1) on [1/2, 1024), four pieces a binade"),
     pieces("kRcBelow", "UniformPieces<0.0, 16, {count}, {terms}>", rc_below, grid(0, mpf("0.75"), 16), TIGHT,
            "RC(c^2, 1) on [0, 3/4), pieces of width 1/16"),
-    series("kRfSeries", 1, 1, "RF: an array of powers of E2 for each power of E3, to the 11th order"),
-    series("kRjSeries", 3, 3, "RJ likewise: the terms without E4 and E5"),
-    series("kRjSeries4", 3, 3, "RJ: the factor of E4", 1, 0),
-    series("kRjSeries5", 3, 3, "RJ: the factor of E5", 0, 1),
-    series("kRjSeries44", 3, 3, "RJ: the factor of E4^2", 2, 0),
-    series("kRjSeries45", 3, 3, "RJ: the factor of E4 E5", 1, 1),
-    series("kRjSeries55", 3, 3, "RJ: the factor of E5^2", 0, 2),
+    series("kRfSeries", 1, 1, RF_ORDER, "RF: an array of powers of E2 for each power of E3, to the 15th order"),
+    series("kRjSeries", 3, 3, RJ_ORDER, "RJ likewise, to the 11th order: the terms without E4 and E5"),
+    series("kRjSeries4", 3, 3, RJ_ORDER, "RJ: the factor of E4", 1, 0),
+    series("kRjSeries5", 3, 3, RJ_ORDER, "RJ: the factor of E5", 0, 1),
+    series("kRjSeries44", 3, 3, RJ_ORDER, "RJ: the factor of E4^2", 2, 0),
+    series("kRjSeries45", 3, 3, RJ_ORDER, "RJ: the factor of E4 E5", 1, 1),
+    series("kRjSeries55", 3, 3, RJ_ORDER, "RJ: the factor of E5^2", 0, 2),
 ], ["tuple"])
