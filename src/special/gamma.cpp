@@ -26,12 +26,11 @@ KOR_INLINE DoubleDouble stirling(DoubleDouble x, OpenSum log_x)
     const double factor_1 = upper_half(factor), factor_2 = (factor - factor_1) + x.lo;
     const double log_1 = upper_half(log_x.large), log_2 = (log_x.large - log_1) + log_x.small;
 
-    const double main_product = factor_1 * log_1;
+    const DoubleDouble offset = fast_two_sum(-x.hi, tables::kLogRootTwoPi.hi);
+    const double correction = plain_stirling_correction(x.hi) + (tables::kLogRootTwoPi.lo + offset.lo);
+    const DoubleDouble sum = fast_two_sum(factor_1 * log_1, offset.hi);
     const double rest = factor_1 * log_2 + factor_2 * log_x.rounded() - x.lo;
-    const DoubleDouble less_x = fast_two_sum(main_product, -x.hi);
-    const DoubleDouble sum = fast_two_sum(less_x.hi, tables::kLogRootTwoPi.hi);
-    const double correction = plain_stirling_correction(x.hi) + tables::kLogRootTwoPi.lo;
-    return fast_two_sum(sum.hi, (rest + (less_x.lo + sum.lo)) + correction);
+    return fast_two_sum(sum.hi, (rest + sum.lo) + correction);
 }
 
 KOR_INLINE DoubleDouble stirling(double x) { return stirling({x}, open_log(x)); }

@@ -21,7 +21,6 @@ namespace {
 
 constexpr int kMaxSteps = 600;
 constexpr double kUniformFrom = 16.0;   // a: from here on the uniform expansion, while |eta| <= 1
-constexpr double kStepFrom = 1e250;     // a or x: P is a step at x = a
 constexpr double kExponentLimit = 2000; // beyond it exp(-t) is far out of range
 
 // A tail is computed however small; its complement is one minus it.
@@ -144,7 +143,10 @@ IncompleteGamma incomplete_gamma(double a, double x, double tol)
 {
     if (!(tol >= kPrecision && tol <= 1.0)) tol = kPrecision;
     if (x == 0.0) return with_p(0.0, 0.0);
-    if (a > kStepFrom || x > kStepFrom) return a == x ? with_p(0.5, 0.0) : x < a ? with_p(0.0, 0.0) : with_q(0.0, 0.0);
+    if (a > kGammaStepFrom || x > kGammaStepFrom)
+        return a == x  ? with_p(0.5, tables::kInverseRootTwoPi / std::sqrt(a))
+               : x < a ? with_p(0.0, 0.0)
+                       : with_q(0.0, 0.0);
     if (a >= kUniformFrom) {
         const DoubleDouble deviance = extended_deviance(a, x);
         if (deviance.hi > kExponentLimit) return x < a ? with_p(0.0, 0.0) : with_q(0.0, 0.0);

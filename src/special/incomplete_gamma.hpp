@@ -16,6 +16,8 @@ struct IncompleteGamma {
     bool converged = true;
 };
 
+inline constexpr double kGammaStepFrom = 1e250; // beyond it in a or x, P is a step at x = a
+
 // a > 0, x >= 0, infinities included. Series and continued fractions stop at the relative accuracy `tol`; a value out of
 // [2^-53, 1] stands for 2^-53. Never more than 600 terms.
 IncompleteGamma incomplete_gamma(double a, double x, double tol = 0.0);

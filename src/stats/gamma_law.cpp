@@ -41,7 +41,8 @@ double start_quantile(double a, Target target)
     double start = 0.0;
     if (a > 0.5) {
         const double below = normal_quantile(target.probability), z = target.upper ? -below : below;
-        if (a >= kLargeShape && z * z <= a) return inverse_uniform_expansion(a, z / std::sqrt(a));
+        if (a >= kLargeShape && a <= special::kGammaStepFrom && z * z <= a)
+            return inverse_uniform_expansion(a, z / std::sqrt(a));
         // Wilson and Hilferty: the cube root is nearly normal.
         const double c = 1.0 / (9.0 * a);
         const double cube_root = 1.0 - c + z * std::sqrt(c);

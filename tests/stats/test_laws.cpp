@@ -160,6 +160,16 @@ TEST(Laws, QuantilesOfTheLeastProbability)
     }
 }
 
+// With so many degrees of freedom the law is a step.
+TEST(Laws, ChiSquaredOfBoundlessDegreesOfFreedom)
+{
+    Record fail;
+    for (const double df : {1e300, kInfinity}) {
+        EXPECT_EQ(g01fcc(0.3, df, &fail), df);
+        EXPECT_SUCCESS(fail);
+    }
+}
+
 // Closed forms: t with 1 and 2 degrees of freedom, chi-squared with 2, the uniform law.
 TEST(Laws, ClosedForms)
 {
