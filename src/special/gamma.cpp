@@ -44,7 +44,8 @@ double reflected(double x)
     const DoubleDouble x_sine = open_product(extended_sine_pi(x), {-x});
     if (-x < kStirlingFrom) return open_quotient(tables::kPi, tables::kGamma.times(x_sine, {-x})).rounded();
     const Exponential e = extended_exp(-stirling(-x));
-    return times_power_of_two(open_quotient(open_product(tables::kPi, e.value), x_sine).rounded(), e.exponent);
+    // The quotient need not wait for the exponential.
+    return times_power_of_two(open_product(e.value, open_quotient(tables::kPi, x_sine)).rounded(), e.exponent);
 }
 
 } // namespace

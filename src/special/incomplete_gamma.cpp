@@ -24,8 +24,8 @@ constexpr double kUniformFrom = 16.0;   // a: from here on the uniform expansion
 constexpr double kExponentLimit = 2000; // beyond it exp(-t) is far out of range
 
 // A tail is computed however small; its complement is one minus it.
-IncompleteGamma with_p(double p, double term) { return {p, 1.0 - p, term}; }
-IncompleteGamma with_q(double q, double term) { return {1.0 - q, q, term}; }
+IncompleteGamma with_p(double p, double term = 0.0) { return {p, 1.0 - p, term}; }
+IncompleteGamma with_q(double q, double term = 0.0) { return {1.0 - q, q, term}; }
 
 // Lane j: c_j(eta) + c_(j+4)(eta) u^4 + ..., from a block of four orders on.
 template <std::size_t Block = 0>
@@ -142,14 +142,12 @@ Exponential extended_poisson_term(double a, double x)
 IncompleteGamma incomplete_gamma(double a, double x, double tol)
 {
     if (!(tol >= kPrecision && tol <= 1.0)) tol = kPrecision;
-    if (x == 0.0) return with_p(0.0, 0.0);
+    if (x == 0.0) return with_p(0.0);
     if (a > kGammaStepFrom || x > kGammaStepFrom)
-        return a == x  ? with_p(0.5, tables::kInverseRootTwoPi / std::sqrt(a))
-               : x < a ? with_p(0.0, 0.0)
-                       : with_q(0.0, 0.0);
+        return a == x ? with_p(0.5, tables::kInverseRootTwoPi / std::sqrt(a)) : x < a ? with_p(0.0) : with_q(0.0);
     if (a >= kUniformFrom) {
         const DoubleDouble deviance = extended_deviance(a, x);
-        if (deviance.hi > kExponentLimit) return x < a ? with_p(0.0, 0.0) : with_q(0.0, 0.0);
+        if (deviance.hi > kExponentLimit) return x < a ? with_p(0.0) : with_q(0.0);
         if (deviance.hi <= 0.5 * a) return uniform(a, x > a, deviance);
     } else if (a < 1.0 && x < 1.0) {
         return both_small(a, x, tol);
