@@ -41,8 +41,17 @@ struct Exponential {
     KOR_INLINE double rounded() const { return times_power_of_two(value.rounded(), exponent); }
 };
 
+// The same before it is normalised: value.large has but 26 bits.
+struct OpenExponential {
+    OpenSum value;
+    int exponent;
+
+    KOR_INLINE operator Exponential() const { return {value, exponent}; }
+    KOR_INLINE double rounded() const { return times_power_of_two(value.rounded(), exponent); }
+};
+
 // exp(x), |x| <= 8000. With n the multiple of ln 2 / 64 nearest to x: 2^(n/64) (1 + (exp(r) - 1)), |r| <= ln 2 / 128.
-KOR_INLINE Exponential extended_exp(DoubleDouble x)
+KOR_INLINE OpenExponential open_exp(DoubleDouble x)
 {
     using namespace tables;
     const NearestInteger n = nearest_integer(x.hi * kExpStepsPerUnit);
@@ -51,8 +60,10 @@ KOR_INLINE Exponential extended_exp(DoubleDouble x)
     const double r = r_hi + r_lo;
     const double growth = r_hi + (r_lo + r * r * polynomial(kExpSeries, r));
     const DoubleDouble power = kPowersOfTwo[static_cast<unsigned>(n.count) % 64];
-    return {fast_two_sum(power.hi, power.lo + power.hi * growth), n.count >> 6};
+    return {{power.hi, power.lo + power.rounded() * growth}, n.count >> 6};
 }
+
+KOR_INLINE Exponential extended_exp(DoubleDouble x) { return open_exp(x); }
 
 // x = 2^exponent m, m in the cell.
 struct LogCellAndExponent {

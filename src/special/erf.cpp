@@ -11,11 +11,11 @@ namespace {
 constexpr double kNearZero = 0.5;
 constexpr double kNormalTailIsZeroFrom = 39.0;
 
-// exp(-square) scaled_erfc(z), square = z^2 with its rounding error.
-KOR_INLINE Exponential tail(DoubleDouble z, DoubleDouble square)
+// exp(-square) scaled_erfc(z) 2^exponent, square = z^2 with its rounding error.
+KOR_INLINE double tail(DoubleDouble z, DoubleDouble square, int exponent = 0)
 {
-    const Exponential e = extended_exp(-square);
-    return {tables::kScaledErfc.times(e.value, z), e.exponent};
+    const OpenExponential e = open_exp(-square);
+    return times_power_of_two(tables::kScaledErfc.times_split(e.value, z).rounded(), e.exponent + exponent);
 }
 
 // erfc(z) for |z| <= 1/2 and for negative z down to -6.5.
@@ -42,7 +42,7 @@ double erfc(double x)
     if (x >= kErfcIsZeroFrom) return 0.0;
     if (x <= -kErfIsOneFrom) return 2.0;
     if (x < kNearZero) return complement({x}).rounded();
-    return tail({x}, two_square(x)).rounded();
+    return tail({x}, two_square(x));
 }
 
 double scaled_erfc(double x)
@@ -64,8 +64,7 @@ double normal_upper_tail(double x)
     const DoubleDouble z = x * tables::kRootHalf;
     if (z.hi <= -kErfIsOneFrom) return 1.0;
     if (z.hi < kNearZero) return 0.5 * complement(z).rounded();
-    Exponential q = tail(z, two_square(x).scaled(0.5));
-    return times_power_of_two(q.value.rounded(), q.exponent - 1);
+    return tail(z, two_square(x).scaled(0.5), -1);
 }
 
 } // namespace kor::special

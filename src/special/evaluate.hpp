@@ -250,9 +250,14 @@ struct NearConstantPolynomial {
     // The same times `factor`: one exact product, and what is left is small.
     KOR_INLINE OpenSum times(DoubleDouble factor, double x) const
     {
-        const double factor_1 = upper_half(factor.hi), factor_2 = (factor.hi - factor_1) + factor.lo;
+        const double factor_1 = upper_half(factor.hi);
+        return times_split({factor_1, (factor.hi - factor_1) + factor.lo}, x);
+    }
+    // The same for a factor whose large part has but 26 bits.
+    KOR_INLINE OpenSum times_split(OpenSum factor, double x) const
+    {
         const double rest = x * polynomial(tail, x) + head.lo;
-        return {factor_1 * head.hi, factor_1 * rest + factor_2 * (head.hi + rest)};
+        return {factor.large * head.hi, factor.large * rest + factor.small * (head.hi + rest)};
     }
 };
 
@@ -294,6 +299,11 @@ struct BinadePieces {
     {
         const auto [p, centre] = find(x.hi);
         return p.times(factor, (x.hi - centre) + x.lo);
+    }
+    KOR_INLINE OpenSum times_split(OpenSum factor, DoubleDouble x) const
+    {
+        const auto [p, centre] = find(x.hi);
+        return p.times_split(factor, (x.hi - centre) + x.lo);
     }
 
   private:

@@ -63,7 +63,7 @@ DoubleDouble extended_gamma(DoubleDouble x)
 
 double gamma(double x)
 {
-    if (x >= kStirlingFrom) return extended_exp(stirling(x)).rounded();
+    if (x >= kStirlingFrom) return open_exp(stirling(x)).rounded();
     if (x >= 0.5) return tables::kGamma.open({x}).rounded();
     if (x < -0.5) return reflected(x);
     return open_quotient(tables::kGamma(fast_two_sum(1.0, x)), {x}).rounded();

@@ -16,8 +16,8 @@ double exponential_integral(double x)
 {
     using namespace kor::special;
     if (x >= kScaledFrom) {
-        const Exponential e = extended_exp({-x});
-        return times_power_of_two(tables::kScaledE1.times(e.value, {x}).rounded(), e.exponent);
+        const OpenExponential e = open_exp({-x});
+        return times_power_of_two(tables::kScaledE1.times_split(e.value, {x}).rounded(), e.exponent);
     }
     if (x < kLogarithmBelow) {
         const OpenSum log = open_log(x), rest = tables::kE1LessLog.open(x);

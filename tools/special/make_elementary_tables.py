@@ -18,7 +18,7 @@ def exponential():
     step_hi, step_lo = split_bits(step, 40)  # n step_hi is exact for 34 + 19 bits
     half = step / 2 * mpf("1.001")
     series = fit(lambda r: (mp.expm1(r) - r) / r ** 2 if r else mpf(1) / 2, -half, half, mpf(2) ** -53)
-    yield pair_array("kPowersOfTwo", [double_double(mpf(2) ** (mpf(j) / n)) for j in range(n)], "2^(j/64)")
+    yield pair_array("kPowersOfTwo", [short_pair(mpf(2) ** (mpf(j) / n)) for j in range(n)], "2^(j/64), the first part of 26 bits")
     yield f"inline constexpr double kExpStepsPerUnit = {number(1 / step)}; // 64 / ln 2"
     yield f"inline constexpr double kExpStepHigh = {number(step_hi)}; // ln 2 / 64, a multiple of 2^-40, and the rest"
     yield f"inline constexpr double kExpStepLow = {number(step_lo)};\n"
