@@ -220,12 +220,18 @@ struct OpenSum {
     KOR_INLINE constexpr operator DoubleDouble() const { return fast_two_sum(large, small); }
 };
 
-// a b: the upper halves exactly, and the rest.
+// a b, the large part of a having but 26 bits: exactly with the upper half of b, and the rest.
+KOR_INLINE constexpr OpenSum times_split(OpenSum a, DoubleDouble b)
+{
+    const double b_1 = upper_half(b.hi), b_2 = (b.hi - b_1) + b.lo;
+    return {a.large * b_1, a.large * b_2 + a.small * b.hi};
+}
+
+// a b for any a.
 KOR_INLINE constexpr OpenSum open_product(DoubleDouble a, DoubleDouble b)
 {
-    const double a_1 = upper_half(a.hi), a_2 = (a.hi - a_1) + a.lo;
-    const double b_1 = upper_half(b.hi), b_2 = (b.hi - b_1) + b.lo;
-    return {a_1 * b_1, a_1 * b_2 + a_2 * b.hi};
+    const double a_1 = upper_half(a.hi);
+    return times_split({a_1, (a.hi - a_1) + a.lo}, b);
 }
 
 // a / b by one division: the upper half of the quotient, and the rest from the remainder that this leaves, which is exact.

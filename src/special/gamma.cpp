@@ -43,9 +43,9 @@ double reflected(double x)
 {
     const DoubleDouble x_sine = open_product(extended_sine_pi(x), {-x});
     if (-x < kStirlingFrom) return open_quotient(tables::kPi, tables::kGamma.times(x_sine, {-x})).rounded();
-    const Exponential e = extended_exp(-stirling(-x));
+    const OpenExponential e = open_exp(-stirling(-x));
     // The quotient need not wait for the exponential.
-    return times_power_of_two(open_product(e.value, open_quotient(tables::kPi, x_sine)).rounded(), e.exponent);
+    return times_power_of_two(times_split(e.value, open_quotient(tables::kPi, x_sine)).rounded(), e.exponent);
 }
 
 } // namespace

@@ -54,11 +54,11 @@ KOR_CLONES IncompleteGamma uniform(double a, bool upper, DoubleDouble deviance)
     const double side = upper ? 1.0 : -1.0;
     const double correction = side * per_root * expansion(u, side * tables::kRootTwo * z.hi * root_u);
 
-    const Exponential e = extended_exp(-deviance);
+    const OpenExponential e = open_exp(-deviance);
     const DoubleDouble half = extended_scaled_erfc(z).scaled(0.5), sum = fast_two_sum(half.hi, correction);
-    const double tail = times_power_of_two((e.value * DoubleDouble{sum.hi, sum.lo + half.lo}).rounded(), e.exponent);
+    const double tail = times_power_of_two(times_split(e.value, {sum.hi, sum.lo + half.lo}).rounded(), e.exponent);
     const double term =
-        times_power_of_two(e.value.hi * per_root * polynomial(tables::kInverseGammaStar, u), e.exponent);
+        times_power_of_two(e.value.rounded() * per_root * polynomial(tables::kInverseGammaStar, u), e.exponent);
     return upper ? with_q(tail, term) : with_p(tail, term);
 }
 
