@@ -66,8 +66,8 @@ KOR_INLINE Pair<Four> load_roots()
     return {load_some<4>(roots.re), load_some<4>(roots.im)};
 }
 
-// By two factors: the columns side by side, then, turned round, the rows side by side. Registers whose last elements stand for
-// nothing may be stored whole as long as what comes after is stored later.
+// By two factors: the columns side by side, then, turned round, the rows side by side. Registers whose last elements
+// stand for nothing may be stored whole as long as what comes after is stored later.
 template <int a, int b>
 KOR_INLINE void complex_by_rows_and_columns(Sequence x, double scale)
 {
@@ -197,13 +197,19 @@ KOR_INLINE void hermitian_of_prime_length(double *x, double scale)
         [&](int g) __attribute__((always_inline)) { return scale * (sums.even[g] + sums.odd[g]); });
     x[0] = scale * total;
 }
-#endif
 
 // Which lengths are better off with four at a time.
 template <int n>
-concept OddPrimeLength = requires(const Butterfly<n> *butterfly) { []<int p>(const OddPrime<p> *) {}(butterfly); };
+concept OddPrimeLength = requires(const Butterfly<n> *butterfly)
+{
+    []<int p>(const OddPrime<p> *) {}(butterfly);
+};
 template <int n>
-concept CompositeLength = requires(const Butterfly<n> *butterfly) { []<int a, int b>(const Composite<a, b> *) {}(butterfly); };
+concept CompositeLength = requires(const Butterfly<n> *butterfly)
+{
+    []<int a, int b>(const Composite<a, b> *) {}(butterfly);
+};
+#endif
 
 template <int n>
 void complex_alone(Sequence x, double scale)
@@ -212,9 +218,11 @@ void complex_alone(Sequence x, double scale)
     if constexpr (OddPrimeLength<n>)
         return complex_of_prime_length<n>(x, scale);
     else if constexpr (CompositeLength<n> && n > kLargestPlainRadix)
-        return [&]<int a, int b>(const Composite<a, b> *) __attribute__((always_inline)) {
+        return [&]<int a, int b>(const Composite<a, b> *) __attribute__((always_inline))
+        {
             complex_by_rows_and_columns<a, b>(x, scale);
-        }(static_cast<const Butterfly<n> *>(nullptr));
+        }
+    (static_cast<const Butterfly<n> *>(nullptr));
 #endif
     Pair<double> points[n], transform[n];
     KOR_UNROLL for (int l = 0; l < n; ++l) points[l] = {x.re[l], x.im[l]};
@@ -266,8 +274,7 @@ constexpr void set_alone([[maybe_unused]] AloneTable &table)
 constexpr AloneTable alone_table()
 {
     AloneTable table{};
-    [&]<int... n>(std::integer_sequence<int, n...>) {
-        (set_alone<n>(table), ...);
-    }(std::make_integer_sequence<int, kLongestButterfly + 1>{});
+    [&]<int... n>(std::integer_sequence<int, n...>) { (set_alone<n>(table), ...); }
+    (std::make_integer_sequence<int, kLongestButterfly + 1>{});
     return table;
 }

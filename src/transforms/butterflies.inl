@@ -1,9 +1,9 @@
 // Discrete transforms of a few points, all in registers: X_k = sum_l x_l exp(-2 pi i k l / p). Part of kernels.inl.
 //
-// Each has two forms. run() takes real or complex points: sums and differences of real values stay real until a butterfly
-// joins two of them into a complex number; of real points it may leave out y[k], k > p/2, which are the conjugates of the others.
-// run_to_real() takes the elements 0..p/2 of a Hermitian sequence and gives real ones; the imaginary parts of the elements 0 and
-// p/2 are zero, and not read.
+// Each has two forms. run() takes real or complex points: sums and differences of real values stay real until a
+// butterfly joins two of them into a complex number; of real points it may leave out y[k], k > p/2, which are the
+// conjugates of the others. run_to_real() takes the elements 0..p/2 of a Hermitian sequence and gives real ones; the
+// imaginary parts of the elements 0 and p/2 are zero, and not read.
 
 template <class V>
 struct Pair { // a complex number, or a register of them
@@ -168,8 +168,8 @@ struct Butterfly<5> {
     template <class V>
     KOR_INLINE static void run_to_real(const Pair<V> *x, V *y)
     {
-        const auto [sum, inner, outer, turn1, turn2] = parts(x[0].re, x[1].re + x[1].re, x[2].re + x[2].re,
-                                                             x[1].im + x[1].im, x[2].im + x[2].im);
+        const auto [sum, inner, outer, turn1, turn2] =
+            parts(x[0].re, x[1].re + x[1].re, x[2].re + x[2].re, x[1].im + x[1].im, x[2].im + x[2].im);
         y[0] = sum;
         y[1] = inner + turn1;
         y[2] = outer + turn2;
@@ -311,15 +311,16 @@ constexpr bool are_coprime(int a, int b)
     return a == 1;
 }
 
-// Two factors of the number of points, a transform of the one length for each point of the other. Point b l1 + l2 goes to
-// k1 + a k2, with a factor exp(-2 pi i k1 l2 / n) between the two transforms.
+// Two factors of the number of points, a transform of the one length for each point of the other. Point b l1 + l2 goes
+// to k1 + a k2, with a factor exp(-2 pi i k1 l2 / n) between the two transforms.
 template <int a, int b>
 struct Twiddled {
     static constexpr int from(int l1, int l2) { return b * l1 + l2; }
     static constexpr int to(int k1, int k2) { return k1 + a * k2; }
     static constexpr bool kTurns = true;
 };
-// Coprime factors need no factors between: point b l1 + a l2 modulo n goes to the place that is k1 modulo a, k2 modulo b.
+// Coprime factors need no factors between: point b l1 + a l2 modulo n goes to the place that is k1 modulo a, k2 modulo
+// b.
 template <int a, int b>
 struct Coprime {
     static constexpr int from(int l1, int l2) { return (b * l1 + a * l2) % (a * b); }
@@ -401,7 +402,8 @@ struct Composite {
                 });
                 Butterfly<b>::run(row, out);
                 // Of real columns, the second half of the row is the conjugate of the first.
-                KOR_UNROLL for (int k2 = 0; k2 < (kRealColumns ? (b + 1) / 2 : b); ++k2) store(Packed::to(k1, k2), out[k2]);
+                KOR_UNROLL for (int k2 = 0; k2 < (kRealColumns ? (b + 1) / 2 : b); ++k2)
+                    store(Packed::to(k1, k2), out[k2]);
             }
         });
     }

@@ -57,8 +57,8 @@ void swap_mirrored(const Dimensions &d, double *x)
     }
 }
 
-// Follows the cycles of row(r) := row(source(r)), r < rows. Rows already moved are marked in a window of the rows; a cycle
-// that has a row before the window was done there.
+// Follows the cycles of row(r) := row(source(r)), r < rows. Rows already moved are marked in a window of the rows; a
+// cycle that has a row before the window was done there.
 template <class Source, class SwapRows>
 void follow_cycles(Index rows, Source source, SwapRows swap_rows)
 {

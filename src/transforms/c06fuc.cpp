@@ -1,7 +1,7 @@
 // c06fuc: the two-dimensional transform of a complex array.
 //
-// The rows, then, through a transposed copy, the columns. All memory is taken first, so that a failure leaves the array as
-// it was.
+// The rows, then, through a transposed copy, the columns. All memory is taken first, so that a failure leaves the array
+// as it was.
 #include <kor/c06.h>
 
 #include "transforms/arguments.hpp"

@@ -139,7 +139,8 @@ template <class Radix>
 KOR_INLINE bool across_rows(const Block &block, Index count)
 {
     const bool gapless = block.in_row == 1 && block.out_row == 1;
-    return Radix::kInRegisters && gapless && block.width == 1 && block.before == 1 && block.spread == 1 && count >= kLanes;
+    return Radix::kInRegisters && gapless && block.width == 1 && block.before == 1 && block.spread == 1 &&
+           count >= kLanes;
 }
 
 template <class Radix>

@@ -1,7 +1,7 @@
 // Transforms of one sequence in place, without tables from the caller.
 //
-// Real and complex sequences are permuted first; Hermitian ones go the same way backwards. What works on a block, or on a
-// few columns of the array, copies them to the stack, transforms them there as the multiple-sequence engine does, and
+// Real and complex sequences are permuted first; Hermitian ones go the same way backwards. What works on a block, or on
+// a few columns of the array, copies them to the stack, transforms them there as the multiple-sequence engine does, and
 // copies the result back.
 #include "transforms/in_place.hpp"
 
@@ -32,7 +32,8 @@ Index divisor_from(Index n, Index least)
 
 Dimensions::Dimensions(Index length, InPlaceFactors factors) : n{length}
 {
-    // As few dimensions as the sizes allow: the mirrored ones no more than are needed to bring the rest down to a block.
+    // As few dimensions as the sizes allow: the mirrored ones no more than are needed to bring the rest down to a
+    // block.
     const Index needed = n <= kLargestBlock ? 1 : std::max((n + kLargestBlock - 1) / kLargestBlock, kLine);
     const Index square_root = factors.square_root, wanted = divisor_from(square_root, needed);
     mirrored_product = wanted > 0 ? wanted : square_root;
@@ -80,8 +81,8 @@ struct alignas(sizeof(double) * kLine) Stack {
     double bases[2 * kLargestDimension];
 };
 
-// Blocks of several dimensions arrive with their digits turned round: (i_1, .., i_k) for what is element (i_k, .., i_1).
-// `kBack` turns them round again.
+// Blocks of several dimensions arrive with their digits turned round: (i_1, .., i_k) for what is element (i_k, ..,
+// i_1). `kBack` turns them round again.
 template <bool kBack>
 void turn_digits(const Index *size, int count, const double *in, double *out)
 {
@@ -100,9 +101,9 @@ void turn_digits(const Index *size, int count, const double *in, double *out)
     }
 }
 
-// The roots for blocks, kept by each thread from one call to the next: most programs transform one length again and again. They
-// lie on the heap, for a library with much storage of its own for threads cannot be loaded by a running program. Null when there
-// is no memory.
+// The roots for blocks, kept by each thread from one call to the next: most programs transform one length again and
+// again. They lie on the heap, for a library with much storage of its own for threads cannot be loaded by a running
+// program. Null when there is no memory.
 const double *kept_table(Index block)
 {
     struct Kept {
@@ -223,8 +224,8 @@ class Sweep {
         return {stages_.stage[i].before, stages_.stage[i].after, width_, from.row, to.row};
     }
 
-    // Calls body(f, factors, block0, block1) for ranges of columns from `first` on, width_ of them at a time. Ranges do not
-    // overlap, and whole registers are filled, or none: a pass in place cannot be repeated.
+    // Calls body(f, factors, block0, block1) for ranges of columns from `first` on, width_ of them at a time. Ranges do
+    // not overlap, and whole registers are filled, or none: a pass in place cannot be repeated.
     template <class Body>
     void over_columns(Index first, Index count, Body body)
     {

@@ -12,8 +12,8 @@ inline constexpr Index kLargestBlock = 2048;
 // The length as a product of dimensions d_1 d_2 ... d_k, mirror images of each other but for the middle ones. Element
 // (i_1, .., i_k), i_1 the slowest, of the permuted sequence is element (i_k, .., i_1) of the sequence itself.
 //
-// A transform then works on contiguous blocks that span the last dimensions, each in one go, and goes over the data once
-// more for each of the dimensions before those.
+// A transform then works on contiguous blocks that span the last dimensions, each in one go, and goes over the data
+// once more for each of the dimensions before those.
 struct Dimensions {
     static constexpr int kMost = 16;
 

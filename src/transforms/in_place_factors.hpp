@@ -10,8 +10,8 @@ inline constexpr int kMostInPlaceFactors = 20;
 
 enum class InPlaceStatus { good, prime_too_large, too_many_factors };
 
-// Primes that divide n an even number of times are taken in pairs: n is the square of square_root, times a number without
-// squares. Small enough to travel in a register.
+// Primes that divide n an even number of times are taken in pairs: n is the square of square_root, times a number
+// without squares. Small enough to travel in a register.
 struct InPlaceFactors {
     InPlaceStatus status;
     Integer square_root;

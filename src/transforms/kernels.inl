@@ -1,5 +1,5 @@
-// The kernels of one generation of processors. The includer has included kernel_headers.hpp, opened a namespace of its own
-// and chosen KOR_LANES; and KOR_KERNELS_BELOW, the kernels of the generation below, if there is one.
+// The kernels of one generation of processors. The includer has included kernel_headers.hpp, opened a namespace of its
+// own and chosen KOR_LANES; and KOR_KERNELS_BELOW, the kernels of the generation below, if there is one.
 
 // In this order: each builds on those before it.
 // clang-format off
@@ -48,7 +48,8 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 template <Kind kind, class Body>
 KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
 {
-    const auto is_this = [&]<int p>(Constant<p>) __attribute__((always_inline)) {
+    const auto is_this = [&]<int p>(Constant<p>) __attribute__((always_inline))
+    {
         if constexpr (has_butterfly(kind, p)) {
             if (stage.radix != p) return false;
             body(std::type_identity<Fixed<p>>{});
@@ -56,9 +57,11 @@ KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
         }
         return false;
     };
-    const bool done = [&]<int... p>(std::integer_sequence<int, p...>) __attribute__((always_inline)) {
+    const bool done = [&]<int... p>(std::integer_sequence<int, p...>) __attribute__((always_inline))
+    {
         return (is_this(Constant<p>{}) || ...);
-    }(std::make_integer_sequence<int, kLongestButterfly + 1>{});
+    }
+    (std::make_integer_sequence<int, kLongestButterfly + 1>{});
     if (!done) with_radix(stage, body);
 }
 
@@ -77,8 +80,8 @@ void any_whole(const Stage &stage, const Block &block, Sequence in, Sequence out
 #ifdef KOR_KERNELS_BELOW
     if (done) return;
     constexpr auto Kernels::*kWhole = kind == Kind::complex ? &Kernels::complex_whole
-                                     : kind == Kind::real  ? &Kernels::real_whole
-                                                           : &Kernels::hermitian_whole;
+                                      : kind == Kind::real  ? &Kernels::real_whole
+                                                            : &Kernels::hermitian_whole;
     (KOR_KERNELS_BELOW.*kWhole)(stage, block, in, out, scale);
 #endif
 }

@@ -21,8 +21,8 @@ KOR_INLINE Lanes reversed(Lanes v)
 #endif
 }
 
-// How a butterfly reaches memory: a full register or one element. Whole transforms tell which row is their last. The mirrored forms go down in memory from the element of
-// the first lane.
+// How a butterfly reaches memory: a full register or one element. Whole transforms tell which row is their last. The
+// mirrored forms go down in memory from the element of the first lane.
 struct Full {
     using Value = Lanes;
     KOR_INLINE Lanes load(const double *p) const { return load_lanes(p); }
@@ -45,8 +45,8 @@ struct One {
 
 #if KOR_LANES == 4
 #define KOR_FEW 1
-// Two or three elements of each of many rows, one row after the other without a gap. Registers may be read whole, but for the
-// last row, and in ascending order be written whole: what is too much is overwritten by the next row.
+// Two or three elements of each of many rows, one row after the other without a gap. Registers may be read whole, but
+// for the last row, and in ascending order be written whole: what is too much is overwritten by the next row.
 struct Few {
     using Value = Lanes;
     bool three;

@@ -1,10 +1,10 @@
-// The first pass of a transform of one complex sequence: a stage, or several that are taken together without a way through memory.
-// Part of kernels.inl.
+// The first pass of a transform of one complex sequence: a stage, or several that are taken together without a way
+// through memory. Part of kernels.inl.
 //
 // The columns fill the registers, and leave as rows: what the stages, one by one, would leave behind.
 
-// Stages number `at`, at + 1, .. of the lead, on columns c, c + 1, ..: from x, point l of the first of them and t of the rest at
-// l * rest + t.
+// Stages number `at`, at + 1, .. of the lead, on columns c, c + 1, ..: from x, point l of the first of them and t of
+// the rest at l * rest + t.
 template <int lead, int at>
 KOR_INLINE void run_lead(const Stage *stages, Index columns, Index c, const Pair<Lanes> *x, Pair<Lanes> *y)
 {
@@ -68,12 +68,15 @@ void complex_lead(const Stage *stages, Sequence in, Sequence out)
 
 inline void any_complex_lead(const Stage *stages, int count, Sequence in, Sequence out)
 {
-    const auto is_this = [&]<int i>(Constant<i>) __attribute__((always_inline)) {
+    const auto is_this = [&]<int i>(Constant<i>) __attribute__((always_inline))
+    {
         if (!kLeads[i].is(stages, count)) return false;
         complex_lead<i>(stages, in, out);
         return true;
     };
-    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
+    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline))
+    {
         (void)(is_this(Constant<i>{}) || ...);
-    }(std::make_integer_sequence<int, kLeadCount>{});
+    }
+    (std::make_integer_sequence<int, kLeadCount>{});
 }

@@ -15,8 +15,8 @@ inline constexpr Array kNone{{nullptr, nullptr}, 0};
 
 inline Sequence shifted(Sequence x, Index by) { return {x.re + by, x.im != nullptr ? x.im + by : nullptr}; }
 
-// Makes the passes numbered first, .., last, upwards or downwards: pass(number, from, to). They lead from `in` to `out` by
-// way of the two blocks, or, without `out`, to one of the blocks: to the array that is returned.
+// Makes the passes numbered first, .., last, upwards or downwards: pass(number, from, to). They lead from `in` to `out`
+// by way of the two blocks, or, without `out`, to one of the blocks: to the array that is returned.
 template <class Pass>
 Array run_passes(int first, int last, Array in, Array out, Array block0, Array block1, Pass pass)
 {

@@ -116,8 +116,8 @@ bool PrimeTransform::prepare(Index p, const double *cosines, const double *sines
         residue = residue * g % static_cast<std::uint64_t>(p);
     }
 
-    // The kernel at q belongs to g^-q = g^(p-1-q), whose root is the conjugate of that half of the powers away; for a padded
-    // convolution it is continued to negative q.
+    // The kernel at q belongs to g^-q = g^(p-1-q), whose root is the conjugate of that half of the powers away; for a
+    // padded convolution it is continued to negative q.
     std::fill_n(kernel_, length_, 0.0);
     const double scale = 1.0 / static_cast<double>(length_);
     for (Index q = 0; q < half; ++q) {

@@ -13,10 +13,10 @@ inline constexpr int kMaxLargePrimes = 5;
 
 // The discrete transform of p points, in place at points(), where complex numbers stand as pairs re, im.
 //
-// Rader (1968): with a generator g of the residues modulo p, x_{g^q} and X_{g^-q} are related by a cyclic convolution of
-// length p - 1 with w^{g^-q}, w = exp(-2 pi i / p). The halves of that kernel are conjugates, so that its cosines repeat and
-// its sines change sign after (p - 1)/2 places: convolving with their *sum*, which is real, keeps the two apart, and a
-// real sequence needs real arithmetic only. The convolution is done by transforms of a smooth length.
+// Rader (1968): with a generator g of the residues modulo p, x_{g^q} and X_{g^-q} are related by a cyclic convolution
+// of length p - 1 with w^{g^-q}, w = exp(-2 pi i / p). The halves of that kernel are conjugates, so that its cosines
+// repeat and its sines change sign after (p - 1)/2 places: convolving with their *sum*, which is real, keeps the two
+// apart, and a real sequence needs real arithmetic only. The convolution is done by transforms of a smooth length.
 class PrimeTransform {
   public:
     PrimeTransform() = default;

@@ -1,8 +1,8 @@
 // Quarter-wave sine and cosine transforms, in both directions.
 //
-// Forward: sums and differences of mirrored elements, turned by the angle pi j / (2n), are a real sequence of length n whose
-// transform holds sums and differences of neighbouring results. Backward: the same steps undone in the opposite order.
-// P. N. Swarztrauber, Math. Comp. 47 (1986) 323-346.
+// Forward: sums and differences of mirrored elements, turned by the angle pi j / (2n), are a real sequence of length n
+// whose transform holds sums and differences of neighbouring results. Backward: the same steps undone in the opposite
+// order. P. N. Swarztrauber, Math. Comp. 47 (1986) 323-346.
 #include "transforms/quarter_wave.hpp"
 
 #include <algorithm>

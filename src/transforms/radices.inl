@@ -1,8 +1,8 @@
 // The kinds of radix that a pass can be built on: a fixed butterfly, an odd prime, a large prime. Part of kernels.inl.
 //
-// Each offers: `radix`; kRootsInTable, whether the table holds roots in place of the first twiddle factors; kInRegisters,
-// whether it takes registers of elements; loop(), a loop over points; Points, the arrays of a butterfly's inputs x and
-// outputs y; run() and run_to_real() as butterflies have them.
+// Each offers: `radix`; kRootsInTable, whether the table holds roots in place of the first twiddle factors;
+// kInRegisters, whether it takes registers of elements; loop(), a loop over points; Points, the arrays of a butterfly's
+// inputs x and outputs y; run() and run_to_real() as butterflies have them.
 
 template <int p>
 struct Fixed {
@@ -179,9 +179,9 @@ KOR_INLINE void deal(Index count, Body body)
         for (Index i = 0; i < count; ++i) body(One{}, i);
 }
 
-// The same for a whole transform: body(access, i) covers the elements in registers, even where they do not fill them if the rows
-// follow each other without a gap. False, without any call, if that is for the generation below: butterflies of many points are
-// large, and for single elements one generation is enough.
+// The same for a whole transform: body(access, i) covers the elements in registers, even where they do not fill them if
+// the rows follow each other without a gap. False, without any call, if that is for the generation below: butterflies
+// of many points are large, and for single elements one generation is enough.
 template <class Radix, class Body>
 KOR_INLINE bool deal_whole(const Block &block, Body body)
 {

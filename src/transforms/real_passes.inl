@@ -1,8 +1,8 @@
 // Passes of real-to-Hermitian and Hermitian-to-real transforms. Part of kernels.inl.
 //
 // A Hermitian sequence of length n is packed in n doubles: Re z_f at f, Im z_f at n - f, for 0 <= f <= n/2. A real pass
-// joins `radix` sequences of length r into one of length radix * r; frequency f of the short sequences contributes to
-// f + r k of the long one, k = 0..radix-1, of which the upper half is stored as conjugates of the lower. A Hermitian pass
+// joins `radix` sequences of length r into one of length radix * r; frequency f of the short sequences contributes to f
+// + r k of the long one, k = 0..radix-1, of which the upper half is stored as conjugates of the lower. A Hermitian pass
 // is its transpose.
 
 // An element (f, l) of the short sequences stands at short_step * f + row_step * l, an element g of the long one at
@@ -31,8 +31,8 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
         });
 }
 
-// The last lane may stand for f = r/2, which is its own mirror: there the short sequences are real. Stores are in such an order
-// that what is right at the mirror stays.
+// The last lane may stand for f = r/2, which is its own mirror: there the short sequences are real. Stores are in such
+// an order that what is right at the mirror stays.
 KOR_INLINE void clear_last(Lanes &v) { v[kLanes - 1] = 0.0; }
 KOR_INLINE void clear_last(double &v) { v = 0.0; }
 
@@ -95,7 +95,8 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
     typename Radix::template Points<Pair<V>, V> points{radix};
     radix.loop(
         radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
-            const auto load = [&](Index g) __attribute__((always_inline)) {
+            const auto load = [&](Index g) __attribute__((always_inline))
+            {
                 const double *const row = in + g * r * layout.long_step;
                 return g + 1 < radix.radix ? access.load(row) : access.load_last(row);
             };
@@ -214,7 +215,7 @@ KOR_INLINE void over_rows(const Block &block, const double *in, double *out, Bod
     for (Index b = 0; b < block.before; ++b)
         deal<Radix>(
             block.width, [&](auto access, Index c) __attribute__((always_inline)) {
-                butterfly(SideBySide{access}, in + b * block.in_row + c, out + b * block.out_row + c);
+                butterfly(SideBySide<decltype(access)>{access}, in + b * block.in_row + c, out + b * block.out_row + c);
             });
 }
 

@@ -7,8 +7,8 @@
 
 namespace kor::transforms {
 
-// Transforms of rows: z_k = n^-1/2 sum_j x_j exp(-2 pi i j k / n), from real x to Hermitian z, from Hermitian x to real z,
-// or from complex x to complex z. Element j of row i stands at i * n + j. A row of one element stays as it is.
+// Transforms of rows: z_k = n^-1/2 sum_j x_j exp(-2 pi i j k / n), from real x to Hermitian z, from Hermitian x to real
+// z, or from complex x to complex z. Element j of row i stands at i * n + j. A row of one element stays as it is.
 class Rows {
   public:
     Rows(Kind kind, Index n, const double *trig) : kind_{kind}, n_{n}, plan_{kind, n, trig} {}

@@ -9,8 +9,8 @@ namespace kor::transforms {
 
 namespace {
 
-// Rows up to this length leave room in the first cache for a block of eight of them, its roots, and the block that it is
-// transformed into; so do blocks of so many elements for columns.
+// Rows up to this length leave room in the first cache for a block of eight of them, its roots, and the block that it
+// is transformed into; so do blocks of so many elements for columns.
 constexpr Index kShortRow = 96;
 constexpr Index kColumnElements = 768;
 
@@ -22,7 +22,8 @@ constexpr Index kRowBlock = kLine;
 
 } // namespace
 
-// Two sweeps pay when the data outgrow the first cache, and sooner for complex data, whose first sweep fills registers with columns.
+// Two sweeps pay when the data outgrow the first cache, and sooner for complex data, whose first sweep fills registers
+// with columns.
 bool Plan::one_sweep_is_faster() const
 {
     constexpr Index kLongestPacked = 400, kLongestPackedInThree = 600;

@@ -8,10 +8,10 @@ namespace kor::transforms {
 // Sequences up to this length are better transformed side by side, if there are several.
 inline constexpr Index kLongestSideBySide = 96;
 
-// How a transform of length n = R Q proceeds. The sequence is an array of R rows and Q columns. The leading stages, with
-// the product R of radices, act on its columns, the others on its rows; real data take the two in the opposite order. Each
-// of the two sweeps works on a few columns or rows at a time, in a block that stays in the cache, and goes over the whole of
-// the data once.
+// How a transform of length n = R Q proceeds. The sequence is an array of R rows and Q columns. The leading stages,
+// with the product R of radices, act on its columns, the others on its rows; real data take the two in the opposite
+// order. Each of the two sweeps works on a few columns or rows at a time, in a block that stays in the cache, and goes
+// over the whole of the data once.
 class Plan {
   public:
     Plan(Kind kind, Index n, const double *trig);
@@ -25,8 +25,8 @@ class Plan {
     // From `in` to `out`, which may be the same, multiplied by `scale`.
     void transform(Sequence in, Sequence out, double scale, double *work) const;
 
-    // `batch` sequences side by side, element j of sequence i at j * batch + i, from x to x or to `spare`: to the one that
-    // is returned.
+    // `batch` sequences side by side, element j of sequence i at j * batch + i, from x to x or to `spare`: to the one
+    // that is returned.
     Sequence transform_side_by_side(Index batch, Sequence x, Sequence spare, double scale) const;
 
   private:

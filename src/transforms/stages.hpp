@@ -15,8 +15,8 @@ enum class Kind { complex, real, hermitian };
 
 class PrimeTransform;
 
-// Radices above this are primes: their butterflies read roots of unity from the table, and the table's rows for them hold
-// those roots where the others hold the twiddle factor 1.
+// Radices above this are primes: their butterflies read roots of unity from the table, and the table's rows for them
+// hold those roots where the others hold the twiddle factor 1.
 inline constexpr Index kLargestPlainRadix = 6;
 
 // Primes above this are worked out by convolution, those up to it by the definition.
@@ -27,15 +27,15 @@ struct Stage {
     Index radix;
     Index before;
     Index after;
-    // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above kLargestPlainRadix
-    // the element j = 0 holds cos(2 pi k / radix) instead. `sines`: -sin.
+    // cosines[(k-1) * after + j] = cos(2 pi j k / (radix * after)), k = 1..radix-1; for a radix above
+    // kLargestPlainRadix the element j = 0 holds cos(2 pi k / radix) instead. `sines`: -sin.
     const double *cosines;
     const double *sines;
     PrimeTransform *prime; // for a radix too large to work out by its definition, otherwise null
 };
 
-// Lengths with a butterfly of their own, whose roots are constants: their bits are set. Those of real and Hermitian points are half as
-// long, and more of them pay.
+// Lengths with a butterfly of their own, whose roots are constants: their bits are set. Those of real and Hermitian
+// points are half as long, and more of them pay.
 inline constexpr int kLongestButterfly = 45;
 constexpr std::uint64_t lengths_up_to_33_and(std::initializer_list<int> more)
 {
@@ -52,8 +52,8 @@ constexpr bool has_butterfly(Kind kind, Index n)
     return n <= kLongestButterfly && ((kind == Kind::complex ? kComplex : kPacked) >> n & 1) != 0;
 }
 
-// n^-1/2, the scale of all transforms, for n >= 1. Known beforehand for butterflies, which take no longer than a square root and
-// a division.
+// n^-1/2, the scale of all transforms, for n >= 1. Known beforehand for butterflies, which take no longer than a square
+// root and a division.
 struct Scales {
     double length[kLongestButterfly + 1];
 };
@@ -107,7 +107,8 @@ struct Stages {
     // `trig` holds 2n elements as c06gzc fills them.
     Stages(Index n, const double *trig);
 
-    // As few stages as will do for this kind of data: the last ones are taken together as far as there is a butterfly for them.
+    // As few stages as will do for this kind of data: the last ones are taken together as far as there is a butterfly
+    // for them.
     static Stages fewest(Kind kind, Index n, const double *trig);
 
   private:

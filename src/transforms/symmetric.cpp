@@ -1,7 +1,7 @@
 // Sine and cosine transforms: transforms of odd and even sequences of length 2n.
 //
-// The elements of even and of odd index make two real sequences of length n, with transforms E and D; the transform of the
-// whole is E_k + exp(-i pi k / n) D_k, which is imaginary for an odd sequence and real for an even one. A single
+// The elements of even and of odd index make two real sequences of length n, with transforms E and D; the transform of
+// the whole is E_k + exp(-i pi k / n) D_k, which is imaginary for an odd sequence and real for an even one. A single
 // real transform of length n would do, but then every second result comes out of a running sum or a division by small
 // sines, and loses digits in proportion to the square root of n; this way loses none. (The same choice, for the same
 // reason, as in Frigo and Johnson, Proc. IEEE 93 (2005) 216-231.)

@@ -21,8 +21,8 @@ inline void transpose(Index rows, Index columns, const double *in, Index in_row,
     }
 }
 
-// Exchanges a(i, j) with b(j, i) for i < rows, j < columns. The two may be the same tile, on the diagonal, but overlap in no
-// other way.
+// Exchanges a(i, j) with b(j, i) for i < rows, j < columns. The two may be the same tile, on the diagonal, but overlap
+// in no other way.
 inline void exchange_transposed(Index rows, Index columns, Index stride, double *a, double *b)
 {
     if (rows == kLanes && columns == kLanes) {

@@ -1,8 +1,8 @@
 // Roots of unity: exp(-2 pi i t / n) for t running through the integers modulo n. Part of kernels.inl.
 //
-// Every angle is reduced to the first octant in exact integer arithmetic, so that nothing drifts however many roots there
-// are. The reduced angle is formed with an error far below the last bit, and sine and cosine are evaluated so that only the
-// final addition rounds noticeably.
+// Every angle is reduced to the first octant in exact integer arithmetic, so that nothing drifts however many roots
+// there are. The reduced angle is formed with an error far below the last bit, and sine and cosine are evaluated so
+// that only the final addition rounds noticeably.
 
 // Minimax polynomials on [0, pi/4]: sin x = x + x^3 S(x^2), cos x = 1 - x^2/2 + x^4 C(x^2), errors below 2^-58 of the
 // result. By tools/octant_polynomials.sollya.
