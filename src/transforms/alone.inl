@@ -73,15 +73,15 @@ KOR_INLINE void complex_by_rows_and_columns(Sequence x, double scale)
 {
     constexpr int n = a * b, kColumnGroups = (b + 3) / 4, kRowGroups = (a + 3) / 4;
     Pair<Four> middle[kRowGroups][4 * kColumnGroups];
-    each<kColumnGroups>([&]<int group>(Constant<group>) __attribute__((always_inline)) {
+    each<kColumnGroups>([&]<int group>(Constant<group>) KOR_INLINED {
         constexpr int first = 4 * group;
         Pair<Four> column[a], half[4 * kRowGroups];
-        each<a>([&]<int l1>(Constant<l1>) __attribute__((always_inline)) {
+        each<a>([&]<int l1>(Constant<l1>) KOR_INLINED {
             constexpr int at = b * l1 + first, count = at + 4 <= n ? 4 : n - at;
             column[l1] = {load_some<count>(x.re + at), load_some<count>(x.im + at)};
         });
         Butterfly<a>::run(column, half);
-        each<a - 1>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+        each<a - 1>([&]<int i>(Constant<i>) KOR_INLINED {
             half[i + 1] = half[i + 1] * load_roots<(i + 1) * first, i + 1, n>();
         });
         KOR_UNROLL for (int k1 = a; k1 < 4 * kRowGroups; ++k1) half[k1] = half[0];
@@ -95,11 +95,11 @@ KOR_INLINE void complex_by_rows_and_columns(Sequence x, double scale)
             KOR_UNROLL for (int l = 0; l < 4; ++l) middle[h][first + l] = {turned_re[l], turned_im[l]};
         }
     });
-    each<kRowGroups>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+    each<kRowGroups>([&]<int i>(Constant<i>) KOR_INLINED {
         constexpr int group = kRowGroups - 1 - i;
         Pair<Four> out[b];
         Butterfly<b>::run(static_cast<const Pair<Four> *>(middle[group]), out);
-        each<b>([&]<int k2>(Constant<k2>) __attribute__((always_inline)) {
+        each<b>([&]<int k2>(Constant<k2>) KOR_INLINED {
             constexpr int at = a * k2 + 4 * group, count = at + 4 <= n ? 4 : n - at;
             store_some<count>(x.re + at, scale * out[k2].re);
             store_some<count>(x.im + at, scale * out[k2].im);
@@ -115,8 +115,8 @@ struct PrimeSums {
 
     KOR_INLINE PrimeSums(double x0, const double *sum, const double *difference)
     {
-        each<kHalf>([&]<int l>(Constant<l>) __attribute__((always_inline)) {
-            each<kGroups>([&]<int g>(Constant<g>) __attribute__((always_inline)) {
+        each<kHalf>([&]<int l>(Constant<l>) KOR_INLINED {
+            each<kGroups>([&]<int g>(Constant<g>) KOR_INLINED {
                 const Pair<Four> w = load_roots<(4 * g + 1) * (l + 1), l + 1, p>();
                 even[g] = (l == 0 ? x0 + Four{} : even[g]) + w.re * sum[l];
                 odd[g] = l == 0 ? w.im * difference[l] : odd[g] + w.im * difference[l];
@@ -136,7 +136,7 @@ KOR_INLINE void store_mirrored_halves(double *y, At at, Mirror mirror)
         store_some<4>(y + p - 4 - 4 * g, __builtin_shufflevector(v, v, 3, 2, 1, 0));
     }
     each<kGroups>([&]<int g>(Constant<g>)
-                      __attribute__((always_inline)) { store_some<kHalf - 4 * g>(y + 1 + 4 * g, at(g)); });
+                      KOR_INLINED { store_some<kHalf - 4 * g>(y + 1 + 4 * g, at(g)); });
 }
 
 // Sums and differences of mirrored elements, and the sum of all.
@@ -161,11 +161,11 @@ KOR_INLINE void complex_of_prime_length(Sequence x, double scale)
     const Folded<p> re{x.re}, im{x.im};
     const PrimeSums<p> sums_re{x.re[0], re.sum, re.difference}, sums_im{x.im[0], im.sum, im.difference};
     store_mirrored_halves<p>(
-        x.re, [&](int g) __attribute__((always_inline)) { return scale * (sums_re.even[g] - sums_im.odd[g]); },
-        [&](int g) __attribute__((always_inline)) { return scale * (sums_re.even[g] + sums_im.odd[g]); });
+        x.re, [&](int g) KOR_INLINED { return scale * (sums_re.even[g] - sums_im.odd[g]); },
+        [&](int g) KOR_INLINED { return scale * (sums_re.even[g] + sums_im.odd[g]); });
     store_mirrored_halves<p>(
-        x.im, [&](int g) __attribute__((always_inline)) { return scale * (sums_im.even[g] + sums_re.odd[g]); },
-        [&](int g) __attribute__((always_inline)) { return scale * (sums_im.even[g] - sums_re.odd[g]); });
+        x.im, [&](int g) KOR_INLINED { return scale * (sums_im.even[g] + sums_re.odd[g]); },
+        [&](int g) KOR_INLINED { return scale * (sums_im.even[g] - sums_re.odd[g]); });
     x.re[0] = scale * re.total;
     x.im[0] = scale * im.total;
 }
@@ -176,8 +176,8 @@ KOR_INLINE void real_of_prime_length(double *x, double scale)
     const Folded<p> folded{x};
     const PrimeSums<p> sums{x[0], folded.sum, folded.difference};
     store_mirrored_halves<p>(
-        x, [&](int g) __attribute__((always_inline)) { return scale * sums.even[g]; },
-        [&](int g) __attribute__((always_inline)) { return scale * sums.odd[g]; });
+        x, [&](int g) KOR_INLINED { return scale * sums.even[g]; },
+        [&](int g) KOR_INLINED { return scale * sums.odd[g]; });
     x[0] = scale * folded.total;
 }
 
@@ -193,8 +193,8 @@ KOR_INLINE void hermitian_of_prime_length(double *x, double scale)
     }
     const PrimeSums<p> sums{x[0], sum, difference};
     store_mirrored_halves<p>(
-        x, [&](int g) __attribute__((always_inline)) { return scale * (sums.even[g] - sums.odd[g]); },
-        [&](int g) __attribute__((always_inline)) { return scale * (sums.even[g] + sums.odd[g]); });
+        x, [&](int g) KOR_INLINED { return scale * (sums.even[g] - sums.odd[g]); },
+        [&](int g) KOR_INLINED { return scale * (sums.even[g] + sums.odd[g]); });
     x[0] = scale * total;
 }
 
@@ -218,7 +218,7 @@ void complex_alone(Sequence x, double scale)
     if constexpr (OddPrimeLength<n>)
         return complex_of_prime_length<n>(x, scale);
     else if constexpr (CompositeLength<n> && n > kLargestPlainRadix)
-        return [&]<int a, int b>(const Composite<a, b> *) __attribute__((always_inline))
+        return [&]<int a, int b>(const Composite<a, b> *) KOR_INLINED
         {
             complex_by_rows_and_columns<a, b>(x, scale);
         }

@@ -81,7 +81,7 @@ using Constant = std::integral_constant<int, i>;
 template <int count, class Body>
 KOR_INLINE void each(Body body)
 {
-    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) { (body(Constant<i>{}), ...); }
+    [&]<int... i>(std::integer_sequence<int, i...>) KOR_INLINED { (body(Constant<i>{}), ...); }
     (std::make_integer_sequence<int, count>{});
 }
 
@@ -257,7 +257,7 @@ struct OddPrime {
             total = total + sum[l];
         }
         y[0] = complex(total);
-        each<kHalf>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+        each<kHalf>([&]<int i>(Constant<i>) KOR_INLINED {
             const auto [even, odd] = parts<i + 1>(x[0], sum, difference);
             y[i + 1] = plus_i(even, odd);
             y[p - 1 - i] = minus_i(even, odd);
@@ -274,7 +274,7 @@ struct OddPrime {
             total = total + sum[l];
         }
         y[0] = total;
-        each<kHalf>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+        each<kHalf>([&]<int i>(Constant<i>) KOR_INLINED {
             const auto [even, odd] = parts<i + 1>(x[0].re, sum, difference);
             y[i + 1] = even - odd;
             y[p - 1 - i] = even + odd;
@@ -292,7 +292,7 @@ struct OddPrime {
     {
         constexpr Root w = constant_root(k, p);
         X even = x0 + w.re * sum[0], odd = w.im * difference[0];
-        each<kHalf - 1>([&]<int i>(Constant<i>) __attribute__((always_inline)) {
+        each<kHalf - 1>([&]<int i>(Constant<i>) KOR_INLINED {
             constexpr Root v = constant_root(k * (i + 2), p);
             even = even + v.re * sum[i + 1];
             odd = odd + v.im * difference[i + 1];
@@ -353,15 +353,15 @@ struct Composite {
     KOR_INLINE static void run(const Pair<V> *x, Pair<V> *y)
     {
         Pair<V> half[b][a];
-        each<b>([&]<int l2>(Constant<l2>) __attribute__((always_inline)) {
+        each<b>([&]<int l2>(Constant<l2>) KOR_INLINED {
             Pair<V> column[a];
             KOR_UNROLL for (int l1 = 0; l1 < a; ++l1) column[l1] = x[Complex::from(l1, l2)];
             Butterfly<a>::run(column, half[l2]);
         });
-        each<a>([&]<int k1>(Constant<k1>) __attribute__((always_inline)) {
+        each<a>([&]<int k1>(Constant<k1>) KOR_INLINED {
             Pair<V> row[b], out[b];
             each<b>([&]<int l2>(Constant<l2>)
-                        __attribute__((always_inline)) { row[l2] = between<Complex, k1, l2>(half[l2][k1]); });
+                        KOR_INLINED { row[l2] = between<Complex, k1, l2>(half[l2][k1]); });
             Butterfly<b>::run(row, out);
             KOR_UNROLL for (int k2 = 0; k2 < b; ++k2) y[Complex::to(k1, k2)] = out[k2];
         });
@@ -372,19 +372,19 @@ struct Composite {
     KOR_INLINE static void run(const V *x, Pair<V> *y)
     {
         Pair<V> half[b][a];
-        each<b>([&]<int l2>(Constant<l2>) __attribute__((always_inline)) {
+        each<b>([&]<int l2>(Constant<l2>) KOR_INLINED {
             V column[a];
             KOR_UNROLL for (int l1 = 0; l1 < a; ++l1) column[l1] = x[Packed::from(l1, l2)];
             Butterfly<a>::run(column, half[l2]);
         });
-        const auto store = [&](int k, Pair<V> value) __attribute__((always_inline))
+        const auto store = [&](int k, Pair<V> value) KOR_INLINED
         {
             if (2 * k <= n)
                 y[k] = value;
             else
                 y[n - k] = conjugate(value);
         };
-        each<a / 2 + 1>([&]<int k1>(Constant<k1>) __attribute__((always_inline)) {
+        each<a / 2 + 1>([&]<int k1>(Constant<k1>) KOR_INLINED {
             constexpr bool kRealColumns = k1 == 0 || 2 * k1 == a;
             Pair<V> out[b];
             if constexpr (k1 == 0 || (kRealColumns && !Packed::kTurns)) {
@@ -394,7 +394,7 @@ struct Composite {
                 KOR_UNROLL for (int k2 = 0; k2 <= b / 2; ++k2) store(Packed::to(k1, k2), out[k2]);
             } else {
                 Pair<V> row[b];
-                each<b>([&]<int l2>(Constant<l2>) __attribute__((always_inline)) {
+                each<b>([&]<int l2>(Constant<l2>) KOR_INLINED {
                     if constexpr (kRealColumns)
                         row[l2] = between<Packed, k1, l2>(half[l2][k1].re);
                     else
@@ -412,9 +412,9 @@ struct Composite {
     template <class V>
     KOR_INLINE static void run_to_real(const Pair<V> *x, V *y)
     {
-        const auto load = [&](int l) __attribute__((always_inline)) { return 2 * l <= n ? x[l] : conjugate(x[n - l]); };
+        const auto load = [&](int l) KOR_INLINED { return 2 * l <= n ? x[l] : conjugate(x[n - l]); };
         Pair<V> row[a][b / 2 + 1];
-        each<b / 2 + 1>([&]<int l2>(Constant<l2>) __attribute__((always_inline)) {
+        each<b / 2 + 1>([&]<int l2>(Constant<l2>) KOR_INLINED {
             Pair<V> column[a];
             if constexpr (l2 == 0 || (2 * l2 == b && !Packed::kTurns)) {
                 V half[a];
@@ -426,7 +426,7 @@ struct Composite {
                 KOR_UNROLL for (int l1 = 0; l1 < a; ++l1) column[l1] = load(Packed::from(l1, l2));
                 Butterfly<a>::run(column, half);
                 each<a>([&]<int k1>(Constant<k1>)
-                            __attribute__((always_inline)) { row[k1][l2] = between<Packed, k1, l2>(half[k1]); });
+                            KOR_INLINED { row[k1][l2] = between<Packed, k1, l2>(half[k1]); });
             }
         });
         KOR_UNROLL for (int k1 = 0; k1 < a; ++k1)

@@ -101,10 +101,10 @@ KOR_INLINE void complex_butterfly(const Radix &radix, Access access, Source sour
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) { points.x[l] = before(l, source.load(access, l)); });
+        radix.radix, [&](Index l) KOR_INLINED { points.x[l] = before(l, source.load(access, l)); });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index k) __attribute__((always_inline)) { target.store(access, k, after(k, points.y[k])); });
+        radix.radix, [&](Index k) KOR_INLINED { target.store(access, k, after(k, points.y[k])); });
 }
 
 // Rows that follow each other without a gap are one long row.
@@ -126,7 +126,7 @@ KOR_INLINE void complex_row(const Radix &radix, const Block &block, Index a, Seq
         const Index from = (a * block.before + b) * block.in_row;
         const Index to = (a * radix.radix * block.before + b) * block.out_row;
         deal<Radix>(
-            block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+            block.width, [&](auto access, Index c) KOR_INLINED {
                 const Rows source{{in.re + from + c, in.im + from + c}, block.after * block.before * block.in_row};
                 const Rows target{{out.re + to + c, out.im + to + c}, block.before * block.out_row};
                 complex_butterfly(radix, access, source, target, NoTwiddle{}, twiddle);
@@ -151,7 +151,7 @@ void complex_pass(const Stage &stage, const Block &given, Sequence in, Sequence 
     if constexpr (Radix::kInRegisters) {
         if (across_rows<Radix>(block, block.after)) {
             return cover_full(
-                block.after, [&](auto full, Index a) __attribute__((always_inline)) {
+                block.after, [&](auto full, Index a) KOR_INLINED {
                     const Index to = a * radix.radix;
                     const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, a};
                     complex_butterfly(radix, ToAfar{full, radix.radix}, Rows{{in.re + a, in.im + a}, block.after},
@@ -171,7 +171,7 @@ bool complex_whole(const Stage &stage, const Block &given, Sequence in, Sequence
     bool done = true;
     for (Index b = 0; b < block.before && done; ++b)
         done = deal_whole<Radix>(
-            block, [&](auto access, Index c) __attribute__((always_inline)) {
+            block, [&](auto access, Index c) KOR_INLINED {
                 const Index from = b * block.in_row + c, to = b * block.out_row + c;
                 const WholeRows source{{in.re + from, in.im + from}, block.before * block.in_row, radix.radix};
                 const WholeRows target{{out.re + to, out.im + to}, block.before * block.out_row, radix.radix};
@@ -251,7 +251,7 @@ void columns_pass(const Stage &stage, const Block &block, const Columns &columns
             const Index start = a * block.before + b, spread = block.after * block.before;
             const Index far_start = a * radix.radix * block.before + b;
             deal<Radix>(
-                block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                block.width, [&](auto access, Index c) KOR_INLINED {
                     const auto source = kBack ? rows_of<from>(columns, block.in_row, in, far_start, block.before, c)
                                               : rows_of<from>(columns, block.in_row, in, start, spread, c);
                     const auto target = kBack ? rows_of<to>(columns, block.out_row, out, start, spread, c)
@@ -325,7 +325,7 @@ void factors_pass(const Stage &stage, const Block &block, const Columns &columns
         for (Index b = 0; b < block.before; ++b) {
             const Index start = a * block.before + b, far_start = a * radix.radix * block.before + b;
             deal<Radix>(
-                block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+                block.width, [&](auto access, Index c) KOR_INLINED {
                     const auto source = rows_of<from>(columns, block.in_row, in, start, spread, c);
                     const auto target = rows_of<to>(columns, block.out_row, out, far_start, block.before, c);
                     const FactorsAt<decltype(access)> before{access, factors, start, spread, c};
@@ -333,13 +333,13 @@ void factors_pass(const Stage &stage, const Block &block, const Columns &columns
                     const SameForAll twiddle{stage, a};
                     complex_butterfly(
                         radix, access, source, target,
-                        [&](Index l, auto x) __attribute__((always_inline)) {
+                        [&](Index l, auto x) KOR_INLINED {
                             if constexpr (kFactorsBefore)
                                 return before(l, x);
                             else
                                 return x;
                         },
-                        [&](Index k, auto y) __attribute__((always_inline)) {
+                        [&](Index k, auto y) KOR_INLINED {
                             if (a > 0) y = twiddle(k, y);
                             if constexpr (kFactorsAfter)
                                 return after(k, y);

@@ -48,7 +48,7 @@ KOR_INLINE void with_radix(const Stage &stage, Body body)
 template <Kind kind, class Body>
 KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
 {
-    const auto is_this = [&]<int p>(Constant<p>) __attribute__((always_inline))
+    const auto is_this = [&]<int p>(Constant<p>) KOR_INLINED
     {
         if constexpr (has_butterfly(kind, p)) {
             if (stage.radix != p) return false;
@@ -57,7 +57,7 @@ KOR_INLINE void with_whole_radix(const Stage &stage, Body body)
         }
         return false;
     };
-    const bool done = [&]<int... p>(std::integer_sequence<int, p...>) __attribute__((always_inline))
+    const bool done = [&]<int... p>(std::integer_sequence<int, p...>) KOR_INLINED
     {
         return (is_this(Constant<p>{}) || ...);
     }

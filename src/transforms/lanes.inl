@@ -1,7 +1,15 @@
 // Several doubles at a time, in the registers of the generation that the includer compiles for. Part of kernels.inl.
 
+// Sanitizers make functions that large slow to compile, beyond all measure.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define KOR_INLINE inline
+#define KOR_INLINED
+#define KOR_UNROLL
+#else
 #define KOR_INLINE [[gnu::always_inline]] inline
+#define KOR_INLINED __attribute__((always_inline)) // of lambdas
 #define KOR_UNROLL _Pragma("GCC unroll 48")
+#endif
 
 inline constexpr Index kLanes = KOR_LANES;
 typedef double Lanes __attribute__((vector_size(8 * KOR_LANES)));

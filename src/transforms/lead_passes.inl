@@ -68,13 +68,13 @@ void complex_lead(const Stage *stages, Sequence in, Sequence out)
 
 inline void any_complex_lead(const Stage *stages, int count, Sequence in, Sequence out)
 {
-    const auto is_this = [&]<int i>(Constant<i>) __attribute__((always_inline))
+    const auto is_this = [&]<int i>(Constant<i>) KOR_INLINED
     {
         if (!kLeads[i].is(stages, count)) return false;
         complex_lead<i>(stages, in, out);
         return true;
     };
-    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline))
+    [&]<int... i>(std::integer_sequence<int, i...>) KOR_INLINED
     {
         (void)(is_this(Constant<i>{}) || ...);
     }

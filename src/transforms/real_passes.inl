@@ -18,13 +18,13 @@ KOR_INLINE void real_butterfly_at_zero(const Radix &radix, Access access, const 
     using V = typename Access::Value;
     typename Radix::template Points<V, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             const double *const row = in + l * layout.row_step;
             points.x[l] = l + 1 < radix.radix ? access.load(row) : access.load_last(row);
         });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index g) __attribute__((always_inline)) {
+        radix.radix, [&](Index g) KOR_INLINED {
             const V part = 2 * g <= radix.radix ? points.y[g].re : points.y[radix.radix - g].im;
             double *const row = out + g * r * layout.long_step;
             g + 1 < radix.radix ? access.store(row, scale * part) : access.store_last(row, scale * part);
@@ -44,7 +44,7 @@ KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLa
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             const double *row = in + l * layout.row_step;
             Pair<V> x{access.load(row + f * layout.short_step),
                       access.load_mirrored(row + (r - f) * layout.short_step)};
@@ -53,7 +53,7 @@ KOR_INLINE void real_butterfly(const Radix &radix, Access access, const PackedLa
         });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index i) __attribute__((always_inline)) {
+        radix.radix, [&](Index i) KOR_INLINED {
             const Index k = radix.radix - 1 - i;
             double *const here = out + (f + r * k) * layout.long_step;
             double *const mirror = out + (r * (radix.radix - k) - f) * layout.long_step;
@@ -76,11 +76,11 @@ KOR_INLINE void real_butterfly_at_half(const Radix &radix, Access access, const 
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             points.x[l] = twiddle(l, Pair<V>{access.load(in + l * layout.row_step + r / 2 * layout.short_step), V{}});
         });
     radix.run(points);
-    radix.loop((radix.radix + 1) / 2, [&](Index k) __attribute__((always_inline)) {
+    radix.loop((radix.radix + 1) / 2, [&](Index k) KOR_INLINED {
         access.store(out + (r / 2 + r * k) * layout.long_step, points.y[k].re);
         if (2 * k + 1 < radix.radix)
             access.store(out + (r * (radix.radix - k) - r / 2) * layout.long_step, points.y[k].im);
@@ -94,8 +94,8 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, V> points{radix};
     radix.loop(
-        radix.radix / 2 + 1, [&](Index k) __attribute__((always_inline)) {
-            const auto load = [&](Index g) __attribute__((always_inline))
+        radix.radix / 2 + 1, [&](Index k) KOR_INLINED {
+            const auto load = [&](Index g) KOR_INLINED
             {
                 const double *const row = in + g * r * layout.long_step;
                 return g + 1 < radix.radix ? access.load(row) : access.load_last(row);
@@ -104,7 +104,7 @@ KOR_INLINE void hermitian_butterfly_at_zero(const Radix &radix, Access access, c
         });
     radix.run_to_real(points);
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             double *const row = out + l * layout.row_step;
             l + 1 < radix.radix ? access.store(row, scale * points.y[l]) : access.store_last(row, scale * points.y[l]);
         });
@@ -117,7 +117,7 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
     radix.loop(
-        radix.radix, [&](Index k) __attribute__((always_inline)) {
+        radix.radix, [&](Index k) KOR_INLINED {
             const double *const here = in + (f + r * k) * layout.long_step;
             const double *const mirror = in + (r * (radix.radix - k) - f) * layout.long_step;
             if (2 * k < radix.radix)
@@ -128,7 +128,7 @@ KOR_INLINE void hermitian_butterfly(const Radix &radix, Access access, const Pac
         });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             const Pair<V> y = twiddle(l, points.y[l]);
             double *const row = out + l * layout.row_step;
             access.store_mirrored(row + (r - f) * layout.short_step, y.im);
@@ -142,7 +142,7 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
 {
     using V = typename Access::Value;
     typename Radix::template Points<Pair<V>, Pair<V>> points{radix};
-    radix.loop((radix.radix + 1) / 2, [&](Index k) __attribute__((always_inline)) {
+    radix.loop((radix.radix + 1) / 2, [&](Index k) KOR_INLINED {
         const V re = access.load(in + (r / 2 + r * k) * layout.long_step);
         if (2 * k + 1 == radix.radix) {
             points.x[k] = {re, V{}};
@@ -154,7 +154,7 @@ KOR_INLINE void hermitian_butterfly_at_half(const Radix &radix, Access access, c
     });
     radix.run(points);
     radix.loop(
-        radix.radix, [&](Index l) __attribute__((always_inline)) {
+        radix.radix, [&](Index l) KOR_INLINED {
             access.store(out + l * layout.row_step + r / 2 * layout.short_step, twiddle(l, points.y[l]).re);
         });
 }
@@ -214,7 +214,7 @@ KOR_INLINE void over_rows(const Block &block, const double *in, double *out, Bod
 {
     for (Index b = 0; b < block.before; ++b)
         deal<Radix>(
-            block.width, [&](auto access, Index c) __attribute__((always_inline)) {
+            block.width, [&](auto access, Index c) KOR_INLINED {
                 butterfly(SideBySide<decltype(access)>{access}, in + b * block.in_row + c, out + b * block.out_row + c);
             });
 }
@@ -228,14 +228,14 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
     const Index r = block.after;
     const PackedLayout layout = layout_of<Direction>(block, radix.radix);
     over_rows<Radix>(
-        block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+        block, in, out, [&](auto access, const double *from, double *to) KOR_INLINED {
             Direction::at_zero(radix, access, layout, r, from, to, kUnscaled);
         });
     if constexpr (Radix::kInRegisters) {
         const Index count = r / 2;
         if (across_rows<Radix>(block, count)) {
             return cover_full(
-                count, [&](auto full, Index i) __attribute__((always_inline)) {
+                count, [&](auto full, Index i) KOR_INLINED {
                     const bool to_half = r % 2 == 0 && i + kLanes == count;
                     const OneForEach<Full, Radix::kRootsInTable> twiddle{full, stage, 1 + i};
                     Direction::between(radix, typename Direction::Afar{full, layout.short_step}, layout, r, 1 + i,
@@ -245,12 +245,12 @@ void packed_pass(const Stage &stage, const Block &given, const double *in, doubl
     }
     for (Index f = 1; f <= (r - 1) / 2; ++f) // each with its mirror
         over_rows<Radix>(
-            block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            block, in, out, [&](auto access, const double *from, double *to) KOR_INLINED {
                 Direction::between(radix, access, layout, r, f, false, from, to, SameForAll{stage, f * block.spread});
             });
     if (r % 2 == 0)
         over_rows<Radix>(
-            block, in, out, [&](auto access, const double *from, double *to) __attribute__((always_inline)) {
+            block, in, out, [&](auto access, const double *from, double *to) KOR_INLINED {
                 Direction::at_half(radix, access, layout, r, from, to, SameForAll{stage, r / 2 * block.spread});
             });
 }
@@ -264,7 +264,7 @@ bool packed_whole(const Stage &stage, const Block &given, const double *in, doub
     bool done = true;
     for (Index b = 0; b < block.before && done; ++b)
         done = deal_whole<Radix>(
-            block, [&](auto access, Index c) __attribute__((always_inline)) {
+            block, [&](auto access, Index c) KOR_INLINED {
                 Direction::at_zero(radix, access, layout, 1, in + b * block.in_row + c, out + b * block.out_row + c,
                                    scale);
             });

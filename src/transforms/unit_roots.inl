@@ -131,7 +131,7 @@ inline void root_table(const Stages &stages, Index n, double *trig)
     const double length = static_cast<double>(n);
     double place[kLanes] = {};   // of the roots that are still to be written
     Index pending = 0, next = 0; // how many they are, and where the first of them goes
-    const auto flush = [&]() __attribute__((always_inline))
+    const auto flush = [&]() KOR_INLINED
     {
         store_roots(load_lanes(place), length, unit, pending, trig + next, trig + n + next);
         next += pending;
