@@ -76,14 +76,14 @@ bool reduce_in_blocks(Integer n, T *a, double *d, double *e, double *left, doubl
     T best;
     lapack::gebrd(n, n, a, n, d, e, &best, &best, &best, -1);
     const Integer lwork = static_cast<Integer>(real(best));
-    const Workspace<T> work(Count{lwork} + Count{n} * 2);
+    const Workspace<T> work(Count{n} * 2 + lwork + RoomyCopy<T>::behind_work(n));
     if (!work) return false;
-    T *const tau_left = work.data() + lwork, *const tau_right = tau_left + n;
+    T *const tau_left = work.data(), *const tau_right = tau_left + n, *const room = tau_right + n;
     const RoomyCopy<T> matrix{n, n, a, n};
     if (!matrix) return false;
     transpose_in_place<false>(n, a, n);
     matrix.take();
-    lapack::gebrd(n, n, matrix.data(), n, d, e, tau_left, tau_right, work.data(), lwork);
+    lapack::gebrd(n, n, matrix.data(), n, d, e, tau_left, tau_right, room, lwork);
     matrix.give_back();
     transpose_in_place<false>(n, a, n);
     const RowMajor<T> A{a, n};

@@ -2,7 +2,8 @@
 //
 // The complex gemv of OpenBLAS (seen in 0.3.21) reads some elements beyond the end of a vector that is not contiguous. To
 // LAPACK the rows of its matrix are such vectors, and what lies beyond the last element is outside the array of the caller.
-// Therefore a complex matrix is worked on in a copy with rows to spare; a real one stays where it is.
+// Therefore a complex matrix is worked on in a copy with rows to spare; a real one stays where it is. LAPACK's work space, where
+// it keeps matrices of its own, needs as much room behind it.
 #pragma once
 
 #include <type_traits>
@@ -21,6 +22,9 @@ class RoomyCopy {
         : m_{m}, n_{n}, tda_{tda}, a_{a}, copy_{kCopies ? (Count{m} + kSpare) * n : Count{1}}
     {
     }
+
+    // Elements behind a work space in which the columns of matrices have so many elements.
+    static Count behind_work(Integer column) { return Count{kCopies ? kSpare : 0} * column; }
 
     explicit operator bool() const { return static_cast<bool>(copy_); }
     T *data() const { return kCopies ? copy_.data() : a_; }

@@ -161,7 +161,7 @@ SingularOutcome by_divide_and_conquer(Integer m, Integer n, T *a, Integer tda, d
     decompose_in(&best, -1);
     const double room = real(best);
     if (!(room < 0x1p31)) return SingularOutcome::no_memory;
-    Workspace<T> work(Count{static_cast<Integer>(room)});
+    Workspace<T> work(Count{static_cast<Integer>(room)} + RoomyCopy<T>::behind_work(std::max(m, n)));
     if (!work) return SingularOutcome::no_memory;
     matrix.take();
     if (decompose_in(work.data(), static_cast<Integer>(room)) != 0) return SingularOutcome::no_convergence;

@@ -80,7 +80,7 @@ class EigenRoom {
         size_ = {static_cast<Integer>(real(best_work)), complex ? static_cast<Integer>(best_rwork) : 1, best_iwork};
         matrix_.emplace(n, n, a, tda);
         is_there_ =
-            *matrix_ && work_.allocate(size_.work) && rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
+            *matrix_ && work_.allocate(Count{size_.work} + RoomyCopy<T>::behind_work(n)) && rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
     }
     explicit operator bool() const { return is_there_; }
 

@@ -97,13 +97,13 @@ bool reduce_in_blocks(bool want_basis, Integer n, T *a, Integer tda, double *d, 
     lapack::hetrd('U', n, matrix.data(), matrix.td(), d, e + 1, &unused, &best[0], -1);
     lapack::orgtr('U', n, matrix.data(), matrix.td(), &unused, &best[1], -1);
     const Integer lwork = static_cast<Integer>(std::max(real(best[0]), real(best[1])));
-    Workspace<T> work(Count{lwork} + n);
+    Workspace<T> work(Count{n} + lwork + RoomyCopy<T>::behind_work(n));
     if (!work) return false;
-    T *const tau = work.data() + lwork;
+    T *const tau = work.data(), *const room = tau + n;
     matrix.take();
-    lapack::hetrd('U', n, matrix.data(), matrix.td(), d, e + 1, tau, work.data(), lwork);
+    lapack::hetrd('U', n, matrix.data(), matrix.td(), d, e + 1, tau, room, lwork);
     e[0] = 0.0;
-    if (want_basis) lapack::orgtr('U', n, matrix.data(), matrix.td(), tau, work.data(), lwork);
+    if (want_basis) lapack::orgtr('U', n, matrix.data(), matrix.td(), tau, room, lwork);
     matrix.give_back();
     if (!want_basis) return true;
     if constexpr (std::is_same_v<T, Complex>)
