@@ -79,8 +79,8 @@ class EigenRoom {
         constexpr bool complex = std::is_same_v<T, Complex>;
         size_ = {static_cast<Integer>(real(best_work)), complex ? static_cast<Integer>(best_rwork) : 1, best_iwork};
         matrix_.emplace(n, n, a, tda);
-        is_there_ =
-            *matrix_ && work_.allocate(Count{size_.work} + RoomyCopy<T>::behind_work(n)) && rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
+        is_there_ = *matrix_ && work_.allocate(Count{size_.work} + RoomyCopy<T>::behind_work(n)) &&
+                    rwork_.allocate(size_.rwork) && iwork_.allocate(size_.iwork);
     }
     explicit operator bool() const { return is_there_; }
 

@@ -40,8 +40,8 @@ class PrimeTransform {
     Workspace<double> table_; // of roots for length_
     Workspace<double> memory_;
     Workspace<Integer> powers_; // g^q modulo p, q = 0..p-2
-    double *kernel_ = nullptr; // packed transform of the kernel, divided by length_
-    double *signal_ = nullptr; // the sequences that are convolved: real parts, then imaginary parts
+    double *kernel_ = nullptr;  // packed transform of the kernel, divided by length_
+    double *signal_ = nullptr;  // the sequences that are convolved: real parts, then imaginary parts
     double *work_ = nullptr;
 };
 
