@@ -43,6 +43,8 @@ void Rows::transform(Index m, Sequence x)
     if (n_ == 1) return;
     const double scale = unitary_scale(n_);
     const bool complex = kind_ == Kind::complex;
+    // Transposed by squares of registers, which should fit into the rows.
+    const Kernels &turning = kernels_for_lanes(n_ % 8 == 4 ? 4 : 8);
     for (Index i = 0; i < m; i += side_by_side_) {
         const Sequence row{x.re + i * n_, complex ? x.im + i * n_ : nullptr};
         if (side_by_side_ == 1) {
@@ -53,11 +55,11 @@ void Rows::transform(Index m, Sequence x)
         double *const start = at_line(memory_);
         const Sequence columns{start, complex ? start + size : nullptr};
         const Sequence spare{columns.re + (complex ? 2 : 1) * size, complex ? columns.re + 3 * size : nullptr};
-        kernels().transpose(count, n_, row.re, n_, columns.re, count);
-        if (complex) kernels().transpose(count, n_, row.im, n_, columns.im, count);
+        turning.transpose(count, n_, row.re, n_, columns.re, count);
+        if (complex) turning.transpose(count, n_, row.im, n_, columns.im, count);
         const Sequence done = plan_.transform_side_by_side(count, columns, spare, scale);
-        kernels().transpose(n_, count, done.re, count, row.re, n_);
-        if (complex) kernels().transpose(n_, count, done.im, count, row.im, n_);
+        turning.transpose(n_, count, done.re, count, row.re, n_);
+        if (complex) turning.transpose(n_, count, done.im, count, row.im, n_);
     }
 }
 
