@@ -30,7 +30,7 @@ KOR_BEGIN_DECLS
 /// The data are then untouched.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16.
-/// The results are the same bits on every processor.
+/// The results are the same on every processor, but for the signs of zeros.
 /// \par Method
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
@@ -65,7 +65,7 @@ void c06eac(Integer n, double x[], KorError *fail);
 /// The data are then untouched.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16.
-/// The results are the same bits on every processor.
+/// The results are the same on every processor, but for the signs of zeros.
 /// \par Method
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
@@ -98,7 +98,7 @@ void c06ebc(Integer n, double x[], KorError *fail);
 /// The data are then untouched.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16.
-/// The results are the same bits on every processor.
+/// The results are the same on every processor, but for the signs of zeros.
 /// \par Method
 /// Mixed radix, n taken as a product that reads the same from either end but for a middle that has each prime at most
 /// once, so that the permutation is done by swaps (Singleton, IEEE Trans. Audio Electroacoust. AU-17 (1969) 93-103;
@@ -169,7 +169,7 @@ void c06ekc(Integer Operation, Integer n, double x[], double y[], KorError *fail
 /// untouched after any of them.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16,
-/// for prime lengths as well. A sequence gives the same bits wherever it stands among the others, and on every
+/// for prime lengths as well. A sequence gives the same numbers wherever it stands among the others, and on every
 /// processor.
 /// \par Method
 /// Mixed radix with the factors 6, 4, 2, 3, 5 and larger primes, self-sorting (Stockham; Temperton, J. Comput. Phys. 52
@@ -209,7 +209,7 @@ void c06fpc(Integer m, Integer n, double x[], const double trig[], KorError *fai
 /// untouched after any of them.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16,
-/// for prime lengths as well. A sequence gives the same bits wherever it stands among the others, and on every
+/// for prime lengths as well. A sequence gives the same numbers wherever it stands among the others, and on every
 /// processor.
 /// \par Method
 /// Mixed radix with the factors 6, 4, 2, 3, 5 and larger primes, self-sorting (Stockham; Temperton, J. Comput. Phys. 52
@@ -247,7 +247,7 @@ void c06fqc(Integer m, Integer n, double x[], const double trig[], KorError *fai
 /// untouched after any of them.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16,
-/// for prime lengths as well. A sequence gives the same bits wherever it stands among the others, and on every
+/// for prime lengths as well. A sequence gives the same numbers wherever it stands among the others, and on every
 /// processor.
 /// \par Method
 /// Mixed radix with the factors 6, 4, 2, 3, 5 and larger primes, self-sorting (Stockham; Temperton, J. Comput. Phys. 52
@@ -286,7 +286,7 @@ void c06frc(Integer m, Integer n, double x[], double y[], const double trig[], K
 /// last report. The data are untouched after any of them.
 /// \par Accuracy
 /// The root-mean-square error, relative to the root mean square of the result, stays near 0.1 log2(n) units of 2.2e-16,
-/// for prime lengths as well. A sequence gives the same bits wherever it stands among the others, and on every
+/// for prime lengths as well. A sequence gives the same numbers wherever it stands among the others, and on every
 /// processor.
 /// \par Method
 /// The rows, then, through a transposed copy of the array, the columns, each as by c06frc().

@@ -1,6 +1,6 @@
 // Transforms of one short sequence in place, whose length has a butterfly of its own. Part of kernels.inl.
 //
-// The roundings are those of the butterflies: a sequence gives the same bits here as among others.
+// The roundings are those of the butterflies: a sequence gives the same numbers here as among others.
 
 #if KOR_LANES >= 4
 // Four at a time, whatever the generation.

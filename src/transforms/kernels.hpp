@@ -1,7 +1,7 @@
 // The vectorised inner loops of the chapter, compiled once for each generation of processors.
 //
 // Every generation runs the same arithmetic in the same order on every element; only the number of elements in a
-// register differs. Results are therefore the same bits on every processor.
+// register differs. Results are therefore the same on every processor, but for signs of zeros (products with 1).
 #pragma once
 
 #include <cstdint>
